@@ -1,0 +1,12 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds, and runs every test offscreen.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+bash scripts/install-deps.sh
+bash scripts/build.sh Release
+export QT_QPA_PLATFORM=offscreen
+cd build-release
+set +e
+ctest --output-on-failure -j "$(nproc)"
+status=$?
+exit $status
