@@ -13,6 +13,7 @@
 #include <QEvent>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QMenuBar>
@@ -222,10 +223,16 @@ QAction* MDIForm1::menu(const QString& nom) const {
     return nullptr;
 }
 
-QLabel* MDIForm1::panneau(int numéro) const { return StatusBar1->findChild<QLabel*>(QStringLiteral("Panel%1").arg(numéro)); }
+QLabel* MDIForm1::panneau(int numéro) const {
+    return StatusBar1->findChild<QLabel*>(QStringLiteral("Panel%1").arg(numéro));
+}
 
-QString MDIForm1::Panel1() const { return panneau(1)->text(); }
-void MDIForm1::setPanel1(const QString& texte) { panneau(1)->setText(texte); }
+QString MDIForm1::Panel1() const {
+    return panneau(1)->text();
+}
+void MDIForm1::setPanel1(const QString& texte) {
+    panneau(1)->setText(texte);
+}
 
 void MDIForm1::désactiver_menus() {
     for (const char* nom : menus_de_données)

@@ -1,10 +1,10 @@
 #include "shell/dessins.h"
 
 #include <QLinearGradient>
-#include <functional>
 #include <QPainter>
 #include <QPainterPath>
 #include <QRadialGradient>
+#include <functional>
 
 namespace {
 
@@ -232,6 +232,12 @@ QPixmap dessin_école(const QSize& taille) {
     });
 }
 
-QPixmap dessin_cahier(const QSize& taille) { return toile(taille, QSizeF(100, 100), cahier); }
-QPixmap dessin_cadenas(const QSize& taille) { return toile(taille, QSizeF(100, 100), cadenas); }
-QPixmap dessin_clé(const QSize& taille) { return toile(taille, QSizeF(100, 100), clé); }
+QPixmap dessin_cahier(const QSize& taille) {
+    return toile(taille, QSizeF(100, 100), cahier);
+}
+QPixmap dessin_cadenas(const QSize& taille) {
+    return toile(taille, QSizeF(100, 100), cadenas);
+}
+QPixmap dessin_clé(const QSize& taille) {
+    return toile(taille, QSizeF(100, 100), clé);
+}

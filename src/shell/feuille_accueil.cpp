@@ -89,20 +89,21 @@ void feuille_accueil::construire() {
     lblPlatform = étiquette(Frame1, "lblPlatform", QStringLiteral("Pour Windows et Linux"), 1.1, false, gris);
     grille->addWidget(lblPlatform, 2, 1, 1, 2);
     lblCompany = étiquette(Frame1, "lblCompany",
-                           QStringLiteral("La gestion administrative de l'école\nmaternelle et élémentaire"), 1.1,
-                           true, encre);
+                           QStringLiteral("La gestion administrative de l'école\nmaternelle et élémentaire"),
+                           1.1, true, encre);
     grille->addWidget(lblCompany, 3, 1, 1, 2);
     grille->setRowStretch(4, 1);
-    lblWarning = étiquette(Frame1, "lblWarning",
-                           QStringLiteral("Avertissement : ce logiciel est protégé par le droit d'auteur. Toute "
-                                          "reproduction ou diffusion, même partielle, sans autorisation est "
-                                          "interdite."),
-                           0.85, false, gris);
+    lblWarning =
+        étiquette(Frame1, "lblWarning",
+                  QStringLiteral("Avertissement : ce logiciel est protégé par le droit d'auteur. Toute "
+                                 "reproduction ou diffusion, même partielle, sans autorisation est "
+                                 "interdite."),
+                  0.85, false, gris);
     lblWarning->setWordWrap(true);
     grille->addWidget(lblWarning, 6, 0, 1, 3);
 
-    Label1 = étiquette(Frame1, "Label1", QStringLiteral("Cliquez ou pressez une touche quelconque"), 1.35, true,
-                       encre);
+    Label1 = étiquette(Frame1, "Label1", QStringLiteral("Cliquez ou pressez une touche quelconque"), 1.35,
+                       true, encre);
     Label1->setAlignment(Qt::AlignCenter);
     Label1->setMargin(6);
     fixer_BackColor(*Label1, jaune_pâle);
@@ -138,7 +139,9 @@ void feuille_accueil::Timer1_Timer() {
     }
 }
 
-bool feuille_accueil::encore_chargée() const { return module1().feuilles().siChargée<feuille_accueil>() == this; }
+bool feuille_accueil::encore_chargée() const {
+    return module1().feuilles().siChargée<feuille_accueil>() == this;
+}
 
 // By mouse, the splash goes first and the main window follows.
 void feuille_accueil::Click() {

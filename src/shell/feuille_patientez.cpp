@@ -23,4 +23,6 @@ feuille_patientez::feuille_patientez() : Feuille(QStringLiteral("feuille_patient
     disposition->addWidget(Label1);
 }
 
-void feuille_patientez::Form_Load() { centrer_feuille(*this); }
+void feuille_patientez::Form_Load() {
+    centrer_feuille(*this);
+}

@@ -16,7 +16,9 @@ namespace {
 constexpr int erreur_fichier_déjà_ouvert = 55;
 constexpr int erreur_accès_chemin = 75;
 
-QString chemin_options() { return module1().chemin_application + QStringLiteral("options.ini"); }
+QString chemin_options() {
+    return module1().chemin_application + QStringLiteral("options.ini");
+}
 
 // A child screen cannot exist without the main window: the first touch of the options brings it up,
 // and its own load reads the options in its turn, before this reading goes on.
@@ -29,7 +31,8 @@ feuille_options& options_chargées() {
 // The file stays open after a failed reading, as the classic runtime leaves it: the next reading or
 // writing of this run meets it.
 void vérifier_fichier_fermé() {
-    if (const MDIForm1* mdi = module1().feuilles().siChargée<MDIForm1>(); mdi && mdi->fichier_options_resté_ouvert)
+    if (const MDIForm1* mdi = module1().feuilles().siChargée<MDIForm1>();
+        mdi && mdi->fichier_options_resté_ouvert)
         throw VbError(erreur_fichier_déjà_ouvert);
 }
 
@@ -62,7 +65,9 @@ int valeur_case(const QCheckBox* caseàcocher) {
 void fixer_case(QCheckBox* caseàcocher, int valeur) {
     if (valeur == 2)
         caseàcocher->setTristate(true);
-    caseàcocher->setCheckState(valeur == 1 ? Qt::Checked : valeur == 2 ? Qt::PartiallyChecked : Qt::Unchecked);
+    caseàcocher->setCheckState(valeur == 1   ? Qt::Checked
+                               : valeur == 2 ? Qt::PartiallyChecked
+                                             : Qt::Unchecked);
 }
 
 void lire_options() {

@@ -74,7 +74,8 @@ feuille_choix_base::feuille_choix_base() : Feuille(QStringLiteral("feuille_choix
 
     auto* boutons = new QVBoxLayout;
     boutons->setSpacing(6);
-    cmdMettreàjour = bouton(this, "cmdMettreàjour", "&Ouvrir", "Cliquez pour ouvrir la base de données sélectionnée");
+    cmdMettreàjour =
+        bouton(this, "cmdMettreàjour", "&Ouvrir", "Cliquez pour ouvrir la base de données sélectionnée");
     cmdMettreàjour->setDefault(true);
     cmdFermer = bouton(this, "cmdFermer", "&Annuler", "Cliquez pour annuler");
     boutons->addWidget(cmdMettreàjour);
@@ -87,15 +88,20 @@ feuille_choix_base::feuille_choix_base() : Feuille(QStringLiteral("feuille_choix
                         "intégralement dupliquée)");
     cmdSupprimer = bouton(fichiers, "cmdSupprimer", "&Supprimer",
                           "Cliquez pour supprimer définitivement la base de données sélectionnée");
-    Command2 = bouton(fichiers, "Command2", "&Compacter", "Cliquez pour compacter la base de données sélectionnée");
-    Command3 = bouton(fichiers, "Command3", "C&réer", "Cliquez pour créer une nouvelle base de données totalement vide");
-    Command6 = bouton(fichiers, "Command6", "Re&nommer", "Cliquez pour renommer une base de données existante");
-    Command4 = bouton(fichiers, "Command4", "Sau&vegarder",
-                      "Cliquez pour sauvegarder la base de données sélectionnée dans un autre dossier OU sur un "
-                      "autre support");
-    Command5 = bouton(fichiers, "Command5", "&Restaurer",
-                      "Cliquez pour restaurer une base de données sauvegardée à partir d'un un autre dossier OU "
-                      "d'un autre support");
+    Command2 =
+        bouton(fichiers, "Command2", "&Compacter", "Cliquez pour compacter la base de données sélectionnée");
+    Command3 = bouton(fichiers, "Command3", "C&réer",
+                      "Cliquez pour créer une nouvelle base de données totalement vide");
+    Command6 =
+        bouton(fichiers, "Command6", "Re&nommer", "Cliquez pour renommer une base de données existante");
+    Command4 =
+        bouton(fichiers, "Command4", "Sau&vegarder",
+               "Cliquez pour sauvegarder la base de données sélectionnée dans un autre dossier OU sur un "
+               "autre support");
+    Command5 =
+        bouton(fichiers, "Command5", "&Restaurer",
+               "Cliquez pour restaurer une base de données sauvegardée à partir d'un un autre dossier OU "
+               "d'un autre support");
     for (QPushButton* b : {cmdAjouter, cmdSupprimer, Command2, Command3, Command6, Command4, Command5})
         colonne->addWidget(b);
     boutons->addWidget(fichiers);
@@ -140,7 +146,9 @@ void feuille_choix_base::Dir1_Change() {
     Label4->setText(QString());
 }
 
-QString feuille_choix_base::chemin_sélectionné() const { return File1->Path() + QDir::separator() + File1->FileName(); }
+QString feuille_choix_base::chemin_sélectionné() const {
+    return File1->Path() + QDir::separator() + File1->FileName();
+}
 
 // A single click already makes the file the current base, before any code is asked for.
 void feuille_choix_base::File1_Click() {
@@ -160,7 +168,9 @@ void feuille_choix_base::File1_DblClick() {
     });
 }
 
-void feuille_choix_base::cmdMettreàjour_Click() { ouvrir_base_choisie(); }
+void feuille_choix_base::cmdMettreàjour_Click() {
+    ouvrir_base_choisie();
+}
 
 void feuille_choix_base::cmdFermer_Click() {
     module1().interaction().setMousePointer(vbDefault);

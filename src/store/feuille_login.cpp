@@ -70,7 +70,8 @@ feuille_login::feuille_login() : Feuille(QStringLiteral("feuille_login"), Genre:
     accès_tentavive->setToolTip(QStringLiteral("Saisissez le code d'accès à la base de données"));
     grille->addWidget(accès_tentavive, 2, 1, 1, 2);
 
-    cmdMettreàjour = bouton(cadre, "cmdMettreàjour", "A&ccepter", "Cliquez pour ouvrir la base de données sélectionnée");
+    cmdMettreàjour =
+        bouton(cadre, "cmdMettreàjour", "A&ccepter", "Cliquez pour ouvrir la base de données sélectionnée");
     cmdFermer = bouton(cadre, "cmdFermer", "&Annuler", "Cliquez pour annuler");
     grille->addWidget(cmdMettreàjour, 3, 1);
     grille->addWidget(cmdFermer, 3, 2);

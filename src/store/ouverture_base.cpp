@@ -59,7 +59,8 @@ void ouvrir_base_choisie() {
         feuille_choix_base& choix = feuilles.get<feuille_choix_base>();
         if (choix.Label4->text().isEmpty()) {
             m.interaction().MsgBox(
-                QStringLiteral("Vous devez sélectionner la base de données sur laquelle vous souhaitez travailler..."),
+                QStringLiteral(
+                    "Vous devez sélectionner la base de données sur laquelle vous souhaitez travailler..."),
                 vbExclamation);
             return;
         }

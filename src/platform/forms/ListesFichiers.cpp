@@ -9,15 +9,20 @@
 
 namespace {
 
-QIcon icône(QStyle::StandardPixmap quelle) { return QApplication::style()->standardIcon(quelle); }
+QIcon icône(QStyle::StandardPixmap quelle) {
+    return QApplication::style()->standardIcon(quelle);
+}
 
-QString chemin_propre(const QString& chemin) { return QDir::cleanPath(QFileInfo(chemin).absoluteFilePath()); }
+QString chemin_propre(const QString& chemin) {
+    return QDir::cleanPath(QFileInfo(chemin).absoluteFilePath());
+}
 
 } // namespace
 
 DriveListBox::DriveListBox(QWidget* parent) : QComboBox(parent) {
     remplir();
-    setCurrentIndex(std::max(0, findText(QDir::toNativeSeparators(QDir::current().rootPath()), Qt::MatchFixedString)));
+    setCurrentIndex(
+        std::max(0, findText(QDir::toNativeSeparators(QDir::current().rootPath()), Qt::MatchFixedString)));
     connect(this, &QComboBox::activated, this, [this] { emit Change(); });
 }
 
@@ -26,7 +31,9 @@ void DriveListBox::remplir() {
         addItem(icône(QStyle::SP_DriveHDIcon), QDir::toNativeSeparators(racine.absolutePath()));
 }
 
-QString DriveListBox::Drive() const { return currentText(); }
+QString DriveListBox::Drive() const {
+    return currentText();
+}
 
 void DriveListBox::setDrive(const QString& lecteur) {
     const QString racine = QDir::toNativeSeparators(QFileInfo(lecteur).absoluteDir().rootPath());
@@ -56,30 +63,37 @@ void DirListBox::setPath(const QString& chemin) {
     emit Change();
 }
 
-QString DirListBox::Path() const { return QDir::toNativeSeparators(chemin_); }
+QString DirListBox::Path() const {
+    return QDir::toNativeSeparators(chemin_);
+}
 
-void DirListBox::Refresh() { remplir(); }
+void DirListBox::Refresh() {
+    remplir();
+}
 
 void DirListBox::remplir() {
     clear();
     QStringList chaîne;
-    for (QDir d(chemin_);; ) {
+    for (QDir d(chemin_);;) {
         chaîne.prepend(d.absolutePath());
         if (d.isRoot() || !d.cdUp())
             break;
     }
     int niveau = 0;
     for (const QString& dossier : chaîne) {
-        const QString nom = QDir(dossier).isRoot() ? QDir::toNativeSeparators(dossier) : QDir(dossier).dirName();
-        auto* entrée = new QListWidgetItem(icône(QStyle::SP_DirOpenIcon), QString(niveau * 2, ' ') + nom, this);
+        const QString nom =
+            QDir(dossier).isRoot() ? QDir::toNativeSeparators(dossier) : QDir(dossier).dirName();
+        auto* entrée =
+            new QListWidgetItem(icône(QStyle::SP_DirOpenIcon), QString(niveau * 2, ' ') + nom, this);
         entrée->setData(Qt::UserRole, dossier);
         ++niveau;
     }
     setCurrentRow(count() - 1);
     const QFileInfoList sous = QDir(chemin_).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot,
-                                                          QDir::Name | QDir::IgnoreCase | QDir::LocaleAware);
+                                                           QDir::Name | QDir::IgnoreCase | QDir::LocaleAware);
     for (const QFileInfo& dossier : sous) {
-        auto* entrée = new QListWidgetItem(icône(QStyle::SP_DirIcon), QString(niveau * 2, ' ') + dossier.fileName(), this);
+        auto* entrée = new QListWidgetItem(icône(QStyle::SP_DirIcon),
+                                           QString(niveau * 2, ' ') + dossier.fileName(), this);
         entrée->setData(Qt::UserRole, dossier.absoluteFilePath());
     }
 }
@@ -101,7 +115,9 @@ void FileListBox::setPath(const QString& chemin) {
     Refresh();
 }
 
-QString FileListBox::Path() const { return QDir::toNativeSeparators(chemin_); }
+QString FileListBox::Path() const {
+    return QDir::toNativeSeparators(chemin_);
+}
 
 void FileListBox::setPattern(const QString& motif) {
     motif_ = motif;
