@@ -167,7 +167,7 @@ void MDIForm1::construire_menus() {
                 sous_menu->menuAction()->setObjectName(dernière->objectName());
                 menu_du_haut->insertMenu(dernière, sous_menu);
                 menu_du_haut->removeAction(dernière);
-                dernière->deleteLater();
+                delete dernière;
             }
             cible = sous_menu;
         } else {
@@ -284,7 +284,7 @@ void MDIForm1::Form_Unload(int&) {
     for (Feuille* f : feuilles.chargées())
         if (f != this)
             en_silence([&] { feuilles.unload(*f); });
-    QCoreApplication::quit();
+    QCoreApplication::exit(0);
 }
 
 void MDIForm1::menufichierindex1_Click() {
