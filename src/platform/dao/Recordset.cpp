@@ -164,7 +164,7 @@ public:
         try {
             query = parse_select(source);
         } catch (const JetSyntaxError&) {
-            throw VbError(3075, QStringLiteral("Erreur de syntaxe dans l'expression '%1'.").arg(source));
+            throw VbError::avec(3075, {source});
         }
         table = db().table(query.table);
         if (query.columns.isEmpty()) {
@@ -174,7 +174,7 @@ public:
             for (const QString& column : query.columns) {
                 const int index = table.indexOf(column);
                 if (index < 0)
-                    throw VbError(3061);
+                    throw VbError::avec(3061, {QStringLiteral("1")});
                 tableColumn.push_back(index);
             }
         }
@@ -195,7 +195,7 @@ public:
         for (const OrderTerm& term : query.order) {
             const int index = table.indexOf(term.column);
             if (index < 0)
-                throw VbError(3061);
+                throw VbError::avec(3061, {QStringLiteral("1")});
             const FieldInfo& column = table.columns[index];
             const bool text = column.type == FieldType::Text || column.type == FieldType::Memo;
             order << quote_name(column.name) + (text ? QStringLiteral(" COLLATE FR_TRI") : QString()) +

@@ -8,11 +8,12 @@
 #include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QStyledItemDelegate>
 #include <vector>
 
-// The lines of the grid: the row set's rows by position (a deleted row stays as a hidden line), then
-// the empty new row. Typed cells go to the data control's row buffer, which writes them.
+// The lines of the grid: the row set's live rows by position, then the empty new row. Typed cells go to the
+// data control's row buffer, which writes them.
 class GridModel : public QAbstractTableModel {
 public:
     explicit GridModel(DBGrid& grid) : QAbstractTableModel(&grid), grid_(grid) {}
@@ -22,7 +23,7 @@ public:
         QString heading;
     };
     std::vector<Column> columns;
-    int lines = 0; // rows of the row set as last counted, holes included
+    int lines = 0; // rows of the row set as last counted
 
     bool open() const { return grid_.source_ && grid_.source_->isOpen(); }
     Recordset* rs() const { return open() ? &grid_.source_->Recordset().raw() : nullptr; }
@@ -83,6 +84,17 @@ public:
         return QString();
     }
 
+    // The entry limit of a text column, 0 for none.
+    int limitOf(int column) const {
+        if (!open() || column < 0 || column >= columnCount())
+            return 0;
+        const int index = rs()->fieldIndex(columns[column].name);
+        if (index < 0)
+            return 0;
+        const FieldInfo& field = rs()->fields()[index];
+        return field.type == FieldType::Text ? field.size : 0;
+    }
+
     void addColumn(const QString& name, const QString& heading) {
         beginResetModel();
         columns.push_back({name, heading});
@@ -125,6 +137,10 @@ public:
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const override {
         QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
+        auto* line = qobject_cast<QLineEdit*>(editor);
+        const auto* model = static_cast<const GridModel*>(index.model());
+        if (line && model->limitOf(index.column()) > 0)
+            line->setMaxLength(model->limitOf(index.column()));
         editor_ = editor;
         return editor;
     }
@@ -218,22 +234,14 @@ void DBGrid::rowsOfSourceChanged() {
     const bool wasSyncing = syncing_;
     syncing_ = true;
     model_->grow();
-    hideDeletedRows();
     syncing_ = wasSyncing;
 }
 
 void DBGrid::reopened() {
     syncing_ = true;
     model_->reset();
-    hideDeletedRows();
     syncing_ = false;
     followDataControl();
-}
-
-void DBGrid::hideDeletedRows() {
-    Recordset* rs = model_->rs();
-    for (int row = 0; row < model_->lines; ++row)
-        setRowHidden(row, rs && rs->isDeletedAt(row));
 }
 
 void DBGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
