@@ -1,6 +1,8 @@
 #include "store/ouvrir_table.h"
 
 #include "platform/errors/ErrorBoxes.h"
+#include "reference/feuille_sexe.h"
+#include "reports/feuille_documents.h"
 #include "store/feuille_choix_base.h"
 
 #include <functional>
@@ -20,6 +22,14 @@ void pointer_source(DataControl& source, const QString& sql, SiÉchec échec) {
     }
 }
 
+void ouvrir_table_documents() {
+    ouvrir_table<feuille_documents>(QStringLiteral("SELECT * FROM documents"));
+}
+
 void ouvrir_table_passe_choix() {
     ouvrir_table<feuille_choix_base>(QStringLiteral("SELECT * FROM passe"), SiÉchec::boîte_standard);
+}
+
+void ouvrir_table_sexe() {
+    ouvrir_table<feuille_sexe>(QStringLiteral("SELECT * FROM sexe"));
 }

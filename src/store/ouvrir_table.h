@@ -24,4 +24,6 @@ template <class F> F& ouvrir_table(const QString& sql, SiÉchec échec = SiÉche
 }
 
 // The procedures of the family whose screens exist.
+void ouvrir_table_documents();
 void ouvrir_table_passe_choix();
+void ouvrir_table_sexe();

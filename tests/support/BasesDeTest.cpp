@@ -5,7 +5,8 @@
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
-QString créer_base_de_test(const QString& chemin, const std::optional<QString>& code) {
+QString créer_base_de_test(const QString& chemin, const std::optional<QString>& code,
+                           const QString& en_plus) {
     QFile::remove(chemin);
     sqlite3* db = nullptr;
     if (sqlite3_open(QFile::encodeName(chemin).constData(), &db) != SQLITE_OK) {
@@ -17,6 +18,7 @@ QString créer_base_de_test(const QString& chemin, const std::optional<QString>&
     if (code)
         sql += QStringLiteral("INSERT INTO passe (passe) VALUES ('%1');")
                    .arg(QString(*code).replace('\'', "''"));
+    sql += en_plus;
     char* erreur = nullptr;
     if (sqlite3_exec(db, sql.toUtf8().constData(), nullptr, nullptr, &erreur) != SQLITE_OK)
         ADD_FAILURE() << "Base de test : " << (erreur ? erreur : "?");

@@ -3,9 +3,10 @@
 #include <QString>
 #include <optional>
 
-// A small work database for the opening tests: only the table of the access code. `code` empty
-// gives a row with an empty code; no value gives an empty table.
-QString créer_base_de_test(const QString& chemin, const std::optional<QString>& code = QString());
+// A small work database for the opening tests: the table of the access code, and whatever `en_plus`
+// creates. `code` empty gives a row with an empty code; no value gives an empty table.
+QString créer_base_de_test(const QString& chemin, const std::optional<QString>& code = QString(),
+                           const QString& en_plus = QString());
 
 // Makes a folder the process's current one for as long as the object lives.
 class DossierCourant {
