@@ -17,6 +17,7 @@
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QMenuBar>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -140,7 +141,9 @@ MDIForm1::MDIForm1() : Feuille(QStringLiteral("MDIForm1"), Genre::haut_niveau) {
     disposition->addWidget(fenêtre);
     construire_menus();
     construire_barre_d_état();
-    resize(1100, 780);
+    if (const QScreen* écran = QGuiApplication::primaryScreen())
+        setGeometry(écran->availableGeometry());
+    setWindowState(Qt::WindowMaximized);
     module1().feuilles().setMdiArea(zone);
 }
 
