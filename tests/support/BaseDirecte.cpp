@@ -1,5 +1,11 @@
 #include "support/BaseDirecte.h"
 
+#include "platform/dao/Database.h"
+#include "platform/errors/VbError.h"
+#include "support/Fixtures.h"
+#include "support/TemplateBase.h"
+
+#include <QFile>
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
@@ -58,3 +64,19 @@ int écritures_journalisées(const QString& chemin) {
         colonne_du_fichier(chemin, QStringLiteral("journal"), QStringLiteral("quoi")).size());
 }
 
+
+void exécuter_par_le_moteur(const QString& chemin, const QString& sql) {
+    try {
+        Database::open(chemin)->Execute(sql);
+    } catch (const VbError& e) {
+        ADD_FAILURE() << "le moteur refuse " << sql.toStdString() << " : " << e.description().toStdString();
+    }
+}
+
+QString copie_du_modèle(const WorkFolder& dossier) {
+    const QString chemin = dossier.file(QStringLiteral("travail.mdb"));
+    if (!QFile::copy(template_path(), chemin))
+        ADD_FAILURE() << "copie du modèle impossible vers " << chemin.toStdString();
+    QFile::setPermissions(chemin, QFile::permissions(chemin) | QFileDevice::WriteOwner);
+    return chemin;
+}
