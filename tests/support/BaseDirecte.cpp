@@ -3,8 +3,9 @@
 #include "platform/dao/Database.h"
 #include "platform/errors/VbError.h"
 #include "support/Fixtures.h"
-#include "support/TemplateBase.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <gtest/gtest.h>
 #include <sqlite3.h>
@@ -52,9 +53,10 @@ QStringList colonne_du_fichier(const QString& chemin, const QString& table, cons
 void journaliser_écritures(const QString& chemin, const QStringList& tables) {
     QString sql = QStringLiteral("CREATE TABLE IF NOT EXISTS journal (quoi TEXT);");
     for (const QString& table : tables)
-        sql += QStringLiteral("CREATE TRIGGER \"%1_maj\" AFTER UPDATE ON \"%1\" BEGIN INSERT INTO journal VALUES "
-                              "('maj'); END; CREATE TRIGGER \"%1_ajout\" AFTER INSERT ON \"%1\" BEGIN INSERT "
-                              "INTO journal VALUES ('ajout'); END;")
+        sql += QStringLiteral(
+                   "CREATE TRIGGER \"%1_maj\" AFTER UPDATE ON \"%1\" BEGIN INSERT INTO journal VALUES "
+                   "('maj'); END; CREATE TRIGGER \"%1_ajout\" AFTER INSERT ON \"%1\" BEGIN INSERT "
+                   "INTO journal VALUES ('ajout'); END;")
                    .arg(table);
     sql_direct(chemin, sql);
 }
@@ -63,7 +65,6 @@ int écritures_journalisées(const QString& chemin) {
     return static_cast<int>(
         colonne_du_fichier(chemin, QStringLiteral("journal"), QStringLiteral("quoi")).size());
 }
-
 
 void exécuter_par_le_moteur(const QString& chemin, const QString& sql) {
     try {
@@ -75,7 +76,8 @@ void exécuter_par_le_moteur(const QString& chemin, const QString& sql) {
 
 QString copie_du_modèle(const WorkFolder& dossier) {
     const QString chemin = dossier.file(QStringLiteral("travail.mdb"));
-    if (!QFile::copy(template_path(), chemin))
+    if (!QFile::copy(QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("../basevide.mdz")),
+                     chemin))
         ADD_FAILURE() << "copie du modèle impossible vers " << chemin.toStdString();
     QFile::setPermissions(chemin, QFile::permissions(chemin) | QFileDevice::WriteOwner);
     return chemin;
