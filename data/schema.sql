@@ -1,15 +1,16 @@
 -- The work database: 21 tables, created by norvane-prepare into basevide.mdz.
 --
--- Types: VARCHAR(n) is a text column of at most n characters (the entry limit of the box that shows
--- it), MEMO a text without limit, DATE a date kept as 'AAAA-MM-JJ' text so that it sorts by date,
--- BOOLEAN a yes/no column (0 or 1). Text compares with the collation FR (case and accents ignored)
--- and sorts with FR_TRI (French order), both registered by the program's store.
+-- Types: VARCHAR(n) is a text column of at most n characters (the entry limit of the box that
+-- shows it), LONGTEXT a text without limit (a memo), DATE a date kept as 'AAAA-MM-JJ' text so that it
+-- sorts by date, BOOLEAN a yes/no column (0 or 1). Every text type names TEXT or CHAR, so that the
+-- engine keeps "000001" as text and never turns it into a number. Text compares with the collation FR
+-- (case and accents ignored) and sorts with FR_TRI (French order), both registered by the store.
 -- A lookup column is never longer than the boxes it feeds.
 
 -- One row a pupil.
 CREATE TABLE élèves (
     matricule              VARCHAR(10) COLLATE FR,
-    référence_famille      MEMO COLLATE FR,
+    référence_famille      LONGTEXT COLLATE FR,
     nom_élève              VARCHAR(30) COLLATE FR,
     prénom_élève           VARCHAR(30) COLLATE FR,
     date_naissance_élève   DATE,
@@ -53,8 +54,8 @@ CREATE TABLE élèves (
     vaccinations           VARCHAR(50) COLLATE FR,
     allergies              VARCHAR(50) COLLATE FR,
     contre_indications     VARCHAR(50) COLLATE FR,
-    observations_médicales MEMO COLLATE FR,
-    observations_générales MEMO COLLATE FR,
+    observations_médicales LONGTEXT COLLATE FR,
+    observations_générales LONGTEXT COLLATE FR,
     participation_usep     VARCHAR(20) COLLATE FR,
     restauration_scolaire  VARCHAR(30) COLLATE FR,
     coopérative_scolaire   VARCHAR(30) COLLATE FR,
@@ -62,12 +63,12 @@ CREATE TABLE élèves (
     champ_paramétable2     VARCHAR(50) COLLATE FR,
     champ_paramétable3     VARCHAR(50) COLLATE FR,
     champ_paramétable4     VARCHAR(50) COLLATE FR,
-    champ_paramétable5     MEMO COLLATE FR,
+    champ_paramétable5     LONGTEXT COLLATE FR,
     champ_paramétable6     VARCHAR(50) COLLATE FR,
     champ_paramétable7     VARCHAR(50) COLLATE FR,
     champ_paramétable8     VARCHAR(50) COLLATE FR,
-    champ_paramétable9     MEMO COLLATE FR,
-    champ_paramétable10    MEMO COLLATE FR
+    champ_paramétable9     LONGTEXT COLLATE FR,
+    champ_paramétable10    LONGTEXT COLLATE FR
 );
 
 -- One row a family: the legal guardian (Parent 1) and the spouse (Parent 2).
@@ -107,7 +108,7 @@ CREATE TABLE familles (
     communication_données                      VARCHAR(3) COLLATE FR,
     société_assurance                          VARCHAR(50) COLLATE FR,
     police_assurance                           VARCHAR(30) COLLATE FR,
-    observations_assurance                     MEMO COLLATE FR,
+    observations_assurance                     LONGTEXT COLLATE FR,
     médecin_traitant                           VARCHAR(50) COLLATE FR,
     téléphone_médecin_traitant                 VARCHAR(20) COLLATE FR,
     adresse_médecin_traitant                   VARCHAR(50) COLLATE FR,
@@ -290,7 +291,8 @@ CREATE TABLE villes (
 
 -- Orders the pupil and family screens offer, so that opening them never sorts the whole table.
 CREATE INDEX élèves_par_matricule ON élèves (matricule COLLATE FR_TRI);
-CREATE INDEX élèves_par_nom ON élèves (nom_élève COLLATE FR_TRI, prénom_élève COLLATE FR_TRI);
+CREATE INDEX élèves_par_nom ON élèves (nom_élève COLLATE FR, prénom_élève COLLATE FR,
+    nom_élève COLLATE FR_TRI, prénom_élève COLLATE FR_TRI);
 CREATE INDEX élèves_par_naissance ON élèves (date_naissance_élève);
 CREATE INDEX élèves_par_inscription ON élèves (date_inscription_élève);
 CREATE INDEX élèves_par_nationalité ON élèves (nationalité_élève COLLATE FR_TRI);
@@ -298,7 +300,8 @@ CREATE INDEX élèves_par_classe ON élèves (référence_classe_élève COLLATE
 CREATE INDEX élèves_par_niveau ON élèves (niveau_classe_élève COLLATE FR_TRI);
 CREATE INDEX élèves_par_cycle ON élèves (cycle_classe_élève COLLATE FR_TRI);
 CREATE INDEX élèves_par_ville ON élèves (ville_résidence COLLATE FR_TRI);
-CREATE INDEX familles_par_nom ON familles (nom_responsable_légal COLLATE FR_TRI, prénom_responsable_légal COLLATE FR_TRI);
+CREATE INDEX familles_par_nom ON familles (nom_responsable_légal COLLATE FR, prénom_responsable_légal COLLATE FR,
+    nom_responsable_légal COLLATE FR_TRI, prénom_responsable_légal COLLATE FR_TRI);
 CREATE INDEX familles_par_référence ON familles (référence_famille COLLATE FR_TRI);
 
 -- Two pupils never share a matricule; a pupil made from the family screen has none until it is typed.
