@@ -11,7 +11,7 @@
 
 namespace {
 
-// One connection to the file for the span of one helper call.
+// One connection to the file for the span of one call.
 struct Fichier {
     sqlite3* db = nullptr;
     explicit Fichier(const QString& chemin) {
