@@ -53,18 +53,21 @@ TEST_F(FeuilleDocumentsTest, declares_its_controls_limits_captions_and_tooltips)
     EXPECT_EQ(f.destinataire->maxLength(), 50);
     EXPECT_EQ(f.politesse->maxLength(), 254);
     EXPECT_EQ(f.post_scriptum->maxLength(), 254);
-    for (QPlainTextEdit* p : {f.paragraphe1, f.paragraphe2, f.paragraphe3, f.paragraphe4, f.paragraphe5, f.paragraphe6})
+    for (QPlainTextEdit* p :
+         {f.paragraphe1, f.paragraphe2, f.paragraphe3, f.paragraphe4, f.paragraphe5, f.paragraphe6})
         EXPECT_EQ(p->property("maxLength").toInt(), 254) << p->objectName().toStdString();
 
     EXPECT_EQ(f.Check1->text(), "affichage des coordonnées de l'élève");
-    EXPECT_EQ(f.Check1->toolTip(), "Cliquez pour afficher les coordonnées de l'élève (nom, prénom date de nais. et "
-                                   "classe) sur le document");
+    EXPECT_EQ(f.Check1->toolTip(),
+              "Cliquez pour afficher les coordonnées de l'élève (nom, prénom date de nais. et "
+              "classe) sur le document");
     EXPECT_EQ(f.Check2->text(), "affichage des coordonnées du responsable légal");
     EXPECT_EQ(f.Check2->toolTip(),
               "Cliquez pour afficher les coordonnées du responsable légal (nom et adresse) sur le document");
     EXPECT_EQ(f.Check3->text(), "affichage des coordonnées du directeur / de la directrice");
-    EXPECT_EQ(f.Check3->toolTip(), "Cliquez pour afficher les coordonnées de l'élève (Monsieur X..., Directeur de "
-                                   "l'école ... de ...) sur le document");
+    EXPECT_EQ(f.Check3->toolTip(),
+              "Cliquez pour afficher les coordonnées de l'élève (Monsieur X..., Directeur de "
+              "l'école ... de ...) sur le document");
     EXPECT_EQ(f.Check4->text(), "affichage des zones de signature et de cachet sur le document");
     EXPECT_EQ(f.Check4->toolTip(), "Cliquez pour afficher la zone de signature sur le document");
     EXPECT_EQ(f.Check5->text(), "affichage de la date");
@@ -123,8 +126,8 @@ TEST_F(FeuilleDocumentsTest, ajouter_shows_0_and_a_move_without_typing_adds_no_r
 TEST_F(FeuilleDocumentsTest, a_new_template_typed_and_saved_lands_in_the_file_with_its_check_boxes) {
     auto& f = ouvrir();
     cliquer(f, "cmdAjouter");
-    QTest::keyClicks(f.intitulé, "Sortie scolaire");
-    QTest::keyClicks(f.paragraphe1, "Une sortie est prévue.");
+    taper(f.intitulé, "Sortie scolaire");
+    taper(f.paragraphe1, "Une sortie est prévue.");
     f.Check1->setFocus();
     QTest::keyClick(f.Check1, Qt::Key_Space);
     f.Check5->setFocus();
@@ -144,7 +147,7 @@ TEST_F(FeuilleDocumentsTest, closing_with_an_edited_row_writes_it) {
     auto& f = ouvrir();
     cliquer(*f.datPrimaryRS, "dernier");
     f.titre->selectAll();
-    QTest::keyClicks(f.titre, "RÉUNION");
+    taper(f.titre, "RÉUNION");
     f.Check2->setFocus();
     QTest::keyClick(f.Check2, Qt::Key_Space);
     cliquer(f, "cmdFermer");
@@ -174,7 +177,8 @@ TEST_F(FeuilleDocumentsTest, deleting_lands_on_the_next_row_and_on_the_new_last_
 }
 
 TEST_F(FeuilleDocumentsTest, deleting_the_only_row_fails_untrapped_with_3021_and_the_screen_stays) {
-    exécuter_par_le_moteur(base, "DELETE * FROM documents WHERE titre_document <> \"CERTIFICAT DE SCOLARITÉ\"");
+    exécuter_par_le_moteur(base,
+                           "DELETE * FROM documents WHERE titre_document <> \"CERTIFICAT DE SCOLARITÉ\"");
     auto& f = ouvrir();
     ui().expectMsgBox();
     cliquer(f, "cmdSupprimer");
@@ -190,7 +194,7 @@ TEST_F(FeuilleDocumentsTest, a_refused_save_shows_the_standard_box_and_keeps_the
     auto& f = ouvrir();
     cliquer(*f.datPrimaryRS, "suivant");
     f.intitulé->selectAll();
-    QTest::keyClicks(f.intitulé, "Certificat de scolarité");
+    taper(f.intitulé, "Certificat de scolarité");
     ui().expectMsgBox();
     cliquer(f, "cmdMettreàjour");
     ASSERT_EQ(ui().boxes().size(), 1u);
@@ -204,10 +208,11 @@ TEST_F(FeuilleDocumentsTest, a_refused_save_shows_the_standard_box_and_keeps_the
 TEST_F(FeuilleDocumentsTest, a_paragraph_takes_no_more_than_254_characters) {
     auto& f = ouvrir();
     f.paragraphe6->setFocus();
-    QTest::keyClicks(f.paragraphe6, QString(260, QChar('x')));
+    taper(f.paragraphe6, QString(260, QChar('x')));
     EXPECT_EQ(f.paragraphe6->toPlainText().size(), 254);
     cliquer(f, "cmdMettreàjour");
-    EXPECT_EQ(colonne_du_fichier(base, "documents", "paragraphe6_document").first(), QString(254, QChar('x')));
+    EXPECT_EQ(colonne_du_fichier(base, "documents", "paragraphe6_document").first(),
+              QString(254, QChar('x')));
 }
 
 TEST_F(FeuilleDocumentsTest, voir_is_present_and_leaves_the_data_alone) {

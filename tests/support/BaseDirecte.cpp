@@ -11,7 +11,7 @@
 
 namespace {
 
-// One connection to the file for the span of one helper call.
+// One connection to the file for the span of one call.
 struct Fichier {
     sqlite3* db = nullptr;
     explicit Fichier(const QString& chemin) {
@@ -52,9 +52,10 @@ QStringList colonne_du_fichier(const QString& chemin, const QString& table, cons
 void journaliser_écritures(const QString& chemin, const QStringList& tables) {
     QString sql = QStringLiteral("CREATE TABLE IF NOT EXISTS journal (quoi TEXT);");
     for (const QString& table : tables)
-        sql += QStringLiteral("CREATE TRIGGER \"%1_maj\" AFTER UPDATE ON \"%1\" BEGIN INSERT INTO journal VALUES "
-                              "('maj'); END; CREATE TRIGGER \"%1_ajout\" AFTER INSERT ON \"%1\" BEGIN INSERT "
-                              "INTO journal VALUES ('ajout'); END;")
+        sql += QStringLiteral(
+                   "CREATE TRIGGER \"%1_maj\" AFTER UPDATE ON \"%1\" BEGIN INSERT INTO journal VALUES "
+                   "('maj'); END; CREATE TRIGGER \"%1_ajout\" AFTER INSERT ON \"%1\" BEGIN INSERT "
+                   "INTO journal VALUES ('ajout'); END;")
                    .arg(table);
     sql_direct(chemin, sql);
 }
@@ -63,7 +64,6 @@ int écritures_journalisées(const QString& chemin) {
     return static_cast<int>(
         colonne_du_fichier(chemin, QStringLiteral("journal"), QStringLiteral("quoi")).size());
 }
-
 
 void exécuter_par_le_moteur(const QString& chemin, const QString& sql) {
     try {
