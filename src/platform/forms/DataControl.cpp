@@ -59,6 +59,9 @@ struct DataControl::Binding {
         }
     }
 
+    // A label only shows its column, unless code wrote into it: then it carries the new value.
+    bool writable() const { return control && (!qobject_cast<QLabel*>(control) || labelChanged()); }
+
     bool labelChanged() const {
         auto* label = qobject_cast<QLabel*>(control);
         return label && label->text() != shownLabelText;
@@ -181,7 +184,7 @@ void DataControl::writeEdits() {
     if (r.editMode() == EditMode::None)
         r.Edit();
     for (const auto& binding : bindings_)
-        if (binding->control && r.fieldIndex(binding->column) >= 0)
+        if (binding->writable() && r.fieldIndex(binding->column) >= 0)
             r.setField(binding->column, binding->value());
     for (auto it = pending_.cbegin(); it != pending_.cend(); ++it)
         r.setField(it.key(), it.value());

@@ -81,6 +81,7 @@ TEST_F(FicheTest, the_current_row_fills_every_kind_of_bound_control) {
     EXPECT_TRUE(f.actif->isChecked());
     EXPECT_EQ(f.notes->toPlainText(), "première");
     EXPECT_EQ(f.libellé->text(), "un");
+    EXPECT_EQ(f.naissance_affichée->text(), "01/02/2015");
     EXPECT_EQ(légende(f), "Fiche: 1");
     EXPECT_EQ(ui().mousePointer(), vbDefault);
     EXPECT_FALSE(f.datPrimaryRS->DataChanged());
@@ -148,6 +149,8 @@ TEST_F(FicheTest, a_check_box_writes_a_boolean_and_a_date_is_typed_as_jj_mm_aaaa
     cliquer(*f.datPrimaryRS, "premier");
     EXPECT_FALSE(f.actif->isChecked());
     EXPECT_EQ(f.naissance->text(), "25/12/2016");
+    EXPECT_EQ(f.naissance_affichée->text(), "25/12/2016")
+        << "a label showing the same column is no edit of its own";
 }
 
 TEST_F(FicheTest, validate_receives_the_action_codes_and_the_pointer_cycles) {
