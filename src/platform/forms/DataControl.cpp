@@ -140,11 +140,13 @@ void DataControl::UpdateRecord() {
         lastWritten_ = r.Bookmark();
 }
 
-void DataControl::unload() {
+bool DataControl::unload() {
     if (!recordset_)
-        return;
-    runOutsideCode([this] { leaveRow(vbDataActionUnload); });
+        return true;
+    if (!runOutsideCode([this] { leaveRow(vbDataActionUnload); }))
+        return false; // the row set stays open, the edit on screen
     closeRecordset();
+    return true;
 }
 
 void DataControl::closeRecordset() {
@@ -325,6 +327,7 @@ bool DataControl::runOutsideCode(const std::function<void()>& action) {
         return true;
     } catch (const std::exception& failure) {
         const VbError error = vb_error_from(failure);
+        lastError_ = error.number();
         int response = vbDataErrDisplay;
         if (Error)
             Error(error.number(), response);

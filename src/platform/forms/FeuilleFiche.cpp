@@ -79,7 +79,7 @@ FeuilleFiche::FeuilleFiche(ConfigurationFiche configuration)
     avantDéchargement([this] {
         if (grdDataGrid)
             grdDataGrid->commitEditor();
-        datPrimaryRS->unload();
+        écriture_finale_refusée_ = !datPrimaryRS->unload();
     });
 }
 
@@ -162,7 +162,16 @@ void FeuilleFiche::Form_Load() {
     avec_piège(ErrorBoxKind::standard, [this] { centrer_feuille(*this); });
 }
 
-void FeuilleFiche::Form_Unload(int&) {
+// A last row the engine refuses keeps the screen open with its edit, so nothing typed is lost; a
+// screen whose data errors are silent says why with the standard box.
+void FeuilleFiche::Form_Unload(int& cancel) {
+    if (écriture_finale_refusée_) {
+        if (!configuration_.boîte_erreur_données)
+            message_erreur_standard(VbError(datPrimaryRS->lastError()));
+        module1().interaction().setMousePointer(vbDefault);
+        cancel = 1;
+        return;
+    }
     if (bouton_accepter && configuration_.bouton_accepter == BoutonAccepter::caché)
         bouton_accepter->setVisible(false);
     if (bouton_accepter && configuration_.bouton_accepter == BoutonAccepter::désactivé)

@@ -121,6 +121,7 @@ private:
 
     ConfigurationFiche configuration_;
     QWidget* corps_ = nullptr;
+    bool écriture_finale_refusée_ = false;
     std::vector<QShortcut*> touches_accepter_; // children of the screen
 };
 

@@ -404,3 +404,32 @@ TEST_F(FicheTest, a_tab_table_naming_a_missing_field_is_refused) {
         EXPECT_EQ(e.number(), 424);
     }
 }
+
+TEST_F(FicheTest, a_last_row_the_engine_refuses_keeps_the_screen_open_with_its_edit) {
+    auto& f = ouvrir();
+    f.naissance->setText("pas une date");
+    ui().expectMsgBox();
+    cliquer(f, "cmdFermer");
+    processDeletions();
+    ASSERT_TRUE(module1().feuilles().isLoaded<feuille_essai>());
+    EXPECT_EQ(ui().lastBox().text, texte_erreur(ErrorBoxKind::standard, VbError(3421)));
+    EXPECT_EQ(f.naissance->text(), "pas une date");
+    EXPECT_EQ(ui().mousePointer(), vbDefault);
+
+    f.naissance->setText("02/02/2015");
+    cliquer(f, "cmdFermer");
+    processDeletions();
+    EXPECT_FALSE(module1().feuilles().isLoaded<feuille_essai>());
+    EXPECT_EQ(colonne_du_fichier(base, "fiches", "naissance").first(), "2015-02-02");
+}
+
+TEST_F(FicheTest, a_screen_showing_data_errors_says_it_once_when_the_last_row_is_refused) {
+    auto& f = ouvrir<feuille_essai_bavarde>();
+    f.naissance->setText("pas une date");
+    ui().expectMsgBox();
+    f.Unload();
+    processDeletions();
+    EXPECT_TRUE(module1().feuilles().isLoaded<feuille_essai_bavarde>());
+    ASSERT_EQ(ui().boxes().size(), 1u);
+    EXPECT_EQ(ui().lastBox().text, "Data error event hit err:" + error_text(3421));
+}
