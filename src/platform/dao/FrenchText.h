@@ -26,6 +26,7 @@ int compare_french(QStringView a, QStringView b);
 // primary keys of all columns first, so that case and accents of a surname never outweigh the first
 // name, then accents and case column by column. A missing value (nullopt) sorts first.
 // The engine sorts and indexes on it with plain byte comparisons, computing each key once a row.
+// The bases' indexes keep these keys: a change to this order must come with a REINDEX of old files.
 std::string sort_key(const std::vector<std::optional<std::string_view>>& columns);
 
 // Jet's LIKE: * any run, ? one character, # one digit, [abc], [a-z], [!...]; everything else, % and _
