@@ -1,0 +1,438 @@
+#include "people/feuille_élève.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTableView>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace {
+
+const QString aîné = QStringLiteral("Aîné dans l'école");
+
+QString texte(const char* utf8) {
+    return QString::fromUtf8(utf8);
+}
+
+QPushButton* bouton(QWidget* parent, const char* nom, const char* légende, const char* aide) {
+    auto* b = new QPushButton(texte(légende), parent);
+    b->setObjectName(texte(nom));
+    if (aide)
+        b->setToolTip(texte(aide));
+    return b;
+}
+
+// A box that gathers controls without a caption of its own.
+QGroupBox* cadre(QWidget* parent, const char* nom) {
+    auto* g = new QGroupBox(parent);
+    g->setObjectName(texte(nom));
+    return g;
+}
+
+// Short entries get a box about their own width, so that a code of five letters does not stretch over
+// the page; long ones take what the row gives them.
+void ajuster_largeur(QLineEdit* e, int longueur) {
+    const int lettres = longueur == 0 ? 11 : longueur;
+    const int chiffre = e->fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    if (lettres <= 12)
+        e->setFixedWidth(chiffre * (lettres + 5));
+    else
+        e->setMinimumWidth(chiffre * std::min(12 + lettres / 3, 28));
+}
+
+QPlainTextEdit* zone_de_texte(QWidget* parent) {
+    auto* z = new QPlainTextEdit(parent);
+    z->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    z->setTabChangesFocus(true);
+    z->setMinimumHeight(4 * z->fontMetrics().lineSpacing());
+    return z;
+}
+
+} // namespace
+
+// Where the fields of one group are laid out: a label and its field a pair, pairs side by side.
+struct feuille_élève::Grille {
+    QString nom;
+    QGridLayout* disposition;
+    int ligne = -1;
+    int colonne = 0;
+    int paires = 1;    // widest row of the group, in pairs
+    int restantes = 0; // pairs still to come on the current row
+};
+
+feuille_élève::feuille_élève(QWidget* parent) : QWidget(parent) {
+    setObjectName(QStringLiteral("feuille_élève"));
+    setWindowTitle(QStringLiteral("Fiche élève"));
+    construire();
+}
+
+feuille_élève::~feuille_élève() = default;
+
+QWidget* feuille_élève::champ(const QString& nom) const {
+    return findChild<QWidget*>(nom);
+}
+
+void feuille_élève::construire() {
+    auto* colonne = new QVBoxLayout(this);
+    colonne->addWidget(construire_bandeau());
+    SSTab1 = new QTabWidget(this);
+    SSTab1->setObjectName(QStringLiteral("SSTab1"));
+    colonne->addWidget(SSTab1, 1);
+    construire_onglets();
+    construire_champs();
+    finir_disposition();
+    poser_tabulation();
+
+    Timer1 = new QTimer(this);
+    Timer1->setObjectName(QStringLiteral("Timer1"));
+    Timer1->setInterval(500);
+    connect(Timer1, &QTimer::timeout, this, &feuille_élève::Timer1_Timer);
+    Timer1->start();
+}
+
+QWidget* feuille_élève::construire_bandeau() {
+    auto* bandeau = new QWidget(this);
+    auto* lignes = new QVBoxLayout(bandeau);
+    lignes->setContentsMargins(0, 0, 0, 0);
+
+    auto* haut = new QHBoxLayout;
+    auto* Frame2 = groupe(QStringLiteral("Frame2"));
+    auto* Frame12 = groupe(QStringLiteral("Frame12"));
+    haut->addWidget(Frame2, 1);
+    haut->addWidget(Frame12);
+    lignes->addLayout(haut);
+
+    auto* bas = new QHBoxLayout;
+    Combo1 = new QComboBox(bandeau);
+    Combo1->setObjectName(QStringLiteral("Combo1"));
+    for (const char* ordre : ordres)
+        Combo1->addItem(texte(ordre));
+    Combo1->setToolTip(QStringLiteral("Cliquez pour modifier l'ordre d'apparition des fiches"));
+    Combo1->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    bas->addWidget(Combo1, 0, Qt::AlignVCenter);
+    bas->addWidget(construire_boutons(), 1);
+    lignes->addLayout(bas);
+
+    Command4 = bouton(Frame12, "Command4", "Parents",
+                      "Cliquez pour accéder à la fiche des parents de l'élève en cours");
+    return bandeau;
+}
+
+// Frame11: the navigator of datPrimaryRS, the frame's buttons and the printing of the sheet.
+QWidget* feuille_élève::construire_boutons() {
+    auto* Frame11 = cadre(this, "Frame11");
+    auto* rangée = new QHBoxLayout(Frame11);
+    cmdAjouter = bouton(Frame11, "cmdAjouter", "&Ajouter", "Cliquez pour créer une nouvelle fiche de saisie");
+    cmdSupprimer = bouton(Frame11, "cmdSupprimer", "&Supprimer", "Cliquez pour supprimer la fiche en cours");
+    cmdRafraîchir =
+        bouton(Frame11, "cmdRafraîchir", "&Rafraîchir",
+               "Cliquez pour rafraîchir les données, dans le cas d'une utilisation multi-utilisateurs");
+    cmdMettreàjour =
+        bouton(Frame11, "cmdMettreàjour", "&Valider", "Cliquez pour enregistrer les renseignements en cours");
+    cmdFermer = bouton(Frame11, "cmdFermer", "&Fermer", "Cliquez pour fermer cette fenêtre");
+    Command3 = bouton(Frame11, "Command3", "&Imprimer", "Cliquez pour imprimer la fiche");
+    for (QPushButton* b : {cmdAjouter, cmdSupprimer, cmdRafraîchir, cmdMettreàjour, cmdFermer})
+        rangée->addWidget(b);
+    rangée->addStretch(1);
+    rangée->addWidget(Command3);
+    return Frame11;
+}
+
+void feuille_élève::construire_onglets() {
+    const char* légendes[] = {"&Identité",       "&Classe",     "&Personnes autorisées", "&Résidence",
+                              "&Santé / Divers", "Autres (&1)", "Autres (&2)",           "&Documents"};
+    for (const char* légende : légendes) {
+        auto* page = new QWidget(SSTab1);
+        auto* pile = new QVBoxLayout(page);
+        (void)pile;
+        SSTab1->addTab(page, texte(légende));
+    }
+    construire_identité(SSTab1->widget(0));
+    auto* Frame4 = groupe(QStringLiteral("Frame4"));
+    SSTab1->widget(1)->layout()->addWidget(Frame4);
+    construire_contacts(SSTab1->widget(2));
+    construire_résidence(SSTab1->widget(3));
+    construire_santé(SSTab1->widget(4));
+    construire_paramétrables(SSTab1->widget(5), 0);
+    construire_paramétrables(SSTab1->widget(6), 5);
+    construire_documents(SSTab1->widget(7));
+    for (int i = 0; i < SSTab1->count(); ++i)
+        static_cast<QVBoxLayout*>(SSTab1->widget(i)->layout())->addStretch(1);
+}
+
+void feuille_élève::construire_identité(QWidget* page) {
+    auto* Frame3 = groupe(QStringLiteral("Frame3"));
+    auto* Frame13 = groupe(QStringLiteral("Frame13"));
+    page->layout()->addWidget(Frame3);
+    page->layout()->addWidget(Frame13);
+
+    // The picture stands on the right of the identity, its button under it.
+    photo = new QLabel(Frame3);
+    photo->setObjectName(QStringLiteral("photo"));
+    photo->setFrameShape(QFrame::Box);
+    photo->setAlignment(Qt::AlignCenter);
+    photo->setFixedSize(120, 150);
+    photo->setScaledContents(false);
+}
+
+void feuille_élève::construire_contacts(QWidget* page) {
+    auto* Frame5 = cadre(page, "Frame5");
+    page->layout()->addWidget(Frame5);
+    auto* g = new QGridLayout(Frame5);
+    const char* entêtes[] = {"Noms", "Prénoms", "Téléphones"};
+    for (int c = 0; c < 3; ++c) {
+        auto* entête = new QLabel(texte(entêtes[c]), Frame5);
+        entête->setAlignment(Qt::AlignCenter);
+        g->addWidget(entête, 0, c + 1);
+    }
+    auto ligne = [&](const QString& nom, int longueur, const char* aide) {
+        auto* e = new QLineEdit(Frame5);
+        e->setObjectName(nom);
+        e->setMaxLength(longueur);
+        e->setToolTip(texte(aide));
+        return e;
+    };
+    for (int i = 0; i < 5; ++i) {
+        const QString n = QString::number(i + 1);
+        auto* numéro = new QLabel(n, Frame5);
+        numéro->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        g->addWidget(numéro, i + 1, 0);
+        nom_contact[i] = ligne(QStringLiteral("nom_contact") + n, 30, "Nom d'une personne à contacter");
+        prénom_contact[i] =
+            ligne(QStringLiteral("prénom_contact") + n, 30, "Prénom d'une personne à contacter");
+        téléphone_contact[i] = ligne(QStringLiteral("téléphone_contact") + n, 20,
+                                     "Coordonnées téléphoniques d'une personne à contacter");
+        g->addWidget(nom_contact[i], i + 1, 1);
+        g->addWidget(prénom_contact[i], i + 1, 2);
+        g->addWidget(téléphone_contact[i], i + 1, 3);
+    }
+    g->setColumnStretch(1, 3);
+    g->setColumnStretch(2, 3);
+    g->setColumnStretch(3, 2);
+}
+
+void feuille_élève::construire_résidence(QWidget* page) {
+    auto* Frame7 = groupe(QStringLiteral("Frame7"));
+    page->layout()->addWidget(Frame7);
+    Command16 = bouton(Frame7, "Command16",
+                       "CLIQUEZ ICI si l'adresse de résidence est identique à celle du responsable légal",
+                       "Cliquez pour accepter automatiquement l'adresse du responsable légal en tant "
+                       "qu'adresse du responsable légal");
+    // The copy of the family's address comes first: it fills most of the fields below it.
+    Grille* g = grille(QStringLiteral("Frame7"));
+    g->disposition->addWidget(Command16, 0, 0, 1, -1);
+    g->ligne = 0;
+}
+
+void feuille_élève::construire_santé(QWidget* page) {
+    auto* côte_à_côte = new QHBoxLayout;
+    auto* Frame8 = groupe(QStringLiteral("Frame8"));
+    auto* Frame6 = groupe(QStringLiteral("Frame6"));
+    côte_à_côte->addWidget(Frame8, 3);
+    côte_à_côte->addWidget(Frame6, 2, Qt::AlignTop);
+    auto* pile = static_cast<QVBoxLayout*>(page->layout());
+    pile->addLayout(côte_à_côte);
+    auto* bas = new QGridLayout;
+    pile->addLayout(bas);
+    grilles_.push_back({QString(), bas});
+}
+
+void feuille_élève::construire_paramétrables(QWidget* page, int premier) {
+    auto* cadre_page = cadre(page, premier == 0 ? "Frame9" : "Frame10");
+    page->layout()->addWidget(cadre_page);
+    auto* g = new QGridLayout(cadre_page);
+    g->setColumnStretch(1, 1);
+    for (int i = premier; i < premier + 5; ++i) {
+        const QString n = QString::number(i + 1);
+        lblLabels[i] = new QLabel(QStringLiteral("champ paramétable ") + n, cadre_page);
+        lblLabels[i]->setObjectName(QStringLiteral("lblLabels") + n);
+        porteurs_aide[i] = new QLabel(QStringLiteral("infobulle"), cadre_page);
+        porteurs_aide[i]->setObjectName(QStringLiteral("Label") + QString::number(i + 2));
+        porteurs_aide[i]->hide();
+
+        const bool plusieurs_lignes = i == 4 || i == 8 || i == 9;
+        QWidget* saisie = nullptr;
+        if (plusieurs_lignes) {
+            saisie = zone_de_texte(cadre_page);
+        } else {
+            auto* e = new QLineEdit(cadre_page);
+            e->setMaxLength(50);
+            saisie = e;
+        }
+        saisie->setObjectName(QStringLiteral("champ_paramétable") + n);
+        champ_paramétable[i] = saisie;
+        lblLabels[i]->setBuddy(saisie);
+        const int ligne = i - premier;
+        g->addWidget(lblLabels[i], ligne, 0, plusieurs_lignes ? Qt::AlignTop : Qt::Alignment());
+        g->addWidget(saisie, ligne, 1);
+    }
+}
+
+void feuille_élève::construire_documents(QWidget* page) {
+    auto* Frame1 = cadre(page, "Frame1");
+    page->layout()->addWidget(Frame1);
+    auto* pile = new QVBoxLayout(Frame1);
+    auto* grdDataGrid = new QTableView(Frame1);
+    grdDataGrid->setObjectName(QStringLiteral("grdDataGrid"));
+    pile->addWidget(grdDataGrid, 1);
+    Check1 = new QCheckBox(QStringLiteral("Impression directe sans prévisualisation"), Frame1);
+    Check1->setObjectName(QStringLiteral("Check1"));
+    pile->addWidget(Check1);
+    auto* boutons = new QHBoxLayout;
+    documents_suite = bouton(Frame1, "documents_suite", "Imprimer le document sélectionné",
+                             "Cliquez pour imprimer le document sélectionné dans la liste ci-dessus pour "
+                             "l'élève en cours");
+    Command6 = bouton(Frame1, "Command6", "Modifier  le document sélectionné",
+                      "Cliquez pour modifier le document sélectionné dans la liste ci-dessus");
+    boutons->addWidget(documents_suite);
+    boutons->addWidget(Command6);
+    boutons->addStretch(1);
+    pile->addLayout(boutons);
+}
+
+QGroupBox* feuille_élève::groupe(const QString& nom) {
+    auto* g = new QGroupBox(this);
+    g->setObjectName(nom);
+    grilles_.push_back({nom, new QGridLayout(g)});
+    return g;
+}
+
+feuille_élève::Grille* feuille_élève::grille(const QString& nom) {
+    for (auto& g : grilles_)
+        if (g.nom == nom)
+            return &g;
+    return nullptr;
+}
+
+void feuille_élève::construire_champs() {
+    const auto table = champs();
+    // The widest row of each group decides how many columns its grid has.
+    for (auto& g : grilles_) {
+        int paires = 0;
+        for (const Champ& c : table) {
+            if (texte(c.groupe) != g.nom || c.invisible)
+                continue;
+            paires = c.même_ligne ? paires + 1 : 1;
+            g.paires = std::max(g.paires, paires);
+        }
+    }
+    for (std::size_t i = 0; i < table.size(); ++i) {
+        const Champ& c = table[i];
+        Grille* g = grille(texte(c.groupe));
+        QWidget* parent = g->disposition->parentWidget();
+        QWidget* w = créer(c, parent);
+        QPushButton* légende = nullptr;
+        if (c.bouton) {
+            légende = bouton(parent, c.bouton, c.libellé, c.aide_bouton);
+            this->*c.membre_bouton = légende;
+        }
+        if (c.invisible) {
+            w->hide();
+            continue;
+        }
+        int paires_de_la_ligne = 1;
+        for (std::size_t j = i + 1; j < table.size() && table[j].même_ligne; ++j)
+            ++paires_de_la_ligne;
+        if (!c.même_ligne)
+            poser_champ(*g, c, w, légende, paires_de_la_ligne);
+        else
+            poser_champ(*g, c, w, légende, 0);
+    }
+}
+
+QWidget* feuille_élève::créer(const Champ& c, QWidget* parent) {
+    QWidget* w = std::visit(
+        [&](auto membre) -> QWidget* {
+            using Type = std::remove_pointer_t<std::remove_reference_t<decltype(this->*membre)>>;
+            Type* créé = nullptr;
+            if constexpr (std::is_same_v<Type, QPlainTextEdit>)
+                créé = zone_de_texte(parent);
+            else if constexpr (std::is_same_v<Type, QCheckBox>)
+                créé = new QCheckBox(texte(c.libellé), parent);
+            else
+                créé = new Type(parent);
+            this->*membre = créé;
+            return créé;
+        },
+        c.membre);
+    w->setObjectName(texte(c.nom));
+    if (auto* e = qobject_cast<QLineEdit*>(w)) {
+        if (c.longueur > 0)
+            e->setMaxLength(c.longueur);
+        ajuster_largeur(e, c.longueur);
+    }
+    if (auto* l = qobject_cast<QLabel*>(w)) {
+        l->setFrameShape(QFrame::Panel);
+        l->setFrameShadow(QFrame::Sunken);
+        l->setFixedWidth(l->fontMetrics().horizontalAdvance(QStringLiteral("## 99 a - 12 m - 30 j ##")));
+    }
+    if (c.infobulle)
+        w->setToolTip(texte(c.infobulle));
+    if (c.désactivé)
+        w->setEnabled(false);
+    return w;
+}
+
+// A field goes right of the previous one on its row, or starts a new row; the last field of a row
+// stretches over the columns that the row leaves free.
+void feuille_élève::poser_champ(Grille& g, const Champ& c, QWidget* w, QPushButton* légende,
+                                int paires_de_la_ligne) {
+    if (!c.même_ligne) {
+        ++g.ligne;
+        g.colonne = 0;
+        g.restantes = paires_de_la_ligne;
+    }
+    --g.restantes;
+    // The last field of a row reaches into the spare column on the right.
+    const int portée = g.restantes == 0 ? 2 + 2 * (g.paires - g.colonne / 2 - 1) : 1;
+    QWidget* étiquette = légende;
+    if (!étiquette && !qobject_cast<QCheckBox*>(w)) {
+        auto* l = new QLabel(texte(c.libellé), w->parentWidget());
+        l->setBuddy(w);
+        étiquette = l;
+    }
+    const bool haut = qobject_cast<QPlainTextEdit*>(w) != nullptr;
+    if (étiquette)
+        g.disposition->addWidget(étiquette, g.ligne, g.colonne, haut ? Qt::AlignTop : Qt::Alignment());
+    g.disposition->addWidget(w, g.ligne, g.colonne + 1, 1, portée);
+    // Only the spare column stretches, so that a label stays beside the field before it.
+    g.disposition->setColumnStretch(2 * g.paires, 1);
+    g.colonne += 2;
+}
+
+// What the table does not place: the family button beside its reference, the photo right of the
+// identity with its button under it.
+void feuille_élève::finir_disposition() {
+    grille(QStringLiteral("Frame12"))->disposition->addWidget(Command4, 0, 3);
+    Grille& identité = *grille(QStringLiteral("Frame3"));
+    const int colonne = 2 * identité.paires;
+    identité.disposition->addWidget(photo, 0, colonne + 1, identité.ligne, 1,
+                                    Qt::AlignTop | Qt::AlignHCenter);
+    identité.disposition->addWidget(Command14, identité.ligne, colonne + 1);
+}
+
+// The Tab key walks the fields in the order the school has always typed them, then the buttons.
+void feuille_élève::poser_tabulation() {
+    QList<QWidget*> suite;
+    for (const char* nom : ordre_tabulation)
+        suite.append(champ(texte(nom)));
+    suite << Combo1 << référence_famille << Command4 << Check2 << cmdAjouter << cmdSupprimer << cmdRafraîchir
+          << cmdMettreàjour << cmdFermer << Command3 << établissement_accueil << date_radiation << Command2
+          << Command13 << Command15 << Command7 << Command5 << Command14 << Command12 << Command11
+          << Command16 << Command8 << Command9 << Command10
+          << findChild<QWidget*>(QStringLiteral("grdDataGrid")) << Check1 << Command6 << documents_suite;
+    for (qsizetype i = 1; i < suite.size(); ++i)
+        setTabOrder(suite[i - 1], suite[i]);
+}
+
+void feuille_élève::Timer1_Timer() {
+    Check2->setText(Check2->text() == aîné ? QString() : aîné);
+}

@@ -1,0 +1,166 @@
+#pragma once
+
+#include <QWidget>
+#include <array>
+#include <span>
+#include <variant>
+#include <vector>
+
+class QCheckBox;
+class QComboBox;
+class QGridLayout;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+class QPushButton;
+class QTabWidget;
+class QTimer;
+
+// "Fiche élève": one pupil of the table élèves at a time, in a band of header fields above eight tabs.
+// No Q_OBJECT: moc cannot read an accented class name; connections use member pointers and lambdas.
+class feuille_élève : public QWidget {
+public:
+    explicit feuille_élève(QWidget* parent = nullptr);
+    ~feuille_élève() override;
+
+    // One bound field of the screen, as the screen's design declares it.
+    struct Champ {
+        using Membre = std::variant<QLineEdit * feuille_élève::*, QPlainTextEdit * feuille_élève::*,
+                                    QCheckBox * feuille_élève::*, QLabel * feuille_élève::*>;
+        const char* nom;     // object name of the control
+        Membre membre;       // where the screen keeps it; its type is the kind of control
+        const char* colonne; // bound column of élèves
+        int onglet;          // page of SSTab1 its GotFocus brings forward, -1 for the header band
+        const char* groupe;  // Frame that gathers it, "" for the page itself
+        const char* libellé; // caption beside it (a label, or the button named below)
+        const char* bouton;  // caption button's object name, or nullptr for a plain label
+        QPushButton* feuille_élève::*membre_bouton;
+        const char* aide_bouton; // help text of the caption button
+        int longueur;            // entry limit in characters, 0 when not limited
+        const char* infobulle;   // help text, nullptr when none
+        bool désactivé;          // fed by a lookup only: no typing, no focus
+        bool invisible;          // holds a value for the binding only
+        bool même_ligne;         // laid out beside the previous field rather than below it
+    };
+    static std::span<const Champ> champs();
+
+    // The thirteen orders of Combo1, from index 0.
+    static const std::array<const char*, 13> ordres;
+    // The Tab key's walk through the fields, before the buttons.
+    static const std::array<const char*, 46> ordre_tabulation;
+
+    // Above the tabs.
+    QComboBox* Combo1 = nullptr;
+    QLineEdit* référence_famille = nullptr;
+    QPushButton* Command4 = nullptr;
+    QLineEdit* matricule = nullptr;
+    QLineEdit* nom_enfant = nullptr;
+    QLineEdit* prénom_enfant = nullptr;
+    QPushButton* Command2 = nullptr;
+    QPushButton* Command13 = nullptr;
+    QPushButton* Command3 = nullptr;
+    QPushButton* cmdAjouter = nullptr;
+    QPushButton* cmdSupprimer = nullptr;
+    QPushButton* cmdRafraîchir = nullptr;
+    QPushButton* cmdMettreàjour = nullptr;
+    QPushButton* cmdFermer = nullptr;
+    QTabWidget* SSTab1 = nullptr;
+
+    // Tab 0, "&Identité".
+    QLineEdit* date_inscription = nullptr;
+    QPushButton* Command15 = nullptr;
+    QLineEdit* date_naissance = nullptr;
+    QLabel* Label12 = nullptr;
+    QLineEdit* lieu_naissance = nullptr;
+    QLineEdit* sexe = nullptr;
+    QPushButton* Command7 = nullptr;
+    QLineEdit* nationalité = nullptr;
+    QPushButton* Command5 = nullptr;
+    QLineEdit* code_nationalité = nullptr;
+    QLineEdit* chemin_photo = nullptr;
+    QPushButton* Command14 = nullptr;
+    QLabel* photo = nullptr;
+    QCheckBox* Check2 = nullptr;
+    QLineEdit* date_radiation = nullptr;
+    QLineEdit* établissement_accueil = nullptr;
+
+    // Tab 1, "&Classe".
+    QLineEdit* référence_classe_élève = nullptr;
+    QPushButton* Command12 = nullptr;
+    QLineEdit* niveau_classe_élève = nullptr;
+    QLineEdit* cycle_classe_élève = nullptr;
+    QLineEdit* cursus_allongé_élève = nullptr;
+    QLineEdit* saisine_ccpe_élève = nullptr;
+    QLineEdit* langue_vivante_élève = nullptr;
+    QPushButton* Command11 = nullptr;
+
+    // Tab 2, "&Personnes autorisées": rows 1 to 5 at indexes 0 to 4.
+    std::array<QLineEdit*, 5> nom_contact{};
+    std::array<QLineEdit*, 5> prénom_contact{};
+    std::array<QLineEdit*, 5> téléphone_contact{};
+
+    // Tab 3, "&Résidence".
+    QPushButton* Command16 = nullptr;
+    QLineEdit* numéro_résidence = nullptr;
+    QLineEdit* adresse_résidence = nullptr;
+    QPushButton* Command8 = nullptr;
+    QLineEdit* adresse2_résidence = nullptr;
+    QLineEdit* code_postal_résidence = nullptr;
+    QPushButton* Command9 = nullptr;
+    QLineEdit* ville_résidence = nullptr;
+    QPushButton* Command10 = nullptr;
+    QLineEdit* téléphone1_résidence = nullptr;
+    QLineEdit* téléphone2_résidence = nullptr;
+
+    // Tab 4, "&Santé / Divers".
+    QLineEdit* vaccinations = nullptr;
+    QLineEdit* allergies = nullptr;
+    QLineEdit* contre_indications = nullptr;
+    QPlainTextEdit* observations_médicales = nullptr;
+    QLineEdit* participation_usep = nullptr;
+    QLineEdit* restauration_scolaire = nullptr;
+    QLineEdit* coopérative_scolaire = nullptr;
+    QPlainTextEdit* observations_générales = nullptr;
+
+    // Tabs 5 and 6: champ_paramétable1 to 10 at indexes 0 to 9, one line or several.
+    std::array<QWidget*, 10> champ_paramétable{};
+    std::array<QLabel*, 10> lblLabels{};     // captions, bound through Data1
+    std::array<QLabel*, 10> porteurs_aide{}; // Label2 to Label11, invisible, bound through Data1
+
+    // Tab 7, "&Documents".
+    QPushButton* documents_suite = nullptr;
+    QPushButton* Command6 = nullptr;
+    QCheckBox* Check1 = nullptr;
+
+    QTimer* Timer1 = nullptr;
+
+    // The widget that shows a field of the table by its object name, nullptr when none.
+    QWidget* champ(const QString& nom) const;
+
+    void Timer1_Timer();
+
+private:
+    struct Grille;
+
+    void construire();
+    QWidget* construire_bandeau();
+    QWidget* construire_boutons();
+    void construire_onglets();
+    void construire_identité(QWidget* page);
+    void construire_contacts(QWidget* page);
+    void construire_résidence(QWidget* page);
+    void construire_santé(QWidget* page);
+    void construire_paramétrables(QWidget* page, int premier);
+    void construire_documents(QWidget* page);
+    void construire_champs();
+    void finir_disposition();
+    void poser_tabulation();
+
+    QGroupBox* groupe(const QString& nom);
+    Grille* grille(const QString& nom);
+    QWidget* créer(const Champ& c, QWidget* parent);
+    void poser_champ(Grille& g, const Champ& c, QWidget* champ, QPushButton* légende, int paires_de_la_ligne);
+
+    std::vector<Grille> grilles_;
+};
