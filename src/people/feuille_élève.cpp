@@ -412,6 +412,7 @@ void feuille_élève::poser_champ(Grille& g, const Champ& c, QWidget* w, QPushBu
 // identity with its button under it.
 void feuille_élève::finir_disposition() {
     grille(QStringLiteral("Frame12"))->disposition->addWidget(Command4, 0, 3);
+    référence_famille->setAlignment(Qt::AlignRight);
     Grille& identité = *grille(QStringLiteral("Frame3"));
     const int colonne = 2 * identité.paires;
     identité.disposition->addWidget(photo, 0, colonne + 1, identité.ligne, 1,
