@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QString>
+#include <memory>
+
+class Recordset;
+
+namespace dao {
+class Connection;
+}
+
+// A work database file opened through our Jet-dialect store over SQLite. Several Database objects may
+// be open on one file at once (one per data source, or in another running copy of the program); each
+// holds a shared advisory lock on the file until Close() or destruction, so that compacting, deleting
+// or copying the file fails while anybody uses it.
+//
+// Every failure is a VbError with the engine's number: 3024 missing file, 3343 not a database or
+// damaged, 3051 file locked, 3075 syntax in a query, 3022 duplicate key, 3163 text too long,
+// 3421 not a date, 3044 bad path.
+class Database {
+public:
+    // Opens an existing file whatever its extension (.mdb, .mdz).
+    static std::shared_ptr<Database> open(const QString& path);
+    ~Database();
+    Database(const Database&) = delete;
+    Database& operator=(const Database&) = delete;
+
+    // Runs one statement of the Jet dialect ("DELETE * FROM élèves", "UPDATE ... WHERE x = True"),
+    // in a transaction of its own. Returns the number of rows it changed.
+    int Execute(const QString& jetSql);
+
+    // A dynaset over a table name ("élèves", "[école]") or a single-table SELECT of the Jet dialect.
+    std::unique_ptr<Recordset> OpenRecordset(const QString& tableOrSelect);
+
+    // Releases the file and its lock. Recordsets still open on it raise 3420 from then on.
+    void Close();
+    bool isOpen() const;
+    const QString& path() const { return path_; }
+
+    // Names of the tables of the file, in the file's order.
+    QStringList tableNames() const;
+
+private:
+    Database(QString path, std::shared_ptr<dao::Connection> connection);
+
+    QString path_;
+    std::shared_ptr<dao::Connection> connection_;
+};
+
+// Writes a new, complete and compacted copy of source at target. Fails with 3024 if source is missing,
+// 3343 if it is no database, 3044 if target's folder does not exist, 3204 if target exists, and 3356
+// ("already in use") if anybody, in this program or another, holds source open.
+void CompactDatabase(const QString& source, const QString& target);
+
+// True while any Database, in this process or another, holds the file open. The file layer asks this
+// before Kill or FileCopy onto a base, and refuses with 70 "Permission refusée".
+bool fichier_en_usage(const QString& path);

@@ -1,0 +1,49 @@
+#include "platform/errors/ErrorBoxes.h"
+
+#include "platform/forms/Module1.h"
+
+namespace {
+
+QString premier_morceau(ErrorBoxKind kind) {
+    switch (kind) {
+    case ErrorBoxKind::données:
+        return QStringLiteral("Le gestionnaire d'erreurs des données a rencontré l'erreur : ");
+    case ErrorBoxKind::logiciel_données:
+        return QStringLiteral("Le logiciel des données a rencontré l'erreur : ");
+    case ErrorBoxKind::standard:
+        break;
+    }
+    return QStringLiteral("Le logiciel a rencontré l'erreur : ");
+}
+
+} // namespace
+
+QString texte_erreur(ErrorBoxKind kind, const VbError& erreur) {
+    const QChar lf(10);
+    return premier_morceau(kind) + QString::number(erreur.number()) + lf + lf + erreur.description();
+}
+
+void message_erreur(ErrorBoxKind kind, const VbError& erreur) {
+    Interaction& ui = module1().interaction();
+    ui.MsgBox(texte_erreur(kind, erreur), vbExclamation + vbOKOnly, QString::fromUtf8(titre_programme));
+    ui.setMousePointer(vbDefault);
+}
+
+void message_erreur_standard(const VbError& erreur) {
+    message_erreur(ErrorBoxKind::standard, erreur);
+}
+void message_erreur_données(const VbError& erreur) {
+    message_erreur(ErrorBoxKind::données, erreur);
+}
+void message_erreur_logiciel_données(const VbError& erreur) {
+    message_erreur(ErrorBoxKind::logiciel_données, erreur);
+}
+void message_erreur_standard(const std::exception& erreur) {
+    message_erreur_standard(vb_error_from(erreur));
+}
+void message_erreur_données(const std::exception& erreur) {
+    message_erreur_données(vb_error_from(erreur));
+}
+void message_erreur_logiciel_données(const std::exception& erreur) {
+    message_erreur_logiciel_données(vb_error_from(erreur));
+}

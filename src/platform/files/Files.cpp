@@ -1,0 +1,251 @@
+#include "platform/files/Files.h"
+
+#include "platform/errors/VbError.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+QByteArray natif(const QString& chemin) {
+    return QFile::encodeName(chemin);
+}
+
+bool dossier_existe(const QString& chemin) {
+    const QString dossier = QFileInfo(chemin).absolutePath();
+    return QFileInfo(dossier).isDir();
+}
+
+// The classic number for a system failure on `chemin`.
+[[noreturn]] void échouer(int err, const QString& chemin) {
+    switch (err) {
+    case ENOENT:
+        throw VbError(dossier_existe(chemin) ? 53 : 76);
+    case ENOTDIR:
+        throw VbError(76);
+    case EACCES:
+    case EPERM:
+    case EBUSY:
+    case ETXTBSY:
+        throw VbError(70);
+    case EEXIST:
+        throw VbError(58);
+    case ENOSPC:
+    case EDQUOT:
+        throw VbError(61);
+    default:
+        throw VbError(75);
+    }
+}
+
+struct stat état_de(const QString& chemin) {
+    struct stat st {};
+    if (::stat(natif(chemin).constData(), &st) != 0)
+        échouer(errno, chemin);
+    return st;
+}
+
+bool lecture_seule(const struct stat& st) {
+    return (st.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0;
+}
+
+// A file that can be replaced or removed: it exists as a file, is not read-only and is not held.
+void exiger_modifiable(const QString& chemin, const struct stat& st) {
+    if (S_ISDIR(st.st_mode))
+        throw VbError(75);
+    if (lecture_seule(st))
+        throw VbError(75);
+    if (fichier_verrouillé(chemin))
+        throw VbError(70);
+}
+
+QRegularExpression motif(const QString& nom) {
+    return QRegularExpression(QRegularExpression::wildcardToRegularExpression(
+                                  nom, QRegularExpression::UnanchoredWildcardConversion),
+                              QRegularExpression::CaseInsensitiveOption);
+}
+
+bool fichier_normal(const QFileInfo& info) {
+    return info.isFile() && !info.fileName().startsWith(u'.');
+}
+
+class Descripteur {
+public:
+    explicit Descripteur(int fd) : fd_(fd) {}
+    ~Descripteur() {
+        if (fd_ >= 0)
+            ::close(fd_);
+    }
+    Descripteur(const Descripteur&) = delete;
+    Descripteur& operator=(const Descripteur&) = delete;
+    int fd() const { return fd_; }
+    int libérer() { return std::exchange(fd_, -1); }
+
+private:
+    int fd_;
+};
+
+void tout_écrire(int fd, const char* données, ssize_t taille, const QString& cible) {
+    while (taille > 0) {
+        const ssize_t écrit = ::write(fd, données, static_cast<size_t>(taille));
+        if (écrit < 0) {
+            if (errno == EINTR)
+                continue;
+            échouer(errno, cible);
+        }
+        données += écrit;
+        taille -= écrit;
+    }
+}
+
+void copier_contenu(int source, int cible, const QString& chemin_cible) {
+    char tampon[1 << 16];
+    for (;;) {
+        const ssize_t lu = ::read(source, tampon, sizeof tampon);
+        if (lu == 0)
+            return;
+        if (lu < 0) {
+            if (errno == EINTR)
+                continue;
+            throw VbError(57);
+        }
+        tout_écrire(cible, tampon, lu, chemin_cible);
+    }
+}
+
+} // namespace
+
+QString Dir(const QString& chemin) {
+    if (chemin.isEmpty())
+        return QString();
+    const QFileInfo info(chemin);
+    const QString nom = info.fileName();
+    if (!nom.contains(u'*') && !nom.contains(u'?'))
+        return fichier_normal(info) ? nom : QString();
+    const QDir dossier = info.dir();
+    if (!dossier.exists())
+        return QString();
+    const QRegularExpression filtre = motif(nom);
+    for (const QFileInfo& entrée : dossier.entryInfoList(QDir::Files | QDir::NoDotAndDotDot, QDir::Name))
+        if (fichier_normal(entrée) && filtre.match(entrée.fileName()).hasMatch())
+            return entrée.fileName();
+    return QString();
+}
+
+void Kill(const QString& chemin) {
+    const QFileInfo info(chemin);
+    if (info.fileName().contains(u'*') || info.fileName().contains(u'?')) {
+        if (!info.dir().exists())
+            throw VbError(76);
+        const QString premier = Dir(chemin);
+        if (premier.isEmpty())
+            throw VbError(53);
+        const QRegularExpression filtre = motif(info.fileName());
+        for (const QFileInfo& entrée : info.dir().entryInfoList(QDir::Files, QDir::Name))
+            if (fichier_normal(entrée) && filtre.match(entrée.fileName()).hasMatch())
+                Kill(entrée.filePath());
+        return;
+    }
+    const struct stat st = état_de(chemin);
+    if (S_ISDIR(st.st_mode))
+        throw VbError(53); // the runtime looks for files only
+    exiger_modifiable(chemin, st);
+    if (::unlink(natif(chemin).constData()) != 0)
+        échouer(errno, chemin);
+}
+
+void FileCopy(const QString& source, const QString& cible) {
+    const struct stat st_source = état_de(source);
+    if (S_ISDIR(st_source.st_mode))
+        throw VbError(75);
+    if (fichier_verrouillé(source))
+        throw VbError(70);
+    if (!dossier_existe(cible))
+        throw VbError(76);
+    struct stat st_cible {};
+    if (::stat(natif(cible).constData(), &st_cible) == 0)
+        exiger_modifiable(cible, st_cible);
+
+    const Descripteur entrée(::open(natif(source).constData(), O_RDONLY | O_CLOEXEC));
+    if (entrée.fd() < 0)
+        échouer(errno, source);
+    QByteArray modèle = natif(QFileInfo(cible).absolutePath() + QStringLiteral("/.copie-XXXXXX"));
+    Descripteur sortie(::mkstemp(modèle.data()));
+    if (sortie.fd() < 0)
+        échouer(errno, cible);
+    try {
+        copier_contenu(entrée.fd(), sortie.fd(), cible);
+        ::fchmod(sortie.fd(), st_source.st_mode & 07777);
+        if (::fsync(sortie.fd()) != 0)
+            échouer(errno, cible);
+        if (::close(sortie.libérer()) != 0)
+            échouer(errno, cible);
+        if (::rename(modèle.constData(), natif(cible).constData()) != 0)
+            échouer(errno, cible);
+    } catch (...) {
+        ::unlink(modèle.constData());
+        throw;
+    }
+}
+
+void MkDir(const QString& chemin) {
+    if (::mkdir(natif(chemin).constData(), 0777) == 0)
+        return;
+    if (errno == EEXIST)
+        throw VbError(75);
+    échouer(errno, chemin);
+}
+
+void RmDir(const QString& chemin) {
+    if (::rmdir(natif(chemin).constData()) == 0)
+        return;
+    if (errno == ENOENT)
+        throw VbError(76);
+    if (errno == ENOTEMPTY || errno == EEXIST || errno == ENOTDIR)
+        throw VbError(75);
+    échouer(errno, chemin);
+}
+
+void Name(const QString& ancien, const QString& nouveau) {
+    const struct stat st = état_de(ancien);
+    struct stat st_nouveau {};
+    if (::lstat(natif(nouveau).constData(), &st_nouveau) == 0)
+        throw VbError(58);
+    if (!S_ISDIR(st.st_mode) && fichier_verrouillé(ancien))
+        throw VbError(70);
+    if (::rename(natif(ancien).constData(), natif(nouveau).constData()) != 0) {
+        if (errno == EXDEV)
+            throw VbError(74);
+        échouer(errno, nouveau);
+    }
+}
+
+bool fichier_verrouillé(const QString& chemin) {
+    const Descripteur fd(::open(natif(chemin).constData(), O_RDONLY | O_CLOEXEC));
+    if (fd.fd() < 0)
+        return false;
+    // A lock belongs to an open file description, so this also sees a lock of this very process.
+    if (::flock(fd.fd(), LOCK_EX | LOCK_NB) == 0) {
+        ::flock(fd.fd(), LOCK_UN);
+        return false;
+    }
+    return errno == EWOULDBLOCK;
+}
+
+VerrouPartagé::VerrouPartagé(const QString& chemin) {
+    Descripteur fd(::open(natif(chemin).constData(), O_RDONLY | O_CLOEXEC));
+    if (fd.fd() >= 0 && ::flock(fd.fd(), LOCK_SH | LOCK_NB) == 0)
+        fd_ = fd.libérer();
+}
+
+VerrouPartagé::~VerrouPartagé() {
+    if (fd_ >= 0)
+        ::close(fd_);
+}

@@ -1,0 +1,89 @@
+#include "platform/forms/Feuilles.h"
+
+#include <QCoreApplication>
+#include <QMdiSubWindow>
+#include <algorithm>
+
+Feuilles::~Feuilles() {
+    // Widgets cannot outlive the application object; at process end they are left to the system.
+    if (QCoreApplication::instance() == nullptr) {
+        for (Entrée& e : entrées_)
+            (void)e.propre.release();
+        return;
+    }
+    toutDétruire();
+}
+
+Feuille* Feuilles::trouver(std::type_index type) const {
+    for (const Entrée& e : entrées_)
+        if (e.type == type && e.feuille)
+            return e.feuille.data();
+    return nullptr;
+}
+
+void Feuilles::charger(std::type_index type, std::unique_ptr<Feuille> feuille) {
+    std::erase_if(entrées_, [&](const Entrée& e) { return e.type == type; }); // destroyed behind our back
+    Feuille& f = *feuille;
+    f.hide();
+    Entrée entrée{type, &f, nullptr, nullptr};
+    if (zone_ && !f.estHautNiveau()) {
+        QMdiSubWindow* sous_fenêtre = zone_->addSubWindow(feuille.release());
+        sous_fenêtre->hide();
+        f.placerDans(sous_fenêtre);
+        entrée.sous_fenêtre = sous_fenêtre;
+    } else {
+        entrée.propre = std::move(feuille);
+    }
+    // Registered before Form_Load, so a Form_Load that touches its own screen finds it.
+    entrées_.push_back(std::move(entrée));
+    f.Form_Load();
+}
+
+bool Feuilles::unload(Feuille& feuille) {
+    int cancel = 0;
+    feuille.Form_QueryUnload(cancel);
+    if (cancel != 0)
+        return false;
+    feuille.exécuterAvantDéchargement();
+    feuille.Form_Unload(cancel);
+    if (cancel != 0)
+        return false;
+    oublier(feuille);
+    return true;
+}
+
+void Feuilles::oublier(Feuille& feuille) {
+    const auto it = std::find_if(entrées_.begin(), entrées_.end(),
+                                 [&](const Entrée& e) { return e.feuille.data() == &feuille; });
+    if (it == entrées_.end())
+        return;
+    feuille.conteneur().hide();
+    // Deferred: the screen may be unloading itself from one of its own handlers.
+    if (it->propre)
+        it->propre.release()->deleteLater();
+    else if (it->sous_fenêtre)
+        it->sous_fenêtre->deleteLater();
+    entrées_.erase(it);
+}
+
+bool Feuilles::contient(const Feuille* feuille) const {
+    return std::any_of(entrées_.begin(), entrées_.end(),
+                       [&](const Entrée& e) { return e.feuille.data() == feuille; });
+}
+
+std::vector<Feuille*> Feuilles::chargées() const {
+    std::vector<Feuille*> liste;
+    for (const Entrée& e : entrées_)
+        if (e.feuille)
+            liste.push_back(e.feuille.data());
+    return liste;
+}
+
+void Feuilles::toutDétruire() {
+    std::vector<Entrée> entrées = std::move(entrées_);
+    entrées_.clear();
+    for (Entrée& e : entrées) {
+        e.propre.reset();
+        delete e.sous_fenêtre.data(); // taken back from the area that owns it
+    }
+}

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "platform/forms/Feuille.h"
+
+#include <QMdiArea>
+#include <QPointer>
+#include <memory>
+#include <typeindex>
+#include <vector>
+
+// The screen registry. The first touch of a screen constructs it hidden and runs its Form_Load; an
+// unload destroys it, so the next touch brings back its stored defaults.
+class Feuilles {
+public:
+    Feuilles() = default;
+    Feuilles(const Feuilles&) = delete;
+    Feuilles& operator=(const Feuilles&) = delete;
+    ~Feuilles();
+
+    // The screen of type F, loaded (hidden) on first touch. F is default-constructible.
+    template <class F> F& get() {
+        if (Feuille* f = trouver(typeid(F)))
+            return static_cast<F&>(*f);
+        auto nouvelle = std::make_unique<F>();
+        F& f = *nouvelle;
+        charger(typeid(F), std::move(nouvelle));
+        return f;
+    }
+
+    template <class F> bool isLoaded() const { return trouver(typeid(F)) != nullptr; }
+
+    // The screen if it is loaded, without loading it.
+    template <class F> F* siChargée() const { return static_cast<F*>(trouver(typeid(F))); }
+
+    // Form_QueryUnload, the screen's pre-unload work, Form_Unload, then destruction (deferred to the
+    // event loop, so a screen may unload itself from its own handler). False when a handler cancelled.
+    bool unload(Feuille& feuille);
+    template <class F> bool unload() {
+        F* f = siChargée<F>();
+        return f == nullptr || unload(*f);
+    }
+
+    // The main window's area, where child screens go. Without one, they are plain hidden windows.
+    void setMdiArea(QMdiArea* area) { zone_ = area; }
+    QMdiArea* mdiArea() const { return zone_; }
+
+    // Whether this very screen is loaded (a screen unloaded but not yet destroyed is not).
+    bool contient(const Feuille* feuille) const;
+
+    // Loaded screens, in loading order.
+    std::vector<Feuille*> chargées() const;
+
+    // Destroys every screen at once, without running their events: the end of a run or of a test.
+    void toutDétruire();
+
+private:
+    Feuille* trouver(std::type_index type) const;
+    void charger(std::type_index type, std::unique_ptr<Feuille> feuille);
+
+    struct Entrée {
+        std::type_index type;
+        QPointer<Feuille> feuille;
+        std::unique_ptr<Feuille> propre; // a screen without a sub-window belongs to the registry
+        QPointer<QWidget> sous_fenêtre;  // otherwise the area owns its sub-window, and that the screen
+    };
+    void oublier(Feuille& feuille);
+    std::vector<Entrée> entrées_;
+    QPointer<QMdiArea> zone_;
+};

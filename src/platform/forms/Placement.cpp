@@ -1,0 +1,48 @@
+#include "platform/forms/Placement.h"
+
+#include "platform/errors/ErrorBoxes.h"
+#include "platform/forms/Feuille.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <cmath>
+
+int en_pixels(double twips) {
+    return static_cast<int>(std::lround(twips / twips_par_pixel));
+}
+
+PositionTwips position_centrée(double largeur_écran, double hauteur_écran, double largeur, double hauteur) {
+    return {(hauteur_écran - hauteur) / 2 - 500, (largeur_écran - largeur) / 2};
+}
+
+PositionTwips position_centrée_haute(double largeur_écran, double hauteur_écran, double largeur,
+                                     double hauteur) {
+    return {(hauteur_écran - hauteur) / 2 - 1500, (largeur_écran - largeur) / 2 - 1000};
+}
+
+QSizeF taille_écran_twips() {
+    const QScreen* écran = QGuiApplication::primaryScreen();
+    const QSize pixels = écran ? écran->geometry().size() : QSize(0, 0);
+    return {en_twips(pixels.width()), en_twips(pixels.height())};
+}
+
+namespace {
+
+void placer(Feuille& feuille, PositionTwips (*règle)(double, double, double, double)) {
+    QWidget& fenêtre = feuille.conteneur();
+    const QSizeF écran = taille_écran_twips();
+    const QSize propre = fenêtre.frameGeometry().size();
+    const PositionTwips p =
+        règle(écran.width(), écran.height(), en_twips(propre.width()), en_twips(propre.height()));
+    fenêtre.move(en_pixels(p.left), en_pixels(p.top));
+}
+
+} // namespace
+
+void centrer_feuille(Feuille& feuille) {
+    avec_piège(ErrorBoxKind::données, [&] { placer(feuille, position_centrée); });
+}
+
+void centrer_feuille_haute(Feuille& feuille) {
+    avec_piège(ErrorBoxKind::données, [&] { placer(feuille, position_centrée_haute); });
+}

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QApplication>
+
+// The application object of the program. A failure that no handler traps reaches the top of the event
+// loop here: it is shown with the standard error box's words and the program goes on with the next
+// event, instead of ending.
+class Application : public QApplication {
+    Q_OBJECT
+public:
+    Application(int& argc, char** argv);
+    ~Application() override;
+
+    bool notify(QObject* receiver, QEvent* event) override;
+};
