@@ -1,5 +1,11 @@
 #include "people/feuille_élève.h"
 
+#include "platform/errors/ErrorBoxes.h"
+#include "platform/forms/Clignotement.h"
+#include "platform/forms/Module1.h"
+#include "platform/forms/Placement.h"
+#include "platform/vb/Conversions.h"
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
@@ -68,10 +74,10 @@ struct feuille_élève::Grille {
     int restantes = 0; // pairs still to come on the current row
 };
 
-feuille_élève::feuille_élève(QWidget* parent) : QWidget(parent) {
-    setObjectName(QStringLiteral("feuille_élève"));
+feuille_élève::feuille_élève() : Feuille(QStringLiteral("feuille_élève")) {
     setWindowTitle(QStringLiteral("Fiche élève"));
     construire();
+    brancher_handlers();
 }
 
 feuille_élève::~feuille_élève() = default;
@@ -90,12 +96,16 @@ void feuille_élève::construire() {
     construire_champs();
     finir_disposition();
     poser_tabulation();
+    Timer1 = minuterie_clignotante(*this, 500, [this] { Timer1_Timer(); });
+}
 
-    Timer1 = new QTimer(this);
-    Timer1->setObjectName(QStringLiteral("Timer1"));
-    Timer1->setInterval(500);
-    connect(Timer1, &QTimer::timeout, this, &feuille_élève::Timer1_Timer);
-    Timer1->start();
+void feuille_élève::brancher_handlers() {
+    QObject::connect(Combo1, &QComboBox::activated, this, [this] { Combo1_Click(); });
+    surLostFocus(matricule, [this] { matricule_LostFocus(); });
+    surLostFocus(nom_enfant, [this] { nom_enfant_LostFocus(); });
+    surLostFocus(prénom_enfant, [this] { prénom_enfant_LostFocus(); });
+    QObject::connect(Command15, &QPushButton::clicked, this, [this] { Command15_Click(); });
+    QObject::connect(cmdFermer, &QPushButton::clicked, this, [this] { cmdFermer_Click(); });
 }
 
 QWidget* feuille_élève::construire_bandeau() {
@@ -432,8 +442,73 @@ void feuille_élève::poser_tabulation() {
           << findChild<QWidget*>(QStringLiteral("grdDataGrid")) << Check1 << Command6 << documents_suite;
     for (qsizetype i = 1; i < suite.size(); ++i)
         setTabOrder(suite[i - 1], suite[i]);
+    tabulation_ = suite;
 }
 
+// Qt's own walk skips the fields of hidden pages; the school's order runs through all eight pages.
+bool feuille_élève::focusNextPrevChild(bool next) {
+    const qsizetype ici = tabulation_.indexOf(focusWidget());
+    if (ici < 0)
+        return Feuille::focusNextPrevChild(next);
+    const qsizetype n = tabulation_.size();
+    for (qsizetype pas = 1; pas < n; ++pas) {
+        QWidget* w = tabulation_[((ici + (next ? pas : -pas)) % n + n) % n];
+        if (!w->isEnabled() || w->isHidden() || !(w->focusPolicy() & Qt::TabFocus))
+            continue;
+        for (int page = 0; page < SSTab1->count(); ++page)
+            if (SSTab1->widget(page)->isAncestorOf(w))
+                SSTab1->setCurrentIndex(page);
+        w->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+        return true;
+    }
+    return false;
+}
+
+void feuille_élève::Form_Load() {
+    avec_piège(ErrorBoxKind::standard, [this] {
+        centrer_feuille(*this);
+        fixer_ordre(0);
+    });
+}
+
+void feuille_élève::Form_Unload(int&) {
+    module1().interaction().setMousePointer(vbDefault);
+}
+
+void feuille_élève::fixer_ordre(int index) {
+    Combo1->setCurrentIndex(index);
+    Combo1_Click();
+}
+
+// For now every entry gives the alphabetical order; the orders of the list come with the searches.
+void feuille_élève::Combo1_Click() {}
+
+void feuille_élève::matricule_LostFocus() {
+    avec_piège(ErrorBoxKind::standard, [this] {
+        SSTab1->setCurrentIndex(0);
+        if (!matricule->text().isEmpty())
+            matricule->setText(format_zéros(matricule->text()));
+    });
+}
+
+void feuille_élève::nom_enfant_LostFocus() {
+    SSTab1->setCurrentIndex(0);
+}
+
+void feuille_élève::prénom_enfant_LostFocus() {
+    SSTab1->setCurrentIndex(0);
+}
+
+void feuille_élève::Command15_Click() {
+    date_inscription->setText(module1().horloge().aujourdhui().toString(QStringLiteral("dd/MM/yyyy")));
+}
+
+void feuille_élève::cmdFermer_Click() {
+    module1().interaction().setMousePointer(vbDefault);
+    Unload();
+}
+
+// Twice a second, on every record alike: only the caption blinks, never the box's value.
 void feuille_élève::Timer1_Timer() {
     Check2->setText(Check2->text() == aîné ? QString() : aîné);
 }

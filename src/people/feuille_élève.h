@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QWidget>
+#include "platform/forms/Feuille.h"
+
 #include <array>
 #include <span>
 #include <variant>
@@ -18,10 +19,11 @@ class QTabWidget;
 class QTimer;
 
 // "Fiche élève": one pupil of the table élèves at a time, in a band of header fields above eight tabs.
-// No Q_OBJECT: moc cannot read an accented class name; connections use member pointers and lambdas.
-class feuille_élève : public QWidget {
+// No Q_OBJECT: moc cannot read an accented class name; connections use member pointers and lambdas,
+// and a cast to this class is a dynamic_cast.
+class feuille_élève : public Feuille {
 public:
-    explicit feuille_élève(QWidget* parent = nullptr);
+    feuille_élève();
     ~feuille_élève() override;
 
     // One bound field of the screen, as the screen's design declares it.
@@ -138,7 +140,23 @@ public:
     // The widget that shows a field of the table by its object name, nullptr when none.
     QWidget* champ(const QString& nom) const;
 
+    void Form_Load() override;
+    void Form_Unload(int& cancel) override;
+
+    // Sets the list's entry by code, which runs Combo1_Click as a pick by the user does.
+    void fixer_ordre(int index);
+    void Combo1_Click();
+
+    void matricule_LostFocus();
+    void nom_enfant_LostFocus();
+    void prénom_enfant_LostFocus();
+    void Command15_Click();
+    void cmdFermer_Click();
     void Timer1_Timer();
+
+protected:
+    // The Tab key walks the declared order across the pages, turning to the page of the next field.
+    bool focusNextPrevChild(bool next) override;
 
 private:
     struct Grille;
@@ -156,6 +174,7 @@ private:
     void construire_champs();
     void finir_disposition();
     void poser_tabulation();
+    void brancher_handlers();
 
     QGroupBox* groupe(const QString& nom);
     Grille* grille(const QString& nom);
@@ -163,4 +182,5 @@ private:
     void poser_champ(Grille& g, const Champ& c, QWidget* champ, QPushButton* légende, int paires_de_la_ligne);
 
     std::vector<Grille> grilles_;
+    QList<QWidget*> tabulation_;
 };
