@@ -1,38 +1,120 @@
 #include "platform/dao/Database.h"
 
+#include "platform/dao/Connection.h"
+#include "platform/dao/JetSql.h"
 #include "platform/dao/Recordset.h"
 #include "platform/errors/VbError.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QStringList>
 
-namespace dao {
-class Connection {};
-} // namespace dao
+namespace {
+
+QString first_word(const QString& jetSql) {
+    const QString trimmed = jetSql.trimmed();
+    return trimmed.section(u' ', 0, 0).section(u'\n', 0, 0).toLower();
+}
+
+} // namespace
 
 Database::Database(QString path, std::shared_ptr<dao::Connection> connection)
     : path_(std::move(path)), connection_(std::move(connection)) {}
-Database::~Database() = default;
+
+Database::~Database() {
+    Close();
+}
+
 std::shared_ptr<Database> Database::open(const QString& path) {
-    throw VbError(3024);
+    auto connection = dao::Connection::open(path, dao::Connection::Access::Shared);
+    return std::shared_ptr<Database>(new Database(path, std::move(connection)));
 }
-int Database::Execute(const QString&) {
-    throw VbError(3251);
+
+int Database::Execute(const QString& jetSql) {
+    if (!isOpen())
+        throw VbError(3420);
+    QString sql;
+    try {
+        sql = dao::translate_statement(jetSql);
+    } catch (const dao::JetSyntaxError&) {
+        throw VbError(3075, QStringLiteral("Erreur de syntaxe dans l'expression '%1'.").arg(jetSql));
+    }
+    if (first_word(jetSql) == u"select")
+        throw VbError(3065);
+    dao::Connection::WriteScope scope(*connection_);
+    connection_->run(sql);
+    const int changed = connection_->changes();
+    scope.commit();
+    return changed;
 }
-std::unique_ptr<Recordset> Database::OpenRecordset(const QString& source) {
-    return std::make_unique<Recordset>(connection_, source);
+
+std::unique_ptr<Recordset> Database::OpenRecordset(const QString& tableOrSelect) {
+    if (!isOpen())
+        throw VbError(3420);
+    return std::make_unique<Recordset>(connection_, tableOrSelect);
 }
+
+void Database::BeginTrans() {
+    if (!isOpen())
+        throw VbError(3420);
+    connection_->beginTransaction();
+}
+
+void Database::CommitTrans() {
+    if (!isOpen())
+        throw VbError(3420);
+    connection_->commitTransaction();
+}
+
+void Database::Rollback() {
+    if (!isOpen())
+        throw VbError(3420);
+    connection_->rollbackTransaction();
+}
+
 void Database::Close() {
+    if (connection_)
+        connection_->close();
     connection_.reset();
 }
+
 bool Database::isOpen() const {
-    return connection_ != nullptr;
+    return connection_ && connection_->isOpen();
 }
+
 QStringList Database::tableNames() const {
-    return {};
+    if (!isOpen())
+        throw VbError(3420);
+    return connection_->tableNames();
 }
-void CompactDatabase(const QString&, const QString&) {
-    throw VbError(3251);
+
+void CompactDatabase(const QString& source, const QString& target) {
+    const QFileInfo targetInfo(target);
+    if (target.trimmed().isEmpty() || !targetInfo.absoluteDir().exists())
+        dao::fail_with_path(3044, target);
+    if (targetInfo.exists())
+        throw VbError(3204);
+    if (QFileInfo(source).absoluteFilePath() == targetInfo.absoluteFilePath())
+        throw VbError(3204);
+
+    auto connection = dao::Connection::open(source, dao::Connection::Access::Exclusive);
+    try {
+        dao::Statement vacuum = connection->prepare(QStringLiteral("VACUUM INTO ?"));
+        vacuum.bind(1, QDir::toNativeSeparators(targetInfo.absoluteFilePath()));
+        while (vacuum.step()) {
+        }
+    } catch (...) {
+        connection->close();
+        QFile::remove(target); // never leave half a copy that looks like a base
+        throw;
+    }
+    connection->close();
 }
-bool fichier_en_usage(const QString&) {
-    return false;
+
+bool fichier_en_usage(const QString& path) {
+    if (!QFileInfo::exists(path))
+        return false;
+    dao::FileLock probe;
+    return probe.acquire(path, dao::FileLock::Mode::Exclusive) == dao::FileLock::Result::InUse;
 }

@@ -16,7 +16,7 @@ class Connection;
 //
 // Every failure is a VbError with the engine's number: 3024 missing file, 3343 not a database or
 // damaged, 3051 file locked, 3075 syntax in a query, 3022 duplicate key, 3163 text too long,
-// 3421 not a date, 3044 bad path.
+// 3421 not a date, 3044 bad path, 3065 Execute of a SELECT, 3078 unknown table.
 class Database {
 public:
     // Opens an existing file whatever its extension (.mdb, .mdz).
@@ -31,6 +31,11 @@ public:
 
     // A dynaset over a table name ("élèves", "[école]") or a single-table SELECT of the Jet dialect.
     std::unique_ptr<Recordset> OpenRecordset(const QString& tableOrSelect);
+
+    // Groups several writes into one transaction (each Update, Delete and Execute is otherwise its own).
+    void BeginTrans();
+    void CommitTrans();
+    void Rollback();
 
     // Releases the file and its lock. Recordsets still open on it raise 3420 from then on.
     void Close();
@@ -48,7 +53,7 @@ private:
 };
 
 // Writes a new, complete and compacted copy of source at target. Fails with 3024 if source is missing,
-// 3343 if it is no database, 3044 if target's folder does not exist, 3204 if target exists, and 3356
+// 3343 if it is no database, 3044 if target's folder does not exist, 3204 if target exists, and 3045
 // ("already in use") if anybody, in this program or another, holds source open.
 void CompactDatabase(const QString& source, const QString& target);
 

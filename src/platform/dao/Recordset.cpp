@@ -1,102 +1,597 @@
 #include "platform/dao/Recordset.h"
 
+#include "platform/dao/Connection.h"
+#include "platform/dao/JetDate.h"
+#include "platform/dao/JetSql.h"
 #include "platform/errors/VbError.h"
 
+#include <QDataStream>
+#include <QDate>
+#include <QHash>
+#include <QIODevice>
+#include <algorithm>
+#include <optional>
+#include <unordered_set>
+
 namespace dao {
-class RecordsetPrivate {};
+
+// Where the recordset stands: before the first row, on a row of the key list, or after the last.
+enum class At { Bof, Row, Eof };
+
+class RecordsetPrivate {
+public:
+    std::shared_ptr<Connection> connection;
+    TableInfo table;
+    SelectQuery query;
+    std::vector<FieldInfo> fields;
+    std::vector<int> tableColumn; // field index -> column index in the table
+    QHash<QString, int> byName;   // lower-case name -> field index
+    QString keysSql;
+    std::optional<Statement> fetch;
+
+    std::vector<qint64> keys;
+    std::vector<bool> gone;  // a hole: deleted here, or found missing when read
+    std::vector<long> holes; // the same positions, sorted, to count them fast
+    At at = At::Bof;
+    long cur = -1;
+    std::vector<QVariant> row; // stored values of the current row
+
+    EditMode mode = EditMode::None;
+    std::vector<QVariant> buffer;
+    std::vector<bool> dirty;
+    std::optional<qint64> lastModified;
+    bool noMatch = false;
+
+    Connection& db() const {
+        if (!connection->isOpen())
+            throw VbError(3420);
+        return *connection;
+    }
+
+    long liveCount() const { return static_cast<long>(keys.size() - holes.size()); }
+    bool onHole() const { return at == At::Row && gone[cur]; }
+
+    void markGone(long position) {
+        if (gone[position])
+            return;
+        gone[position] = true;
+        holes.insert(std::lower_bound(holes.begin(), holes.end(), position), position);
+    }
+
+    std::optional<std::vector<QVariant>> read(qint64 key) {
+        Statement& s = *fetch;
+        s.bind(1, QVariant(qlonglong(key)));
+        std::optional<std::vector<QVariant>> values;
+        try {
+            if (s.step()) {
+                values.emplace();
+                values->reserve(fields.size());
+                for (int i = 0; i < static_cast<int>(fields.size()); ++i)
+                    values->push_back(s.column(i));
+            }
+        } catch (...) {
+            s.reset();
+            throw;
+        }
+        s.reset();
+        return values;
+    }
+
+    // Loads the row at position; a row another user removed becomes a hole.
+    bool load(long position) {
+        if (gone[position])
+            return false;
+        auto values = read(keys[position]);
+        if (!values) {
+            markGone(position);
+            return false;
+        }
+        row = std::move(*values);
+        return true;
+    }
+
+    void dropEdit() {
+        mode = EditMode::None;
+        buffer.clear();
+        dirty.clear();
+    }
+
+    // First live row from position going by step; -1 when there is none.
+    long seek(long position, int step) {
+        for (long p = position; p >= 0 && p < static_cast<long>(keys.size()); p += step)
+            if (load(p))
+                return p;
+        return -1;
+    }
+
+    void standOn(long position) {
+        at = At::Row;
+        cur = position;
+    }
+
+    void requireRow() const {
+        if (at != At::Row)
+            throw VbError(3021);
+        if (gone[cur])
+            throw VbError(3167);
+    }
+
+    long positionOfKey(qint64 key) const {
+        for (long p = static_cast<long>(keys.size()) - 1; p >= 0; --p)
+            if (keys[p] == key)
+                return p;
+        return -1;
+    }
+
+    long positionOfLive(long live) const {
+        long p = live;
+        for (long h : holes) {
+            if (h <= p)
+                ++p;
+            else
+                break;
+        }
+        return p;
+    }
+
+    int field(const QString& column) const {
+        const int index = byName.value(column.toLower(), -1);
+        if (index < 0)
+            throw VbError(3265);
+        return index;
+    }
+
+    void runKeys() {
+        Statement s = db().prepare(keysSql);
+        keys.clear();
+        while (s.step())
+            keys.push_back(s.columnInt64(0));
+        keys.shrink_to_fit();
+        gone.assign(keys.size(), false);
+        holes.clear();
+        dropEdit();
+        row.clear();
+        const long first = seek(0, 1);
+        if (first >= 0)
+            standOn(first);
+        else {
+            at = At::Bof;
+            cur = -1;
+        }
+    }
+
+    void prepareFor(const QString& source) {
+        try {
+            query = parse_select(source);
+        } catch (const JetSyntaxError&) {
+            throw VbError(3075, QStringLiteral("Erreur de syntaxe dans l'expression '%1'.").arg(source));
+        }
+        table = db().table(query.table);
+        if (query.columns.isEmpty()) {
+            for (size_t i = 0; i < table.columns.size(); ++i)
+                tableColumn.push_back(static_cast<int>(i));
+        } else {
+            for (const QString& column : query.columns) {
+                const int index = table.indexOf(column);
+                if (index < 0)
+                    throw VbError(3061);
+                tableColumn.push_back(index);
+            }
+        }
+        QStringList selected;
+        for (int index : tableColumn) {
+            fields.push_back(table.columns[index]);
+            byName.insert(fields.back().name.toLower(), static_cast<int>(fields.size() - 1));
+            selected << quote_name(table.columns[index].name);
+        }
+        const QString from = quote_name(table.name);
+        fetch.emplace(db().prepare(QStringLiteral("SELECT %1 FROM %2 WHERE rowid = ?")
+                                       .arg(selected.join(QStringLiteral(", ")), from)));
+
+        keysSql = QStringLiteral("SELECT rowid FROM %1").arg(from);
+        if (!query.where.isEmpty())
+            keysSql += QStringLiteral(" WHERE (%1)").arg(query.where);
+        QStringList order;
+        for (const OrderTerm& term : query.order) {
+            const int index = table.indexOf(term.column);
+            if (index < 0)
+                throw VbError(3061);
+            const FieldInfo& column = table.columns[index];
+            const bool text = column.type == FieldType::Text || column.type == FieldType::Memo;
+            order << quote_name(column.name) + (text ? QStringLiteral(" COLLATE FR_TRI") : QString()) +
+                         (term.descending ? QStringLiteral(" DESC") : QString());
+        }
+        // Equal sort values keep the order of their writing, the same at every opening.
+        const bool lastDescending = !query.order.empty() && query.order.back().descending;
+        order << (lastDescending ? QStringLiteral("rowid DESC") : QStringLiteral("rowid"));
+        keysSql += QStringLiteral(" ORDER BY ") + order.join(QStringLiteral(", "));
+    }
+
+    QVariant shown(int index, const QVariant& stored) const {
+        switch (fields[index].type) {
+        case FieldType::Boolean:
+            return QVariant(!stored.isNull() && stored.toLongLong() != 0);
+        case FieldType::Date: {
+            if (stored.isNull())
+                return {};
+            const auto date = from_stored_date(stored.toString());
+            return date ? QVariant(to_shown_date(*date)) : QVariant(stored.toString());
+        }
+        case FieldType::Text:
+        case FieldType::Memo:
+            return stored.isNull() ? QVariant() : QVariant(stored.toString());
+        case FieldType::Number:
+            return stored;
+        }
+        return stored;
+    }
+
+    QVariant stored(int index, const QVariant& value) const {
+        const FieldInfo& f = fields[index];
+        switch (f.type) {
+        case FieldType::Text:
+        case FieldType::Memo: {
+            if (value.isNull())
+                return {};
+            const QString text = value.toString();
+            if (f.type == FieldType::Text && text.toUcs4().size() > f.size)
+                throw VbError(3163);
+            return QVariant(text);
+        }
+        case FieldType::Date: {
+            if (value.isNull())
+                return {};
+            if (value.typeId() == QMetaType::QDate)
+                return QVariant(to_stored_date(value.toDate()));
+            if (value.typeId() == QMetaType::QDateTime)
+                return QVariant(to_stored_date(value.toDateTime().date()));
+            const QString text = value.toString();
+            if (text.trimmed().isEmpty())
+                return {};
+            const auto date = parse_user_date(text);
+            if (!date)
+                throw VbError(3421);
+            return QVariant(to_stored_date(*date));
+        }
+        case FieldType::Boolean: {
+            if (value.isNull())
+                return QVariant(qlonglong(0));
+            if (value.typeId() == QMetaType::Bool || value.typeId() == QMetaType::Int ||
+                value.typeId() == QMetaType::LongLong)
+                return QVariant(qlonglong(value.toLongLong() != 0 ? 1 : 0));
+            const QString text = value.toString().trimmed().toLower();
+            if (text == u"true" || text == u"vrai" || text == u"oui" || text == u"-1" || text == u"1")
+                return QVariant(qlonglong(1));
+            if (text == u"false" || text == u"faux" || text == u"non" || text == u"0" || text.isEmpty())
+                return QVariant(qlonglong(0));
+            throw VbError(3421);
+        }
+        case FieldType::Number: {
+            if (value.isNull() || value.toString().trimmed().isEmpty())
+                return {};
+            bool ok = false;
+            const double number = QString(value.toString()).replace(u',', u'.').trimmed().toDouble(&ok);
+            if (!ok)
+                throw VbError(3421);
+            if (number == static_cast<double>(static_cast<qlonglong>(number)))
+                return QVariant(static_cast<qlonglong>(number));
+            return QVariant(number);
+        }
+        }
+        return value;
+    }
+
+    void find(long from, const QString& criterion) {
+        QString expression;
+        try {
+            const std::vector<Token> tokens = tokenize(criterion);
+            if (tokens.empty())
+                throw VbError(3077);
+            expression = translate_tokens(tokens, 0, tokens.size());
+        } catch (const JetSyntaxError&) {
+            throw VbError(3077);
+        }
+        Statement s = db().prepare(
+            QStringLiteral("SELECT rowid FROM %1 WHERE (%2)").arg(quote_name(table.name), expression), 3077);
+        std::unordered_set<qint64> matches;
+        while (s.step())
+            matches.insert(s.columnInt64(0));
+        noMatch = true;
+        if (matches.empty())
+            return;
+        for (long p = std::max(0L, from); p < static_cast<long>(keys.size()); ++p) {
+            if (!gone[p] && matches.count(keys[p]) && load(p)) {
+                dropEdit();
+                standOn(p);
+                noMatch = false;
+                return;
+            }
+        }
+    }
+};
+
 } // namespace dao
 
-Recordset::Recordset(std::shared_ptr<dao::Connection>, const QString&) {
-    throw VbError(3251);
+using dao::At;
+
+Recordset::Recordset(std::shared_ptr<dao::Connection> connection, const QString& jetSelect)
+    : d(std::make_unique<dao::RecordsetPrivate>()) {
+    if (!connection)
+        throw VbError(3420);
+    d->connection = std::move(connection);
+    d->prepareFor(jetSelect);
+    d->runKeys();
 }
+
 Recordset::~Recordset() = default;
+
 const std::vector<FieldInfo>& Recordset::fields() const {
-    throw VbError(3251);
+    return d->fields;
 }
-int Recordset::fieldIndex(const QString&) const {
-    return -1;
+
+int Recordset::fieldIndex(const QString& column) const {
+    return d->byName.value(column.toLower(), -1);
 }
-QVariant Recordset::field(const QString&) const {
-    throw VbError(3251);
+
+QVariant Recordset::field(const QString& column) const {
+    return field(d->field(column));
 }
-QVariant Recordset::field(int) const {
-    throw VbError(3251);
+
+QVariant Recordset::field(int index) const {
+    if (index < 0 || index >= static_cast<int>(d->fields.size()))
+        throw VbError(3265);
+    if (d->mode != EditMode::None)
+        return d->shown(index, d->buffer[index]);
+    d->requireRow();
+    return d->shown(index, d->row[index]);
 }
-void Recordset::setField(const QString&, const QVariant&) {
-    throw VbError(3251);
+
+void Recordset::setField(const QString& column, const QVariant& value) {
+    setField(d->field(column), value);
 }
-void Recordset::setField(int, const QVariant&) {
-    throw VbError(3251);
+
+void Recordset::setField(int index, const QVariant& value) {
+    if (index < 0 || index >= static_cast<int>(d->fields.size()))
+        throw VbError(3265);
+    if (d->mode == EditMode::None)
+        throw VbError(3020);
+    d->buffer[index] = d->stored(index, value);
+    d->dirty[index] = true;
 }
+
 void Recordset::AddNew() {
-    throw VbError(3251);
+    d->db();
+    d->buffer.clear();
+    for (int column : d->tableColumn)
+        d->buffer.push_back(d->table.defaults[column]);
+    d->dirty.assign(d->fields.size(), false);
+    d->mode = EditMode::AddNew;
 }
+
 void Recordset::Edit() {
-    throw VbError(3251);
+    d->db();
+    d->requireRow();
+    if (!d->load(d->cur))
+        throw VbError(3167);
+    d->buffer = d->row;
+    d->dirty.assign(d->fields.size(), false);
+    d->mode = EditMode::Edit;
 }
+
 void Recordset::Update() {
-    throw VbError(3251);
+    dao::Connection& db = d->db();
+    if (d->mode == EditMode::None)
+        throw VbError(3020);
+    QStringList columns;
+    std::vector<QVariant> values;
+    for (size_t i = 0; i < d->fields.size(); ++i) {
+        if (d->dirty[i]) {
+            columns << dao::quote_name(d->fields[i].name);
+            values.push_back(d->buffer[i]);
+        }
+    }
+    const QString table = dao::quote_name(d->table.name);
+    if (d->mode == EditMode::AddNew) {
+        QString sql;
+        if (columns.isEmpty()) {
+            sql = QStringLiteral("INSERT INTO %1 DEFAULT VALUES").arg(table);
+        } else {
+            QStringList marks;
+            for (qsizetype i = 0; i < columns.size(); ++i)
+                marks << QStringLiteral("?");
+            sql = QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
+                      .arg(table, columns.join(QStringLiteral(", ")), marks.join(QStringLiteral(", ")));
+        }
+        dao::Connection::WriteScope scope(db);
+        dao::Statement insert = db.prepare(sql);
+        for (size_t i = 0; i < values.size(); ++i)
+            insert.bind(static_cast<int>(i + 1), values[i]);
+        insert.step();
+        const qint64 key = db.lastInsertRowid();
+        scope.commit();
+        d->keys.push_back(key);
+        d->gone.push_back(false);
+        d->lastModified = key;
+        d->dropEdit();
+        return;
+    }
+    const qint64 key = d->keys[d->cur];
+    if (!columns.isEmpty()) {
+        QStringList assignments;
+        for (const QString& column : columns)
+            assignments << column + QStringLiteral(" = ?");
+        dao::Connection::WriteScope scope(db);
+        dao::Statement update = db.prepare(QStringLiteral("UPDATE %1 SET %2 WHERE rowid = ?")
+                                               .arg(table, assignments.join(QStringLiteral(", "))));
+        for (size_t i = 0; i < values.size(); ++i)
+            update.bind(static_cast<int>(i + 1), values[i]);
+        update.bind(static_cast<int>(values.size() + 1), QVariant(qlonglong(key)));
+        update.step();
+        if (db.changes() == 0) {
+            d->markGone(d->cur);
+            d->dropEdit();
+            throw VbError(3167);
+        }
+        scope.commit();
+    }
+    d->row = d->buffer;
+    d->lastModified = key;
+    d->dropEdit();
 }
+
 void Recordset::CancelUpdate() {
-    throw VbError(3251);
+    if (d->mode == EditMode::None)
+        throw VbError(3020);
+    d->dropEdit();
 }
+
 void Recordset::Delete() {
-    throw VbError(3251);
+    dao::Connection& db = d->db();
+    if (d->mode == EditMode::AddNew)
+        throw VbError(3021);
+    d->requireRow();
+    dao::Connection::WriteScope scope(db);
+    dao::Statement remove =
+        db.prepare(QStringLiteral("DELETE FROM %1 WHERE rowid = ?").arg(dao::quote_name(d->table.name)));
+    remove.bind(1, QVariant(qlonglong(d->keys[d->cur])));
+    remove.step();
+    scope.commit();
+    d->dropEdit();
+    d->markGone(d->cur);
+    d->row.clear();
 }
+
 EditMode Recordset::editMode() const {
-    return EditMode::None;
+    return d->mode;
 }
+
 void Recordset::MoveFirst() {
-    throw VbError(3251);
+    d->db();
+    const long p = d->seek(0, 1);
+    if (p < 0)
+        throw VbError(3021);
+    d->dropEdit();
+    d->standOn(p);
 }
-void Recordset::MovePrevious() {
-    throw VbError(3251);
-}
-void Recordset::MoveNext() {
-    throw VbError(3251);
-}
+
 void Recordset::MoveLast() {
-    throw VbError(3251);
+    d->db();
+    const long p = d->seek(static_cast<long>(d->keys.size()) - 1, -1);
+    if (p < 0)
+        throw VbError(3021);
+    d->dropEdit();
+    d->standOn(p);
 }
+
+void Recordset::MoveNext() {
+    d->db();
+    if (isEOF())
+        throw VbError(3021);
+    d->dropEdit();
+    const long p = d->seek(d->at == At::Bof ? 0 : d->cur + 1, 1);
+    if (p < 0) {
+        d->at = At::Eof;
+        d->cur = static_cast<long>(d->keys.size());
+        d->row.clear();
+    } else {
+        d->standOn(p);
+    }
+}
+
+void Recordset::MovePrevious() {
+    d->db();
+    if (isBOF())
+        throw VbError(3021);
+    d->dropEdit();
+    const long p = d->seek(d->at == At::Eof ? static_cast<long>(d->keys.size()) - 1 : d->cur - 1, -1);
+    if (p < 0) {
+        d->at = At::Bof;
+        d->cur = -1;
+        d->row.clear();
+    } else {
+        d->standOn(p);
+    }
+}
+
 bool Recordset::isEOF() const {
-    return true;
+    return d->at == At::Eof || (d->liveCount() == 0 && !d->onHole());
 }
+
 bool Recordset::isBOF() const {
-    return true;
+    return d->at == At::Bof || (d->liveCount() == 0 && !d->onHole());
 }
+
 int Recordset::AbsolutePosition() const {
-    return -1;
+    if (d->mode == EditMode::AddNew || d->at != At::Row || d->gone[d->cur])
+        return -1;
+    const auto before = std::lower_bound(d->holes.begin(), d->holes.end(), d->cur) - d->holes.begin();
+    return static_cast<int>(d->cur - before);
 }
-void Recordset::setAbsolutePosition(int) {
-    throw VbError(3251);
+
+void Recordset::setAbsolutePosition(int position) {
+    d->db();
+    if (position < 0 || position >= d->liveCount())
+        throw VbError(3001);
+    const long p = d->positionOfLive(position);
+    if (!d->load(p))
+        throw VbError(3167);
+    d->dropEdit();
+    d->standOn(p);
 }
+
 int Recordset::RecordCount() const {
-    return 0;
+    return static_cast<int>(d->liveCount());
 }
+
 QByteArray Recordset::Bookmark() const {
-    throw VbError(3251);
+    d->requireRow();
+    QByteArray bookmark;
+    QDataStream(&bookmark, QIODevice::WriteOnly) << qint64(d->keys[d->cur]);
+    return bookmark;
 }
-void Recordset::setBookmark(const QByteArray&) {
-    throw VbError(3251);
+
+void Recordset::setBookmark(const QByteArray& bookmark) {
+    d->db();
+    qint64 key = 0;
+    QDataStream in(bookmark);
+    in >> key;
+    const long p = bookmark.size() == sizeof(qint64) ? d->positionOfKey(key) : -1;
+    if (p < 0)
+        throw VbError(3159);
+    if (!d->load(p))
+        throw VbError(3167);
+    d->dropEdit();
+    d->standOn(p);
 }
+
 QByteArray Recordset::LastModified() const {
-    throw VbError(3251);
+    if (!d->lastModified)
+        throw VbError(3021);
+    QByteArray bookmark;
+    QDataStream(&bookmark, QIODevice::WriteOnly) << qint64(*d->lastModified);
+    return bookmark;
 }
-void Recordset::FindFirst(const QString&) {
-    throw VbError(3251);
+
+void Recordset::FindFirst(const QString& criterion) {
+    d->find(0, criterion);
 }
-void Recordset::FindNext(const QString&) {
-    throw VbError(3251);
+
+void Recordset::FindNext(const QString& criterion) {
+    d->find(d->at == At::Row ? d->cur + 1 : 0, criterion);
 }
+
 bool Recordset::NoMatch() const {
-    return true;
+    return d->noMatch;
 }
+
 void Recordset::Requery() {
-    throw VbError(3251);
+    d->runKeys();
 }
-QVariant Recordset::valueAt(int, int) const {
-    return {};
-}
-bool Recordset::isDeletedAt(int) const {
-    return false;
+
+QVariant Recordset::valueAt(int position, int index) const {
+    if (!d->connection->isOpen() || index < 0 || index >= static_cast<int>(d->fields.size()) ||
+        position < 0 || position >= d->liveCount())
+        return {};
+    const auto values = d->read(d->keys[d->positionOfLive(position)]);
+    return values ? d->shown(index, (*values)[index]) : QVariant();
 }

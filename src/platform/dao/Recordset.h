@@ -42,8 +42,9 @@ public:
     const std::vector<FieldInfo>& fields() const;
     int fieldIndex(const QString& column) const; // -1 when unknown
 
-    // Current row's value, or the copy buffer's during AddNew/Edit. Text: QString (null QVariant for a
-    // null), Date: "JJ/MM/AAAA" QString ("" when empty), Boolean: bool.
+    // Current row's value, or the copy buffer's during AddNew/Edit. Text and Memo: QString; Date:
+    // "JJ/MM/AAAA" QString; Number: qlonglong or double; an empty value of these is a null QVariant.
+    // Boolean: bool, never null.
     QVariant field(const QString& column) const;
     QVariant field(int index) const;
     // Writes into the copy buffer; starts nothing by itself (call Edit or AddNew first, else 3020).
@@ -85,9 +86,9 @@ public:
     // Reruns the query: new key list, on the first row.
     void Requery();
 
-    // Values for a grid, without moving: a hole or a position out of range gives a null QVariant.
+    // A value for a grid, without moving: position as AbsolutePosition counts; a row gone or a position
+    // out of range gives a null QVariant.
     QVariant valueAt(int position, int index) const;
-    bool isDeletedAt(int position) const;
 
 private:
     std::unique_ptr<dao::RecordsetPrivate> d;

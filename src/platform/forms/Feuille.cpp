@@ -12,7 +12,11 @@ Feuille::Feuille(const QString& nom, Genre genre) : genre_(genre) {
     setAttribute(Qt::WA_DeleteOnClose, false);
 }
 
-Feuille::~Feuille() = default;
+// The screen's own members are gone by now, but its controls are not: no handler may run any more.
+Feuille::~Feuille() {
+    if (filtre_)
+        filtre_->désarmer();
+}
 
 QWidget& Feuille::conteneur() {
     if (sous_fenêtre_)

@@ -22,6 +22,11 @@ void FiltreÉvénements::attacher(QWidget* contrôle, Sorte sorte, std::function
         surveiller(zone->viewport(), contrôle);
 }
 
+void FiltreÉvénements::désarmer() {
+    handlers_.clear();
+    cibles_.clear();
+}
+
 void FiltreÉvénements::surveiller(QWidget* cible, QWidget* contrôle) {
     if (cibles_.contains(cible))
         return;

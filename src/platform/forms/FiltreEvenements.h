@@ -13,6 +13,9 @@ public:
     explicit FiltreÉvénements(QObject* parent) : QObject(parent) {}
 
     void attacher(QWidget* contrôle, Sorte sorte, std::function<void()> handler);
+    // Drops every handler: the screen is being destroyed, and its controls still send focus events
+    // as they go.
+    void désarmer();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -1,9 +1,68 @@
 #include "platform/errors/VbError.h"
 
 #include <gtest/gtest.h>
+#include <new>
+#include <stdexcept>
+
+namespace {
+
+const QString generic = QString::fromUtf8("Erreur définie par l'application ou par l'objet");
+
+} // namespace
 
 TEST(VbError, CarriesNumberAndCatalogueText) {
     const VbError e(3021);
     EXPECT_EQ(e.number(), 3021);
     EXPECT_EQ(e.description(), QString::fromUtf8("Aucun enregistrement en cours."));
+}
+
+TEST(VbError, CatalogueKnowsEveryNumberTheProgramMeets) {
+    for (int n : {5,    13,   52,   53,   55,   58,   61,   70,   75,   76,   3020,
+                  3021, 3022, 3024, 3044, 3051, 3075, 3077, 3163, 3167, 3343, 3421}) {
+        SCOPED_TRACE(n);
+        EXPECT_TRUE(error_known(n));
+        EXPECT_NE(error_text(n), generic);
+        EXPECT_FALSE(error_text(n).isEmpty());
+    }
+}
+
+TEST(VbError, FileErrorsReadAsTheFrenchRuntimeSaysThem) {
+    EXPECT_EQ(VbError(53).description(), QString::fromUtf8("Fichier introuvable"));
+    EXPECT_EQ(VbError(70).description(), QString::fromUtf8("Permission refusée"));
+    EXPECT_EQ(VbError(75).description(), QString::fromUtf8("Erreur d'accès au chemin/fichier"));
+    EXPECT_EQ(VbError(76).description(), QString::fromUtf8("Chemin introuvable"));
+    EXPECT_EQ(VbError(13).description(), QString::fromUtf8("Type incompatible"));
+}
+
+TEST(VbError, UnknownNumberGetsTheGenericText) {
+    EXPECT_FALSE(error_known(4242));
+    EXPECT_EQ(VbError(4242).description(), generic);
+    EXPECT_EQ(VbError(4242).number(), 4242);
+}
+
+TEST(VbError, PlacesAreFilledInOrder) {
+    const VbError e = VbError::avec(3024, {QStringLiteral("/bases/école.mdb")});
+    EXPECT_EQ(e.number(), 3024);
+    EXPECT_EQ(e.description(), QString::fromUtf8("Fichier '/bases/école.mdb' introuvable."));
+    EXPECT_EQ(error_text(3061, {QStringLiteral("2")}), QStringLiteral("Trop peu de paramètres. 2 attendu."));
+}
+
+TEST(VbError, AnUnfilledQuotedPlaceGoesWithItsQuotes) {
+    EXPECT_EQ(error_text(3024), QStringLiteral("Fichier introuvable."));
+    EXPECT_EQ(error_text(3343), QString::fromUtf8("Format de base de données non reconnu."));
+}
+
+TEST(VbError, WhatCarriesTheFrenchText) {
+    const VbError e(76);
+    EXPECT_STREQ(e.what(), "Chemin introuvable");
+}
+
+TEST(VbError, AnyFailureBecomesANumberedError) {
+    EXPECT_EQ(vb_error_from(VbError(3022)).number(), 3022);
+    EXPECT_EQ(vb_error_from(VbError(9999, QStringLiteral("texte à moi"))).description(),
+              QString::fromUtf8("texte à moi"));
+    EXPECT_EQ(vb_error_from(std::bad_alloc()).number(), 7);
+    const VbError other = vb_error_from(std::runtime_error("english words"));
+    EXPECT_EQ(other.number(), 51);
+    EXPECT_EQ(other.description(), QStringLiteral("Erreur interne"));
 }

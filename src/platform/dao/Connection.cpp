@@ -1,0 +1,397 @@
+#include "platform/dao/Connection.h"
+
+#include "platform/dao/FrenchText.h"
+#include "platform/dao/JetSql.h"
+#include "platform/errors/VbError.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <sqlite3.h>
+
+namespace dao {
+namespace {
+
+constexpr int busy_wait_ms = 3000;
+
+int collate_primary(void*, int na, const void* a, int nb, const void* b) {
+    return compare_primary({static_cast<const char*>(a), static_cast<size_t>(na)},
+                           {static_cast<const char*>(b), static_cast<size_t>(nb)});
+}
+
+int collate_french(void*, int na, const void* a, int nb, const void* b) {
+    return compare_french(std::string_view{static_cast<const char*>(a), static_cast<size_t>(na)},
+                          std::string_view{static_cast<const char*>(b), static_cast<size_t>(nb)});
+}
+
+// like(pattern, text), which SQLite calls for "text LIKE pattern".
+void like_function(sqlite3_context* context, int, sqlite3_value** argv) {
+    if (sqlite3_value_type(argv[0]) == SQLITE_NULL || sqlite3_value_type(argv[1]) == SQLITE_NULL) {
+        sqlite3_result_null(context);
+        return;
+    }
+    const auto* pattern = reinterpret_cast<const char*>(sqlite3_value_text(argv[0]));
+    const int patternSize = sqlite3_value_bytes(argv[0]);
+    const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(argv[1]));
+    const int textSize = sqlite3_value_bytes(argv[1]);
+    sqlite3_result_int(context,
+                       jet_like(std::string_view(text, textSize), std::string_view(pattern, patternSize)));
+}
+
+FieldInfo field_from_declaration(const QString& name, const QString& declared) {
+    const QString type = declared.trimmed().toUpper();
+    static const QRegularExpression sized(
+        QStringLiteral("^(VARCHAR|TEXT|CHAR|NVARCHAR)\\s*\\(\\s*(\\d+)\\s*\\)$"));
+    if (const auto m = sized.match(type); m.hasMatch())
+        return {name, FieldType::Text, m.captured(2).toInt()};
+    if (type.isEmpty() || type == u"MEMO" || type == u"TEXT" || type == u"LONGTEXT" || type == u"CLOB")
+        return {name, FieldType::Memo, 0};
+    if (type == u"DATE" || type == u"DATETIME")
+        return {name, FieldType::Date, 0};
+    if (type == u"BOOLEAN" || type == u"BIT" || type == u"YESNO")
+        return {name, FieldType::Boolean, 0};
+    return {name, FieldType::Number, 0};
+}
+
+QVariant default_value(const FieldInfo& field, const QVariant& declaredDefault) {
+    if (field.type == FieldType::Boolean)
+        return QVariant(declaredDefault.isNull() ? qlonglong(0) : declaredDefault.toLongLong());
+    return {};
+}
+
+bool has_sqlite_header(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return true; // unreadable: the lock or the engine will say why
+    static const QByteArray magic("SQLite format 3\0", 16);
+    return file.read(16) == magic;
+}
+
+} // namespace
+
+[[noreturn]] void fail_with_path(int number, const QString& path) {
+    const QString native = QDir::toNativeSeparators(path);
+    switch (number) {
+    case 3024:
+        throw VbError(3024, QStringLiteral("Fichier '%1' introuvable.").arg(native));
+    case 3044:
+        throw VbError(3044, QStringLiteral("'%1' n'est pas un chemin d'accès valide. Vérifiez que le chemin "
+                                           "d'accès est correctement entré.")
+                                .arg(QDir::toNativeSeparators(QFileInfo(path).absolutePath())));
+    case 3045:
+        throw VbError(3045, QStringLiteral("Impossible d'utiliser '%1' ; fichier déjà utilisé.").arg(native));
+    case 3051:
+        throw VbError(3051,
+                      QStringLiteral("Le moteur de base de données ne peut pas ouvrir le fichier '%1'. Il "
+                                     "est déjà ouvert en mode exclusif par un autre utilisateur, ou vous "
+                                     "devez avoir l'autorisation de visualiser ses données.")
+                          .arg(native));
+    case 3343:
+        throw VbError(3343, QStringLiteral("Format de base de données '%1' non reconnu.").arg(native));
+    default:
+        throw VbError(number);
+    }
+}
+
+int TableInfo::indexOf(const QString& column) const {
+    for (size_t i = 0; i < columns.size(); ++i)
+        if (columns[i].name == column)
+            return static_cast<int>(i);
+    for (size_t i = 0; i < columns.size(); ++i)
+        if (columns[i].name.compare(column, Qt::CaseInsensitive) == 0)
+            return static_cast<int>(i);
+    return -1;
+}
+
+// --- Statement
+
+Statement::Statement(const Connection* connection, sqlite3_stmt* stmt, QString sql)
+    : connection_(connection), stmt_(stmt), sql_(std::move(sql)) {}
+
+Statement::~Statement() {
+    if (stmt_)
+        sqlite3_finalize(stmt_);
+}
+
+Statement::Statement(Statement&& other) noexcept
+    : connection_(other.connection_), stmt_(std::exchange(other.stmt_, nullptr)),
+      sql_(std::move(other.sql_)) {}
+
+void Statement::bind(int index, const QVariant& value) {
+    int rc;
+    if (value.isNull()) {
+        rc = sqlite3_bind_null(stmt_, index);
+    } else if (value.typeId() == QMetaType::Bool || value.typeId() == QMetaType::Int ||
+               value.typeId() == QMetaType::LongLong || value.typeId() == QMetaType::UInt) {
+        rc = sqlite3_bind_int64(stmt_, index, value.toLongLong());
+    } else if (value.typeId() == QMetaType::Double) {
+        rc = sqlite3_bind_double(stmt_, index, value.toDouble());
+    } else {
+        const QByteArray utf8 = value.toString().toUtf8();
+        rc = sqlite3_bind_text(stmt_, index, utf8.constData(), static_cast<int>(utf8.size()),
+                               SQLITE_TRANSIENT);
+    }
+    if (rc != SQLITE_OK)
+        connection_->fail(rc, 3075, sql_);
+}
+
+bool Statement::step() {
+    const int rc = sqlite3_step(stmt_);
+    if (rc == SQLITE_ROW)
+        return true;
+    if (rc == SQLITE_DONE)
+        return false;
+    sqlite3_reset(stmt_);
+    connection_->fail(rc, 3075, sql_);
+}
+
+void Statement::reset() {
+    sqlite3_reset(stmt_);
+    sqlite3_clear_bindings(stmt_);
+}
+
+int Statement::columnCount() const {
+    return sqlite3_column_count(stmt_);
+}
+
+QVariant Statement::column(int index) const {
+    switch (sqlite3_column_type(stmt_, index)) {
+    case SQLITE_NULL:
+        return {};
+    case SQLITE_INTEGER:
+        return QVariant(qlonglong(sqlite3_column_int64(stmt_, index)));
+    case SQLITE_FLOAT:
+        return QVariant(sqlite3_column_double(stmt_, index));
+    default: {
+        const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(stmt_, index));
+        return QVariant(QString::fromUtf8(text, sqlite3_column_bytes(stmt_, index)));
+    }
+    }
+}
+
+qint64 Statement::columnInt64(int index) const {
+    return sqlite3_column_int64(stmt_, index);
+}
+
+// --- Connection
+
+void register_jet_functions(sqlite3* db) {
+    sqlite3_create_collation_v2(db, "FR", SQLITE_UTF8, nullptr, collate_primary, nullptr);
+    sqlite3_create_collation_v2(db, "FR_TRI", SQLITE_UTF8, nullptr, collate_french, nullptr);
+    sqlite3_create_function_v2(db, "like", 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, like_function,
+                               nullptr, nullptr, nullptr);
+}
+
+Connection::Connection(QString path, sqlite3* db, FileLock lock)
+    : path_(std::move(path)), db_(db), lock_(std::move(lock)) {}
+
+Connection::~Connection() {
+    close();
+}
+
+std::shared_ptr<Connection> Connection::open(const QString& path, Access access) {
+    const QFileInfo info(path);
+    if (path.trimmed().isEmpty())
+        fail_with_path(3024, path);
+    if (!info.exists())
+        fail_with_path(info.absoluteDir().exists() ? 3024 : 3044, path);
+    if (info.isDir() || !has_sqlite_header(path))
+        fail_with_path(3343, path);
+
+    FileLock lock;
+    const auto mode = access == Access::Shared ? FileLock::Mode::Shared : FileLock::Mode::Exclusive;
+    if (lock.acquire(path, mode) != FileLock::Result::Held)
+        fail_with_path(access == Access::Shared ? 3051 : 3045, path);
+
+    sqlite3* db = nullptr;
+    const int flags = SQLITE_OPEN_READWRITE;
+    const int rc =
+        sqlite3_open_v2(QFile::encodeName(path).constData(), &db, flags | SQLITE_OPEN_NOMUTEX, nullptr);
+    if (rc != SQLITE_OK) {
+        sqlite3_close_v2(db);
+        fail_with_path(3051, path);
+    }
+    sqlite3_extended_result_codes(db, 1);
+    sqlite3_busy_timeout(db, busy_wait_ms);
+    register_jet_functions(db);
+
+    std::shared_ptr<Connection> connection(new Connection(path, db, std::move(lock)));
+    try {
+        Statement names = connection->prepare(
+            QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite*' "
+                           "ORDER BY rowid"));
+        while (names.step())
+            connection->tableNames_ << names.column(0).toString();
+    } catch (const VbError&) {
+        fail_with_path(3343, path);
+    }
+    return connection;
+}
+
+void Connection::close() {
+    if (!db_)
+        return;
+    if (depth_ > 0)
+        sqlite3_exec(db_, "ROLLBACK", nullptr, nullptr, nullptr);
+    depth_ = 0;
+    // Statements still owned by recordsets are finalized by them; the engine closes once they are.
+    sqlite3_close_v2(db_);
+    db_ = nullptr;
+    lock_.release();
+}
+
+sqlite3* Connection::handle() const {
+    if (!db_)
+        throw VbError(3420);
+    return db_;
+}
+
+Statement Connection::prepare(const QString& sqliteSql, int syntaxError) const {
+    const QByteArray utf8 = sqliteSql.toUtf8();
+    sqlite3_stmt* stmt = nullptr;
+    const char* tail = nullptr;
+    const int rc =
+        sqlite3_prepare_v2(handle(), utf8.constData(), static_cast<int>(utf8.size()), &stmt, &tail);
+    if (rc != SQLITE_OK)
+        fail(rc, syntaxError, sqliteSql);
+    if (!stmt || (tail && QByteArray(tail).trimmed().size() > 0)) {
+        sqlite3_finalize(stmt);
+        throw VbError(syntaxError);
+    }
+    return Statement(this, stmt, sqliteSql);
+}
+
+void Connection::run(const QString& sqliteSql) const {
+    Statement statement = prepare(sqliteSql);
+    while (statement.step()) {
+    }
+}
+
+int Connection::changes() const {
+    return sqlite3_changes(handle());
+}
+
+qint64 Connection::lastInsertRowid() const {
+    return sqlite3_last_insert_rowid(handle());
+}
+
+void Connection::fail(int rc, int syntaxError, const QString& sqlText) const {
+    const int extended = db_ ? sqlite3_extended_errcode(db_) : rc;
+    const QString message = db_ ? QString::fromUtf8(sqlite3_errmsg(db_)) : QString();
+    switch (rc & 0xFF) {
+    case SQLITE_CONSTRAINT:
+        if (extended == SQLITE_CONSTRAINT_NOTNULL)
+            throw VbError(3314);
+        throw VbError(3022);
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        throw VbError(3260);
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+        fail_with_path(3343, path_);
+    case SQLITE_FULL:
+        throw VbError(3026);
+    case SQLITE_READONLY:
+    case SQLITE_PERM:
+    case SQLITE_AUTH:
+        throw VbError(3027);
+    case SQLITE_IOERR:
+    case SQLITE_CANTOPEN:
+        throw VbError(3043);
+    case SQLITE_NOMEM:
+        throw VbError(7);
+    default:
+        break;
+    }
+    if (message.startsWith(u"no such table")) {
+        const QString table = message.section(u':', 1).trimmed();
+        throw VbError(3078,
+                      QStringLiteral("Le moteur de base de données ne trouve pas la table ou la requête "
+                                     "source '%1'.")
+                          .arg(table));
+    }
+    if (message.startsWith(u"no such column")) {
+        if (syntaxError == 3077)
+            throw VbError(3070,
+                          QStringLiteral("Le moteur de base de données ne reconnaît pas '%1' en tant que nom "
+                                         "de champ ou expression valide.")
+                              .arg(message.section(u':', 1).trimmed()));
+        throw VbError(3061);
+    }
+    if (syntaxError == 3075)
+        throw VbError(3075, QStringLiteral("Erreur de syntaxe dans l'expression '%1'.").arg(sqlText));
+    throw VbError(syntaxError);
+}
+
+const TableInfo& Connection::table(const QString& name) {
+    QString actual;
+    for (const QString& t : tableNames_)
+        if (t == name)
+            actual = t;
+    if (actual.isEmpty())
+        for (const QString& t : tableNames_)
+            if (t.compare(name, Qt::CaseInsensitive) == 0)
+                actual = t;
+    if (actual.isEmpty())
+        throw VbError(3078,
+                      QStringLiteral("Le moteur de base de données ne trouve pas la table ou la requête "
+                                     "source '%1'.")
+                          .arg(name));
+    if (auto it = tables_.find(actual); it != tables_.end())
+        return it->second;
+
+    TableInfo info;
+    info.name = actual;
+    Statement columns = prepare(QStringLiteral("PRAGMA table_info(%1)").arg(quote_name(actual)));
+    while (columns.step()) {
+        FieldInfo field = field_from_declaration(columns.column(1).toString(), columns.column(2).toString());
+        info.defaults.push_back(default_value(field, columns.column(4)));
+        info.columns.push_back(std::move(field));
+    }
+    return tables_.emplace(actual, std::move(info)).first->second;
+}
+
+QStringList Connection::tableNames() const {
+    return tableNames_;
+}
+
+void Connection::beginTransaction() {
+    run(depth_ == 0 ? QStringLiteral("BEGIN IMMEDIATE") : QStringLiteral("SAVEPOINT ecriture"));
+    ++depth_;
+}
+
+void Connection::commitTransaction() {
+    if (depth_ == 0)
+        throw VbError(3034);
+    run(depth_ == 1 ? QStringLiteral("COMMIT") : QStringLiteral("RELEASE ecriture"));
+    --depth_;
+}
+
+void Connection::rollbackTransaction() {
+    if (depth_ == 0)
+        throw VbError(3034);
+    --depth_;
+    if (depth_ == 0) {
+        sqlite3_exec(handle(), "ROLLBACK", nullptr, nullptr, nullptr);
+    } else {
+        sqlite3_exec(handle(), "ROLLBACK TO ecriture", nullptr, nullptr, nullptr);
+        sqlite3_exec(handle(), "RELEASE ecriture", nullptr, nullptr, nullptr);
+    }
+}
+
+Connection::WriteScope::WriteScope(Connection& connection) : connection_(connection) {
+    connection_.beginTransaction();
+}
+
+Connection::WriteScope::~WriteScope() {
+    if (open_ && connection_.isOpen())
+        connection_.rollbackTransaction();
+}
+
+void Connection::WriteScope::commit() {
+    connection_.commitTransaction();
+    open_ = false;
+}
+
+} // namespace dao

@@ -1,0 +1,118 @@
+#pragma once
+
+#include "platform/dao/FileLock.h"
+#include "platform/dao/Recordset.h"
+
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+#include <map>
+#include <memory>
+#include <vector>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+// The engine underneath Database and Recordset: one SQLite connection on one file, with our collations
+// and LIKE registered, the file's advisory lock, the tables' column types, and the mapping of every
+// engine failure to the Jet number a user can quote.
+namespace dao {
+
+class Connection;
+
+struct TableInfo {
+    QString name;
+    std::vector<FieldInfo> columns;
+    std::vector<QVariant> defaults; // stored form, per column
+
+    int indexOf(const QString& column) const; // -1 when unknown; case-insensitive as Jet
+};
+
+// A prepared statement, reset after each use so that it never keeps the file locked between calls.
+class Statement {
+public:
+    Statement(const Connection* connection, sqlite3_stmt* stmt, QString sql);
+    ~Statement();
+    Statement(Statement&& other) noexcept;
+    Statement& operator=(Statement&&) = delete;
+    Statement(const Statement&) = delete;
+
+    void bind(int index, const QVariant& value); // 1-based; a null QVariant binds NULL
+    bool step();                                 // true while there is a row
+    void reset();
+    int columnCount() const;
+    QVariant column(int index) const; // stored form: QString, qlonglong, double or null
+    qint64 columnInt64(int index) const;
+
+private:
+    const Connection* connection_;
+    sqlite3_stmt* stmt_;
+    QString sql_;
+};
+
+class Connection {
+public:
+    enum class Access { Shared, Exclusive };
+
+    // Opens an existing base. Shared access fails with 3051 while somebody holds the file exclusively;
+    // exclusive access fails with 3045 while anybody holds it at all.
+    static std::shared_ptr<Connection> open(const QString& path, Access access);
+    ~Connection();
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+
+    void close();
+    bool isOpen() const { return db_ != nullptr; }
+    const QString& path() const { return path_; }
+    sqlite3* handle() const; // 3420 once closed
+
+    // Prepares SQLite text; a text the engine cannot read raises syntaxError (3075 query, 3077 criterion).
+    Statement prepare(const QString& sqliteSql, int syntaxError = 3075) const;
+    void run(const QString& sqliteSql) const; // a statement without result or parameters
+    int changes() const;
+    qint64 lastInsertRowid() const;
+
+    [[noreturn]] void fail(int rc, int syntaxError, const QString& sqlText) const;
+
+    const TableInfo& table(const QString& name); // 3078 when the file has no such table
+    QStringList tableNames() const;
+
+    // Every write runs inside one of these: a transaction of its own, or a savepoint inside the
+    // caller's BeginTrans. Rolled back unless committed.
+    class WriteScope {
+    public:
+        explicit WriteScope(Connection& connection);
+        ~WriteScope();
+        WriteScope(const WriteScope&) = delete;
+        WriteScope& operator=(const WriteScope&) = delete;
+        void commit();
+
+    private:
+        Connection& connection_;
+        bool open_ = true;
+    };
+
+    void beginTransaction();
+    void commitTransaction();
+    void rollbackTransaction();
+    int transactionDepth() const { return depth_; }
+
+private:
+    Connection(QString path, sqlite3* db, FileLock lock);
+
+    QString path_;
+    sqlite3* db_;
+    FileLock lock_;
+    int depth_ = 0;
+    std::map<QString, TableInfo> tables_;
+    QStringList tableNames_;
+};
+
+// Registers the collations FR (equality ignoring case and accents) and FR_TRI (French order) and Jet's
+// LIKE on a connection.
+void register_jet_functions(sqlite3* db);
+
+// Thrown texts that name a file.
+[[noreturn]] void fail_with_path(int number, const QString& path);
+
+} // namespace dao

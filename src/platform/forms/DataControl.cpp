@@ -1,0 +1,462 @@
+#include "platform/forms/DataControl.h"
+
+#include "platform/dao/Database.h"
+#include "platform/dao/Recordset.h"
+#include "platform/errors/VbError.h"
+#include "platform/forms/Module1.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPointer>
+#include <QToolButton>
+
+namespace {
+
+// The engine's own box for a failure that no handler dealt with: its text alone.
+void show_engine_error(const VbError& error) {
+    Interaction& ui = module1().interaction();
+    ui.MsgBox(error.description(), vbExclamation + vbOKOnly, QString::fromUtf8(titre_programme));
+    ui.setMousePointer(vbDefault);
+}
+
+} // namespace
+
+// One control bound to one column. A label has no change signal: it counts as changed when its text
+// differs from what the row put there.
+struct DataControl::Binding {
+    QPointer<QWidget> control;
+    QString column;
+    QString shownLabelText;
+
+    QVariant value() const {
+        if (auto* box = qobject_cast<QLineEdit*>(control))
+            return textValue(box->text());
+        if (auto* box = qobject_cast<QPlainTextEdit*>(control))
+            return textValue(box->toPlainText());
+        if (auto* box = qobject_cast<QCheckBox*>(control))
+            return box->isChecked();
+        if (auto* label = qobject_cast<QLabel*>(control))
+            return textValue(label->text());
+        return {};
+    }
+
+    // An empty box stores no value, as a column never filled.
+    static QVariant textValue(const QString& text) { return text.isEmpty() ? QVariant() : QVariant(text); }
+
+    void show(const QVariant& value) {
+        if (auto* box = qobject_cast<QLineEdit*>(control))
+            box->setText(value.toString());
+        else if (auto* box = qobject_cast<QPlainTextEdit*>(control))
+            box->setPlainText(value.toString());
+        else if (auto* box = qobject_cast<QCheckBox*>(control))
+            box->setChecked(value.toBool());
+        else if (auto* label = qobject_cast<QLabel*>(control)) {
+            label->setText(value.toString());
+            shownLabelText = label->text();
+        }
+    }
+
+    bool labelChanged() const {
+        auto* label = qobject_cast<QLabel*>(control);
+        return label && label->text() != shownLabelText;
+    }
+};
+
+DataControl::DataControl(QWidget* parent) : QWidget(parent) {
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    auto arrow = [this, layout](const char* name, Qt::ArrowType type, bool bar, void (DataControl::*move)()) {
+        auto* button = new QToolButton(this);
+        button->setObjectName(QString::fromLatin1(name));
+        button->setArrowType(type);
+        button->setText(bar ? QStringLiteral("|") : QString());
+        button->setToolButtonStyle(bar ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
+        button->setFocusPolicy(Qt::NoFocus);
+        connect(button, &QToolButton::clicked, this, move);
+        layout->addWidget(button);
+    };
+    arrow("premier", Qt::LeftArrow, true, &DataControl::navigateFirst);
+    arrow("précédent", Qt::LeftArrow, false, &DataControl::navigatePrevious);
+    caption_ = new QLabel(this);
+    caption_->setObjectName(QStringLiteral("caption"));
+    caption_->setAlignment(Qt::AlignCenter);
+    caption_->setFrameShape(QFrame::Panel);
+    caption_->setFrameShadow(QFrame::Sunken);
+    caption_->setText(QStringLiteral(" "));
+    layout->addWidget(caption_, 1);
+    arrow("suivant", Qt::RightArrow, false, &DataControl::navigateNext);
+    arrow("dernier", Qt::RightArrow, true, &DataControl::navigateLast);
+}
+
+DataControl::~DataControl() = default;
+
+QString DataControl::Caption() const {
+    return caption_->text();
+}
+void DataControl::setCaption(const QString& caption) {
+    caption_->setText(caption);
+}
+
+::Recordset& DataControl::rs() const {
+    if (!recordset_)
+        throw VbError(91);
+    return *recordset_;
+}
+
+DataRecordset& DataControl::Recordset() {
+    rs();
+    return view_;
+}
+
+void DataControl::Refresh() {
+    if (recordset_ && !leaveRow(vbDataActionClose))
+        return;
+    closeRecordset();
+    database_ = Database::open(databaseName_);
+    recordset_ = database_->OpenRecordset(recordSource_);
+    showCurrentRow();
+    emit reopened();
+    firePositionChange();
+}
+
+void DataControl::UpdateRecord() {
+    auto& r = rs();
+    int action = vbDataActionUpdate;
+    bool save = DataChanged();
+    if (Validate)
+        Validate(action, save);
+    if (action == vbDataActionCancel)
+        return;
+    if (save || r.editMode() == EditMode::AddNew)
+        writeEdits();
+    else
+        lastWritten_ = r.Bookmark();
+}
+
+void DataControl::unload() {
+    if (!recordset_)
+        return;
+    runOutsideCode([this] { leaveRow(vbDataActionUnload); });
+    closeRecordset();
+}
+
+void DataControl::closeRecordset() {
+    recordset_.reset();
+    if (database_)
+        database_->Close();
+    database_.reset();
+    lastWritten_.clear();
+    pending_.clear();
+    changed_ = false;
+}
+
+bool DataControl::DataChanged() const {
+    if (changed_ || !pending_.isEmpty())
+        return true;
+    for (const auto& binding : bindings_)
+        if (binding->labelChanged())
+            return true;
+    return false;
+}
+
+bool DataControl::leaveRow(int action) {
+    bool save = DataChanged();
+    if (Validate)
+        Validate(action, save);
+    if (action == vbDataActionCancel)
+        return false;
+    if (save)
+        writeEdits();
+    else
+        discardEdits();
+    return true;
+}
+
+void DataControl::writeEdits() {
+    auto& r = rs();
+    if (r.editMode() == EditMode::None)
+        r.Edit();
+    for (const auto& binding : bindings_)
+        if (binding->control && r.fieldIndex(binding->column) >= 0)
+            r.setField(binding->column, binding->value());
+    for (auto it = pending_.cbegin(); it != pending_.cend(); ++it)
+        r.setField(it.key(), it.value());
+    const bool added = r.editMode() == EditMode::AddNew;
+    r.Update();
+    lastWritten_ = r.LastModified();
+    changed_ = false;
+    pending_.clear();
+    for (const auto& binding : bindings_)
+        if (auto* label = qobject_cast<QLabel*>(binding->control))
+            binding->shownLabelText = label->text();
+    if (added)
+        emit rowsChanged();
+}
+
+void DataControl::discardEdits() {
+    const bool added = recordset_ && recordset_->editMode() == EditMode::AddNew;
+    if (recordset_ && recordset_->editMode() != EditMode::None)
+        recordset_->CancelUpdate();
+    changed_ = false;
+    pending_.clear();
+    if (added)
+        emit rowsChanged();
+}
+
+void DataControl::showCurrentRow() {
+    filling_ = true;
+    for (const auto& binding : bindings_) {
+        QVariant value;
+        if (recordset_ && recordset_->fieldIndex(binding->column) >= 0) {
+            try {
+                value = recordset_->field(binding->column);
+            } catch (const VbError&) {
+                // No current row (an empty set, EOF, a deleted row): the controls show nothing.
+            }
+        }
+        binding->show(value);
+    }
+    filling_ = false;
+    changed_ = false;
+    pending_.clear();
+}
+
+void DataControl::firePositionChange() {
+    if (Reposition)
+        Reposition();
+    emit repositioned();
+}
+
+void DataControl::markChanged() {
+    if (!filling_)
+        changed_ = true;
+}
+
+void DataControl::addBinding(QWidget* control, const QString& column) {
+    auto binding = std::make_unique<Binding>();
+    binding->control = control;
+    binding->column = column;
+    bindings_.push_back(std::move(binding));
+}
+
+void DataControl::bind(QLineEdit* box, const QString& column) {
+    addBinding(box, column);
+    connect(box, &QLineEdit::textChanged, this, &DataControl::markChanged);
+}
+
+void DataControl::bind(QPlainTextEdit* box, const QString& column) {
+    addBinding(box, column);
+    connect(box, &QPlainTextEdit::textChanged, this, &DataControl::markChanged);
+}
+
+void DataControl::bind(QCheckBox* box, const QString& column) {
+    addBinding(box, column);
+    connect(box, &QCheckBox::toggled, this, &DataControl::markChanged);
+}
+
+void DataControl::bind(QLabel* label, const QString& column) {
+    addBinding(label, column);
+}
+
+bool DataControl::isAddingNew() const {
+    return recordset_ && recordset_->editMode() == EditMode::AddNew;
+}
+
+QVariant DataControl::pendingValue(const QString& column, bool* found) const {
+    const auto it = pending_.constFind(column);
+    *found = it != pending_.cend();
+    return *found ? it.value() : QVariant();
+}
+
+void DataControl::setPendingValue(const QString& column, const QVariant& value) {
+    pending_.insert(column, value);
+}
+
+void DataControl::beginGridNewRow() {
+    auto& r = rs();
+    if (r.editMode() == EditMode::AddNew)
+        return;
+    if (DataChanged())
+        writeEdits();
+    else
+        discardEdits();
+    r.AddNew();
+}
+
+void DataControl::commitRow() {
+    if (!recordset_)
+        return;
+    if (!DataChanged()) {
+        discardEdits();
+        return;
+    }
+    if (!leaveRow(vbDataActionUpdate))
+        return;
+    firePositionChange();
+}
+
+void DataControl::moveWith(int action, const std::function<void(::Recordset&)>& move) {
+    rs();
+    if (!leaveRow(action))
+        return;
+    move(rs());
+    showCurrentRow();
+    firePositionChange();
+}
+
+void DataControl::moveToPosition(int position) {
+    if (!leaveRow(vbDataActionBookmark))
+        return;
+    rs().setAbsolutePosition(position);
+    showCurrentRow();
+    firePositionChange();
+}
+
+bool DataControl::runOutsideCode(const std::function<void()>& action) {
+    try {
+        action();
+        return true;
+    } catch (const std::exception& failure) {
+        const VbError error = vb_error_from(failure);
+        int response = vbDataErrDisplay;
+        if (Error)
+            Error(error.number(), response);
+        if (response != vbDataErrContinue)
+            show_engine_error(error);
+        return false;
+    }
+}
+
+void DataControl::navigateFirst() {
+    runOutsideCode([this] { view_.MoveFirst(); });
+}
+
+void DataControl::navigatePrevious() {
+    runOutsideCode([this] {
+        view_.MovePrevious();
+        if (view_.isBOF())
+            view_.MoveFirst();
+    });
+}
+
+void DataControl::navigateNext() {
+    runOutsideCode([this] {
+        view_.MoveNext();
+        if (view_.isEOF())
+            view_.MoveLast();
+    });
+}
+
+void DataControl::navigateLast() {
+    runOutsideCode([this] { view_.MoveLast(); });
+}
+
+// ---- the row set as handlers see it
+
+Recordset& DataRecordset::raw() const {
+    return control_.rs();
+}
+
+void DataRecordset::AddNew() {
+    raw();
+    if (!control_.leaveRow(vbDataActionAddNew))
+        return;
+    raw().AddNew();
+    control_.showCurrentRow();
+    control_.firePositionChange();
+}
+
+void DataRecordset::Edit() {
+    raw().Edit();
+}
+
+void DataRecordset::Update() {
+    auto& r = raw();
+    const bool added = r.editMode() == EditMode::AddNew;
+    r.Update();
+    control_.lastWritten_ = r.LastModified();
+    if (added)
+        emit control_.rowsChanged();
+}
+
+void DataRecordset::CancelUpdate() {
+    control_.discardEdits();
+    control_.showCurrentRow();
+}
+
+void DataRecordset::Delete() {
+    raw();
+    int action = vbDataActionDelete;
+    bool save = control_.DataChanged();
+    if (control_.Validate)
+        control_.Validate(action, save);
+    if (action == vbDataActionCancel)
+        return;
+    // A row about to go is not written first.
+    control_.discardEdits();
+    raw().Delete();
+    emit control_.rowsChanged();
+}
+
+void DataRecordset::MoveFirst() {
+    control_.moveWith(vbDataActionMoveFirst, [](Recordset& r) { r.MoveFirst(); });
+}
+void DataRecordset::MovePrevious() {
+    control_.moveWith(vbDataActionMovePrevious, [](Recordset& r) { r.MovePrevious(); });
+}
+void DataRecordset::MoveNext() {
+    control_.moveWith(vbDataActionMoveNext, [](Recordset& r) { r.MoveNext(); });
+}
+void DataRecordset::MoveLast() {
+    control_.moveWith(vbDataActionMoveLast, [](Recordset& r) { r.MoveLast(); });
+}
+
+void DataRecordset::FindFirst(const QString& criterion) {
+    raw();
+    if (!control_.leaveRow(vbDataActionFind))
+        return;
+    raw().FindFirst(criterion);
+    if (raw().NoMatch())
+        return;
+    control_.showCurrentRow();
+    control_.firePositionChange();
+}
+
+void DataRecordset::setBookmark(const QByteArray& bookmark) {
+    control_.moveWith(vbDataActionBookmark, [&bookmark](Recordset& r) { r.setBookmark(bookmark); });
+}
+
+bool DataRecordset::isEOF() const {
+    return raw().isEOF();
+}
+bool DataRecordset::isBOF() const {
+    return raw().isBOF();
+}
+bool DataRecordset::NoMatch() const {
+    return raw().NoMatch();
+}
+int DataRecordset::AbsolutePosition() const {
+    return raw().AbsolutePosition();
+}
+int DataRecordset::RecordCount() const {
+    return raw().RecordCount();
+}
+QByteArray DataRecordset::Bookmark() const {
+    return raw().Bookmark();
+}
+
+QByteArray DataRecordset::LastModified() const {
+    raw();
+    return control_.lastWritten_.isEmpty() ? raw().LastModified() : control_.lastWritten_;
+}
+
+QVariant DataRecordset::field(const QString& column) const {
+    return raw().field(column);
+}
+void DataRecordset::setField(const QString& column, const QVariant& value) {
+    raw().setField(column, value);
+}

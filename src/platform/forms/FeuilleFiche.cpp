@@ -1,0 +1,225 @@
+#include "platform/forms/FeuilleFiche.h"
+
+#include "platform/errors/ErrorBoxes.h"
+#include "platform/forms/DBGrid.h"
+#include "platform/forms/DataControl.h"
+#include "platform/forms/Module1.h"
+#include "platform/forms/Placement.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+ConfigurationFiche table_de_consultation(QString nom, QString titre, QString table,
+                                         std::vector<ColonneGrille> colonnes) {
+    ConfigurationFiche configuration;
+    configuration.nom = std::move(nom);
+    configuration.titre = std::move(titre);
+    configuration.source_de_conception = std::move(table);
+    configuration.légende = LégendePosition::numérotée;
+    configuration.ajout = FormeAjout::B;
+    configuration.suppression = FormeSuppression::piégée;
+    configuration.boîte_erreur_données = true;
+    configuration.bouton_accepter = BoutonAccepter::caché;
+    configuration.grille = std::move(colonnes);
+    return configuration;
+}
+
+QString infobulle_rafraîchir(InfobulleRafraîchir orthographe) {
+    const QString suite = QStringLiteral(" les données, dans le cas d'une utilisation multi-utilisateurs");
+    switch (orthographe) {
+    case InfobulleRafraîchir::rafraichir:
+        return QStringLiteral("Cliquez pour rafraichir") + suite;
+    case InfobulleRafraîchir::rafraichier:
+        return QStringLiteral("Cliquez pour rafraichier") + suite;
+    case InfobulleRafraîchir::rafraîchir:
+        break;
+    }
+    return QStringLiteral("Cliquez pour rafraîchir") + suite;
+}
+
+FeuilleFiche::FeuilleFiche(ConfigurationFiche configuration)
+    : Feuille(configuration.nom), configuration_(std::move(configuration)) {
+    setWindowTitle(configuration_.titre);
+    auto* disposition = new QVBoxLayout(this);
+
+    if (!configuration_.grille.empty()) {
+        grdDataGrid = new DBGrid(this);
+        grdDataGrid->setObjectName(QStringLiteral("grdDataGrid"));
+        disposition->addWidget(grdDataGrid, 1);
+    } else {
+        corps_ = new QWidget(this);
+        corps_->setObjectName(QStringLiteral("corps"));
+        disposition->addWidget(corps_, 1);
+    }
+
+    datPrimaryRS = new DataControl(this);
+    datPrimaryRS->setObjectName(QStringLiteral("datPrimaryRS"));
+    datPrimaryRS->setRecordSource(configuration_.source_de_conception);
+    datPrimaryRS->Validate = [this](int& action, bool& save) { datPrimaryRS_Validate(action, save); };
+    datPrimaryRS->Reposition = [this] { datPrimaryRS_Reposition(); };
+    datPrimaryRS->Error = [this](int dataErr, int& response) { datPrimaryRS_Error(dataErr, response); };
+    disposition->addWidget(datPrimaryRS);
+
+    if (grdDataGrid) {
+        for (const ColonneGrille& colonne : configuration_.grille)
+            grdDataGrid->addColumn(colonne.colonne, colonne.titre);
+        grdDataGrid->setDataSource(datPrimaryRS);
+        if (configuration_.bouton_accepter != BoutonAccepter::aucun && configuration_.double_clic_accepte)
+            surDblClick(grdDataGrid, [this] { grdDataGrid_DblClick(); });
+    }
+
+    construireBoutons(disposition);
+
+    // The edited row is written before the screen goes, as the data source's final act.
+    avantDéchargement([this] {
+        if (grdDataGrid)
+            grdDataGrid->commitEditor();
+        datPrimaryRS->unload();
+    });
+}
+
+FeuilleFiche::~FeuilleFiche() = default;
+
+QPushButton* FeuilleFiche::bouton(const char* nom, const QString& légende, const QString& infobulle) {
+    auto* b = new QPushButton(légende, this);
+    b->setObjectName(QString::fromUtf8(nom));
+    b->setToolTip(infobulle);
+    b->setAutoDefault(false);
+    return b;
+}
+
+void FeuilleFiche::construireBoutons(QVBoxLayout* disposition) {
+    auto* rangée = new QHBoxLayout;
+    if (configuration_.bouton_accepter != BoutonAccepter::aucun) {
+        bouton_accepter =
+            bouton("bouton_accepter", QStringLiteral("Accepter"),
+                   QStringLiteral("Cliquez pour accepter ces données et les insérer dans la fiche "
+                                  "d'origine"));
+        bouton_accepter->setVisible(configuration_.bouton_accepter != BoutonAccepter::caché);
+        connect(bouton_accepter, &QPushButton::clicked, this, [this] { bouton_accepter_Click(); });
+        rangée->addWidget(bouton_accepter);
+    }
+    if (configuration_.ajout != FormeAjout::aucune) {
+        cmdAjouter = bouton("cmdAjouter", QStringLiteral("&Ajouter"),
+                            QStringLiteral("Cliquez pour créer une nouvelle fiche de saisie"));
+        connect(cmdAjouter, &QPushButton::clicked, this, [this] { cmdAjouter_Click(); });
+        rangée->addWidget(cmdAjouter);
+    }
+    if (configuration_.suppression != FormeSuppression::aucune) {
+        cmdSupprimer = bouton("cmdSupprimer", QStringLiteral("&Supprimer"),
+                              QStringLiteral("Cliquez pour supprimer la fiche en cours"));
+        connect(cmdSupprimer, &QPushButton::clicked, this, [this] { cmdSupprimer_Click(); });
+        rangée->addWidget(cmdSupprimer);
+    }
+    if (configuration_.rafraîchissement) {
+        cmdRafraîchir = bouton("cmdRafraîchir", QStringLiteral("&Rafraîchir"),
+                               infobulle_rafraîchir(configuration_.infobulle_rafraîchir));
+        connect(cmdRafraîchir, &QPushButton::clicked, this, [this] { cmdRafraîchir_Click(); });
+        rangée->addWidget(cmdRafraîchir);
+    }
+    cmdMettreàjour = bouton("cmdMettreàjour", QStringLiteral("&Valider"),
+                            QStringLiteral("Cliquez pour enregistrer les renseignements en cours"));
+    connect(cmdMettreàjour, &QPushButton::clicked, this, [this] { cmdMettreàjour_Click(); });
+    rangée->addWidget(cmdMettreàjour);
+    cmdFermer =
+        bouton("cmdFermer", QStringLiteral("&Fermer"), QStringLiteral("Cliquez pour fermer cette fenêtre"));
+    connect(cmdFermer, &QPushButton::clicked, this, [this] { cmdFermer_Click(); });
+    rangée->addWidget(cmdFermer);
+    disposition->addLayout(rangée);
+}
+
+void FeuilleFiche::Form_Load() {
+    avec_piège(ErrorBoxKind::standard, [this] { centrer_feuille(*this); });
+}
+
+void FeuilleFiche::Form_Unload(int&) {
+    if (bouton_accepter && configuration_.bouton_accepter == BoutonAccepter::caché)
+        bouton_accepter->setVisible(false);
+    if (bouton_accepter && configuration_.bouton_accepter == BoutonAccepter::désactivé)
+        bouton_accepter->setEnabled(false);
+    module1().interaction().setMousePointer(vbDefault);
+}
+
+// The position is undefined on a new or an empty row (-1): the numbered caption then shows 0.
+void FeuilleFiche::datPrimaryRS_Reposition() {
+    module1().interaction().setMousePointer(vbDefault);
+    en_silence([this] {
+        const QString position = QString::number(datPrimaryRS->Recordset().AbsolutePosition() + 1);
+        switch (configuration_.légende) {
+        case LégendePosition::numérotée:
+            datPrimaryRS->setCaption(QStringLiteral("Fiche: ") + position);
+            break;
+        case LégendePosition::nue:
+            datPrimaryRS->setCaption(position);
+            break;
+        case LégendePosition::aucune:
+            break;
+        }
+    });
+}
+
+// Never cancels and never touches Save: every edit is written. The hourglass stays until Reposition
+// or a close takes it away.
+void FeuilleFiche::datPrimaryRS_Validate(int& Action, bool&) {
+    Interaction& ui = module1().interaction();
+    if (Action == vbDataActionClose)
+        ui.setMousePointer(vbDefault);
+    ui.setMousePointer(vbHourglass);
+}
+
+void FeuilleFiche::datPrimaryRS_Error(int DataErr, int& Response) {
+    if (configuration_.boîte_erreur_données)
+        module1().interaction().MsgBox(QStringLiteral("Data error event hit err:") + error_text(DataErr),
+                                       vbOKOnly, QString::fromUtf8(titre_programme));
+    Response = vbDataErrContinue;
+}
+
+// No trap: a failure here (a MoveLast on an empty row set) goes up untrapped.
+void FeuilleFiche::cmdAjouter_Click() {
+    DataRecordset& rs = datPrimaryRS->Recordset();
+    if (configuration_.ajout == FormeAjout::A) {
+        rs.AddNew();
+        return;
+    }
+    rs.MoveLast();
+    grdDataGrid->setFocus();
+    grdDataGrid->stepDown();
+}
+
+void FeuilleFiche::cmdSupprimer_Click() {
+    auto supprimer = [this] {
+        DataRecordset& rs = datPrimaryRS->Recordset();
+        rs.Delete();
+        rs.MoveNext();
+        if (rs.isEOF())
+            rs.MoveLast();
+    };
+    if (configuration_.suppression == FormeSuppression::piégée)
+        avec_piège(ErrorBoxKind::standard, supprimer);
+    else
+        supprimer();
+}
+
+// No trap, as cmdAjouter_Click.
+void FeuilleFiche::cmdRafraîchir_Click() {
+    datPrimaryRS->Refresh();
+}
+
+// The saved row stays current (a new one becomes current), and Reposition puts the pointer back.
+void FeuilleFiche::cmdMettreàjour_Click() {
+    avec_piège(ErrorBoxKind::standard, [this] {
+        datPrimaryRS->UpdateRecord();
+        DataRecordset& rs = datPrimaryRS->Recordset();
+        rs.setBookmark(rs.LastModified());
+    });
+}
+
+void FeuilleFiche::cmdFermer_Click() {
+    module1().interaction().setMousePointer(vbDefault);
+    Unload();
+}
+
+void FeuilleFiche::grdDataGrid_DblClick() {
+    bouton_accepter_Click();
+}

@@ -1,0 +1,169 @@
+#include "platform/errors/ErrorBoxes.h"
+#include "platform/forms/Module1.h"
+#include "support/Fixtures.h"
+
+#include <QCoreApplication>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest-spi.h>
+#include <stdexcept>
+
+namespace {
+
+class ErrorBoxes : public ScriptedTest {};
+
+// The bytes the user reads, in UTF-8.
+std::string bytes(const QString& s) {
+    return s.toUtf8().toStdString();
+}
+
+} // namespace
+
+TEST_F(ErrorBoxes, StandardBoxTextByteForByte) {
+    ui().expectMsgBox(vbOK);
+    message_erreur_standard(VbError(53));
+    EXPECT_EQ(bytes(ui().lastBox().text),
+              "Le logiciel a rencontr\xc3\xa9 l'erreur : 53\n\nFichier introuvable");
+}
+
+TEST_F(ErrorBoxes, DataBoxTextByteForByte) {
+    ui().expectMsgBox(vbOK);
+    message_erreur_données(VbError(3021));
+    EXPECT_EQ(bytes(ui().lastBox().text),
+              "Le gestionnaire d'erreurs des donn\xc3\xa9"
+              "es a rencontr\xc3\xa9 l'erreur : 3021\n\nAucun enregistrement en cours.");
+}
+
+TEST_F(ErrorBoxes, ThirdFormTextByteForByte) {
+    ui().expectMsgBox(vbOK);
+    message_erreur_logiciel_données(VbError(76));
+    EXPECT_EQ(bytes(ui().lastBox().text), "Le logiciel des donn\xc3\xa9"
+                                          "es a rencontr\xc3\xa9 l'erreur : 76\n\nChemin introuvable");
+}
+
+TEST_F(ErrorBoxes, LineFeedsAreSingleCharacterTen) {
+    ui().expectMsgBox(vbOK);
+    message_erreur_standard(VbError(13));
+    const QString text = ui().lastBox().text;
+    EXPECT_FALSE(text.contains(QChar(13)));
+    EXPECT_EQ(text.count(QChar(10)), 2);
+    EXPECT_TRUE(text.contains(QStringLiteral("13\n\nType")));
+}
+
+TEST_F(ErrorBoxes, NumberIsDecimalWithoutPadding) {
+    ui().expectMsgBox(vbOK).expectMsgBox(vbOK);
+    message_erreur_standard(VbError(5));
+    EXPECT_TRUE(
+        ui().lastBox().text.endsWith(QStringLiteral(" : 5\n\nArgument ou appel de procédure incorrect")));
+    message_erreur_standard(VbError(0, QString()));
+    EXPECT_EQ(ui().lastBox().text, QString::fromUtf8("Le logiciel a rencontré l'erreur : 0\n\n"));
+}
+
+TEST_F(ErrorBoxes, EachBoxIsAnExclamationWithOkAndTheProgramTitle) {
+    ui().expectMsgBox().expectMsgBox().expectMsgBox();
+    message_erreur_standard(VbError(5));
+    message_erreur_données(VbError(5));
+    message_erreur_logiciel_données(VbError(5));
+    ASSERT_EQ(ui().boxes().size(), 3u);
+    for (const auto& box : ui().boxes()) {
+        EXPECT_EQ(box.buttons, vbExclamation + vbOKOnly);
+        EXPECT_EQ(box.title, QStringLiteral("Norvane v2"));
+    }
+}
+
+TEST_F(ErrorBoxes, EachBoxPutsTheDefaultPointerBack) {
+    for (auto show : {+[](const VbError& e) { message_erreur_standard(e); },
+                      +[](const VbError& e) { message_erreur_données(e); },
+                      +[](const VbError& e) { message_erreur_logiciel_données(e); }}) {
+        ui().expectMsgBox();
+        module1().interaction().setMousePointer(vbHourglass);
+        show(VbError(70));
+        EXPECT_EQ(module1().interaction().mousePointer(), vbDefault);
+    }
+}
+
+TEST_F(ErrorBoxes, AStandardExceptionIsShownWithFrenchWords) {
+    ui().expectMsgBox();
+    message_erreur_standard(std::runtime_error("disk on fire"));
+    EXPECT_EQ(ui().lastBox().text,
+              QString::fromUtf8("Le logiciel a rencontré l'erreur : 51\n\nErreur interne"));
+}
+
+TEST_F(ErrorBoxes, TrapEndsTheBodyAtTheFailureAndKeepsWhatWasDone) {
+    ui().expectMsgBox();
+    int steps = 0;
+    const bool finished = avec_piège(ErrorBoxKind::standard, [&] {
+        ++steps;
+        module1().interaction().setMousePointer(vbHourglass);
+        throw VbError(3022);
+        ++steps;
+    });
+    EXPECT_FALSE(finished);
+    EXPECT_EQ(steps, 1);
+    EXPECT_TRUE(
+        ui().lastBox().text.startsWith(QString::fromUtf8("Le logiciel a rencontré l'erreur : 3022\n\n")));
+    EXPECT_EQ(module1().interaction().mousePointer(), vbDefault);
+}
+
+TEST_F(ErrorBoxes, TrapShowsTheBoxItIsNamedFor) {
+    ui().expectMsgBox().expectMsgBox();
+    avec_piège(ErrorBoxKind::données, [] { throw VbError(3024); });
+    EXPECT_TRUE(ui().lastBox().text.startsWith(QStringLiteral("Le gestionnaire d'erreurs des données")));
+    avec_piège(ErrorBoxKind::logiciel_données, [] { throw std::out_of_range("x"); });
+    EXPECT_TRUE(
+        ui().lastBox().text.startsWith(QStringLiteral("Le logiciel des données a rencontré l'erreur : 51")));
+}
+
+TEST_F(ErrorBoxes, TrapIsSilentWhenNothingFails) {
+    int steps = 0;
+    EXPECT_TRUE(avec_piège(ErrorBoxKind::standard, [&] { ++steps; }));
+    EXPECT_EQ(steps, 1);
+    EXPECT_TRUE(ui().boxes().empty());
+}
+
+TEST_F(ErrorBoxes, SilentTrapShowsNothing) {
+    EXPECT_FALSE(en_silence([] { throw VbError(3021); }));
+    EXPECT_TRUE(en_silence([] {}));
+    EXPECT_TRUE(ui().boxes().empty());
+}
+
+// A failure no handler traps reaches the top of the event loop, is shown with the standard box's
+// words, and the program goes on with its next event.
+TEST_F(ErrorBoxes, UntrappedFailureInATimerSlotIsShownAndTheProgramGoesOn) {
+    ui().expectMsgBox();
+    bool next_event_ran = false;
+    QTimer::singleShot(0, [] { throw VbError(3021); });
+    QTimer::singleShot(0, [&] { next_event_ran = true; });
+    QCoreApplication::processEvents();
+    ASSERT_EQ(ui().boxes().size(), 1u);
+    EXPECT_EQ(ui().lastBox().text,
+              QString::fromUtf8("Le logiciel a rencontré l'erreur : 3021\n\nAucun enregistrement en cours."));
+    EXPECT_EQ(ui().lastBox().buttons, vbExclamation);
+    EXPECT_TRUE(next_event_ran);
+}
+
+TEST_F(ErrorBoxes, UntrappedFailureInAClickHandlerIsShownAndTheButtonStillWorks) {
+    ui().expectMsgBox().expectMsgBox();
+    QPushButton button(QStringLiteral("&Valider"));
+    int clicks = 0;
+    QObject::connect(&button, &QPushButton::clicked, [&] {
+        ++clicks;
+        throw std::runtime_error("boom");
+    });
+    button.show();
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_EQ(clicks, 2);
+    ASSERT_EQ(ui().boxes().size(), 2u);
+    EXPECT_EQ(ui().lastBox().text,
+              QString::fromUtf8("Le logiciel a rencontré l'erreur : 51\n\nErreur interne"));
+}
+
+TEST_F(ErrorBoxes, UntrappedFailureOfAnotherKindIsStillShown) {
+    ui().expectMsgBox();
+    QTimer::singleShot(0, [] { throw 42; });
+    QCoreApplication::processEvents();
+    ASSERT_EQ(ui().boxes().size(), 1u);
+    EXPECT_TRUE(ui().lastBox().text.startsWith(QString::fromUtf8("Le logiciel a rencontré l'erreur : 51")));
+}

@@ -1,0 +1,84 @@
+#include "platform/errors/VbError.h"
+#include "platform/forms/Feuille.h"
+#include "platform/forms/Module1.h"
+#include "support/Fixtures.h"
+
+#include <QApplication>
+#include <QFocusEvent>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QStringList>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace {
+
+class feuille_saisie : public Feuille {
+public:
+    feuille_saisie() : Feuille(QStringLiteral("feuille_saisie"), Genre::haut_niveau) {
+        nom = new QLineEdit(this);
+        prénom = new QLineEdit(this);
+        prénom->move(0, 40);
+        File1 = new QListWidget(this);
+        File1->move(0, 80);
+        File1->addItems({QStringLiteral("a.mdb"), QStringLiteral("b.mdb")});
+        resize(300, 300);
+        surGotFocus(nom, [this] { journal << QStringLiteral("nom_GotFocus"); });
+        surLostFocus(nom, [this] { journal << QStringLiteral("nom_LostFocus"); });
+        surGotFocus(prénom, [this] { journal << QStringLiteral("prénom_GotFocus"); });
+        surDblClick(nom, [this] { journal << QStringLiteral("nom_DblClick"); });
+        surDblClick(File1,
+                    [this] { journal << QStringLiteral("File1_DblClick ") + File1->currentItem()->text(); });
+    }
+    QLineEdit* nom;
+    QLineEdit* prénom;
+    QListWidget* File1;
+    QStringList journal;
+};
+
+class EventFilter : public ScriptedTest {
+protected:
+    void SetUp() override {
+        ScriptedTest::SetUp();
+        f = &module1().feuilles().get<feuille_saisie>();
+        f->Show();
+        QApplication::setActiveWindow(f);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(f));
+    }
+    feuille_saisie* f = nullptr;
+};
+
+} // namespace
+
+TEST_F(EventFilter, FocusMovesGiveLostFocusThenGotFocus) {
+    f->nom->setFocus();
+    f->prénom->setFocus();
+    EXPECT_EQ(f->journal, (QStringList{"nom_GotFocus", "nom_LostFocus", "prénom_GotFocus"}));
+}
+
+TEST_F(EventFilter, DoubleClickOnATextBox) {
+    QTest::mouseDClick(f->nom, Qt::LeftButton);
+    EXPECT_TRUE(f->journal.contains(QStringLiteral("nom_DblClick")));
+}
+
+TEST_F(EventFilter, DoubleClickOnAListReachesItsHandlerThroughTheViewport) {
+    const QRect second = f->File1->visualItemRect(f->File1->item(1));
+    QTest::mouseClick(f->File1->viewport(), Qt::LeftButton, {}, second.center());
+    QTest::mouseDClick(f->File1->viewport(), Qt::LeftButton, {}, second.center());
+    EXPECT_EQ(f->journal.filter(QStringLiteral("DblClick")), (QStringList{"File1_DblClick b.mdb"}));
+}
+
+TEST_F(EventFilter, ControlsWithoutHandlersAreLeftAlone) {
+    QTest::mouseDClick(f->prénom, Qt::LeftButton);
+    EXPECT_TRUE(f->journal.filter(QStringLiteral("DblClick")).isEmpty());
+}
+
+TEST_F(EventFilter, AFailureInAHandlerIsShownAndTheFocusStillMoves) {
+    ui().expectMsgBox();
+    f->surGotFocus(f->prénom, [] { throw VbError(13); });
+    f->prénom->setFocus();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(f->prénom->hasFocus());
+    EXPECT_EQ(ui().lastBox().text,
+              QString::fromUtf8("Le logiciel a rencontré l'erreur : 13\n\nType incompatible"));
+}

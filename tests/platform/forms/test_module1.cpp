@@ -1,0 +1,61 @@
+#include "platform/forms/Module1.h"
+#include "platform/ui/QtInteraction.h"
+#include "support/Fixtures.h"
+
+#include <gtest/gtest.h>
+#include <limits>
+#include <type_traits>
+
+TEST(Module1, StartsEmptyWithZeroAndTheRealDialogs) {
+    module1().réinitialiser();
+    EXPECT_TRUE(module1().base_en_cours.isEmpty());
+    EXPECT_TRUE(module1().chemin_application.isEmpty());
+    EXPECT_TRUE(module1().chemin_choisi.isEmpty());
+    EXPECT_TRUE(module1().chemin_image_choisie.isEmpty());
+    EXPECT_EQ(module1().origine_appel, 0);
+    EXPECT_NE(dynamic_cast<QtInteraction*>(&module1().interaction()), nullptr);
+}
+
+TEST(Module1, CallerOriginIsASigned16BitInteger) {
+    static_assert(std::is_same_v<decltype(Module1::origine_appel), int16_t>);
+    module1().origine_appel = std::numeric_limits<int16_t>::max();
+    ++module1().origine_appel;
+    EXPECT_EQ(module1().origine_appel, std::numeric_limits<int16_t>::min());
+    module1().réinitialiser();
+}
+
+TEST(Module1, ResetBringsBackTheStartState) {
+    module1().base_en_cours = QStringLiteral("/bases/école.mdb");
+    module1().chemin_application = QStringLiteral("/travail/");
+    module1().chemin_choisi = QStringLiteral("/bases/");
+    module1().chemin_image_choisie = QStringLiteral("/photos/a.jpg");
+    module1().origine_appel = 7;
+    module1().horloge().fixer(QDateTime(QDate(2024, 9, 2), QTime(8, 30)));
+    module1().setInteraction(std::make_shared<ScriptedInteraction>());
+    module1().réinitialiser();
+    EXPECT_TRUE(module1().base_en_cours.isEmpty());
+    EXPECT_TRUE(module1().chemin_application.isEmpty());
+    EXPECT_TRUE(module1().chemin_choisi.isEmpty());
+    EXPECT_TRUE(module1().chemin_image_choisie.isEmpty());
+    EXPECT_EQ(module1().origine_appel, 0);
+    EXPECT_NE(module1().horloge().aujourdhui(), QDate(2024, 9, 2));
+    EXPECT_NE(dynamic_cast<QtInteraction*>(&module1().interaction()), nullptr);
+}
+
+TEST(Module1, TheClockCanBeFixedForATest) {
+    module1().horloge().fixer(QDateTime(QDate(2024, 9, 2), QTime(8, 30)));
+    EXPECT_EQ(module1().horloge().aujourdhui(), QDate(2024, 9, 2));
+    EXPECT_EQ(module1().horloge().maintenant().toString(QStringLiteral("dd/MM/yyyy")),
+              QStringLiteral("02/09/2024"));
+    module1().horloge().libérer();
+    EXPECT_EQ(module1().horloge().aujourdhui(), QDate::currentDate());
+}
+
+class Fixture : public WorkFolderTest {};
+
+TEST_F(Fixture, TheWorkFolderIsTheApplicationFolderAndTheScriptedUserIsInPlace) {
+    EXPECT_EQ(&module1().interaction(), &ui());
+    EXPECT_TRUE(module1().chemin_application.startsWith(folder.path()));
+    EXPECT_TRUE(module1().chemin_application.endsWith(QDir::separator()));
+    EXPECT_TRUE(QDir(folder.path()).exists());
+}

@@ -1,0 +1,109 @@
+#include "platform/forms/Clignotement.h"
+#include "platform/forms/Feuille.h"
+#include "platform/forms/Module1.h"
+#include "platform/forms/Placement.h"
+#include "support/Fixtures.h"
+
+#include <QGuiApplication>
+#include <QLabel>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+TEST(Placement, CentredIs500TwipsAboveTheMiddle) {
+    const PositionTwips p = position_centrée(15360, 11520, 6000, 4000);
+    EXPECT_DOUBLE_EQ(p.top, 3260);
+    EXPECT_DOUBLE_EQ(p.left, 4680);
+}
+
+TEST(Placement, HighIs1500AboveAnd1000LeftOfTheMiddle) {
+    const PositionTwips p = position_centrée_haute(15360, 11520, 6000, 4000);
+    EXPECT_DOUBLE_EQ(p.top, 2260);
+    EXPECT_DOUBLE_EQ(p.left, 3680);
+}
+
+TEST(Placement, HalvesAreKeptInFloatingPoint) {
+    const PositionTwips p = position_centrée(15361, 11521, 6000, 4000);
+    EXPECT_DOUBLE_EQ(p.top, 3260.5);
+    EXPECT_DOUBLE_EQ(p.left, 4680.5);
+}
+
+TEST(Placement, ATallScreenGetsANegativeTopAndIsNotClipped) {
+    const PositionTwips p = position_centrée(15360, 11520, 20000, 12000);
+    EXPECT_DOUBLE_EQ(p.top, -740);
+    EXPECT_DOUBLE_EQ(p.left, -2320);
+    const PositionTwips h = position_centrée_haute(15360, 11520, 6000, 11520);
+    EXPECT_DOUBLE_EQ(h.top, -1500);
+}
+
+TEST(Placement, FifteenTwipsToAPixel) {
+    EXPECT_DOUBLE_EQ(en_twips(81), 1215);
+    EXPECT_EQ(en_pixels(1455), 97);
+    EXPECT_EQ(en_pixels(-740), -49);
+    EXPECT_EQ(en_pixels(7.4), 0);
+    EXPECT_EQ(en_pixels(7.6), 1);
+}
+
+namespace {
+
+class feuille_placée : public Feuille {
+public:
+    feuille_placée() : Feuille(QStringLiteral("feuille_placée"), Genre::haut_niveau) { resize(400, 300); }
+};
+
+class PlacingAScreen : public ScriptedTest {};
+
+} // namespace
+
+TEST_F(PlacingAScreen, CentrerFeuilleMeasuresTheWholeDisplay) {
+    auto& f = module1().feuilles().get<feuille_placée>();
+    centrer_feuille(f);
+    const QSize screen = QGuiApplication::primaryScreen()->geometry().size();
+    const QSize own = f.frameGeometry().size();
+    const PositionTwips p = position_centrée(en_twips(screen.width()), en_twips(screen.height()),
+                                             en_twips(own.width()), en_twips(own.height()));
+    EXPECT_EQ(f.pos(), QPoint(en_pixels(p.left), en_pixels(p.top)));
+    EXPECT_EQ(f.y(), (screen.height() - own.height()) / 2 - 33); // 500 twips is 33.3 pixels
+}
+
+TEST_F(PlacingAScreen, CentrerFeuilleHauteIsHigherAndFurtherLeft) {
+    auto& f = module1().feuilles().get<feuille_placée>();
+    centrer_feuille(f);
+    const QPoint centred = f.pos();
+    centrer_feuille_haute(f);
+    EXPECT_EQ(f.x(), centred.x() - 67); // 1000 twips
+    EXPECT_EQ(f.y(), centred.y() - 67); // 1000 twips more than the 500 above
+}
+
+TEST(Colours, StoredWithBlueInTheHighByte) {
+    EXPECT_EQ(couleur_vb(0x80FFFF), QColor(255, 255, 128)); // pale yellow
+    EXPECT_EQ(couleur_vb(0xFF0000), QColor(0, 0, 255));     // pure blue
+    EXPECT_EQ(valeur_vb(QColor(0, 0, 255)), 0xFF0000u);
+    EXPECT_EQ(valeur_vb(couleur_vb(0x123456)), 0x123456u);
+}
+
+TEST(Colours, BackAndForeColorOfAControl) {
+    QLabel Label1(QStringLiteral("Cliquez ou pressez une touche quelconque"));
+    fixer_BackColor(Label1, 0x80FFFF);
+    fixer_ForeColor(Label1, 0xFF0000);
+    EXPECT_EQ(BackColor(Label1), 0x80FFFFu);
+    EXPECT_EQ(ForeColor(Label1), 0xFF0000u);
+    EXPECT_TRUE(Label1.autoFillBackground());
+}
+
+TEST(BlinkingTimer, RunsAtItsIntervalUnderItsNameAndGoesWithItsScreen) {
+    auto label = std::make_unique<QLabel>();
+    int ticks = 0;
+    QPointer<QTimer> timer = minuterie_clignotante(*label, 600, [&] { ++ticks; });
+    ASSERT_FALSE(timer.isNull());
+    EXPECT_EQ(timer->objectName(), QStringLiteral("Timer1"));
+    EXPECT_EQ(timer->interval(), 600);
+    EXPECT_TRUE(timer->isActive());
+    EXPECT_EQ(label->findChild<QTimer*>(QStringLiteral("Timer1")), timer.data());
+    QMetaObject::invokeMethod(timer.data(), "timeout");
+    QMetaObject::invokeMethod(timer.data(), "timeout");
+    EXPECT_EQ(ticks, 2);
+    label.reset();
+    EXPECT_TRUE(timer.isNull());
+}

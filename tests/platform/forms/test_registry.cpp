@@ -1,0 +1,234 @@
+#include "platform/forms/Feuille.h"
+#include "platform/forms/Module1.h"
+#include "support/Fixtures.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QPointer>
+#include <QPushButton>
+#include <QStringList>
+#include <gtest/gtest.h>
+
+namespace {
+
+// What happened to the test screens, in order.
+QStringList journal;
+
+class feuille_options_essai : public Feuille {
+public:
+    feuille_options_essai() : Feuille(QStringLiteral("feuille_options_essai")) {
+        Check3 = new QCheckBox(QStringLiteral("ouvrir le dernier fichier utilisé"), this);
+        Label4 = new QLabel(this);
+        cmdFermer = new QPushButton(QStringLiteral("&Fermer"), this);
+        QObject::connect(cmdFermer, &QPushButton::clicked, this, [this] { Unload(); });
+        avantDéchargement([] { journal << QStringLiteral("écriture"); });
+    }
+    void Form_Load() override {
+        ++loads;
+        journal << QStringLiteral("Form_Load");
+        Label4->setText(QStringLiteral("chargée"));
+    }
+    void Form_QueryUnload(int& cancel) override {
+        journal << QStringLiteral("Form_QueryUnload");
+        cancel = refuseQuery;
+    }
+    void Form_Unload(int& cancel) override {
+        journal << QStringLiteral("Form_Unload");
+        cancel = refuseUnload;
+    }
+
+    QCheckBox* Check3;
+    QLabel* Label4;
+    QPushButton* cmdFermer;
+    int loads = 0;
+    int refuseQuery = 0;
+    int refuseUnload = 0;
+};
+
+class feuille_login_essai : public Feuille {
+public:
+    feuille_login_essai() : Feuille(QStringLiteral("feuille_login_essai"), Genre::haut_niveau) {}
+};
+
+// A screen whose Form_Load touches another screen, as reading a closed screen's control does.
+class feuille_appelante : public Feuille {
+public:
+    feuille_appelante() : Feuille(QStringLiteral("feuille_appelante")) {}
+    void Form_Load() override {
+        lu = module1().feuilles().get<feuille_options_essai>().Label4->text();
+        module1().feuilles().get<feuille_appelante>(); // its own name, while loading
+    }
+    QString lu;
+};
+
+class Registry : public ScriptedTest {
+protected:
+    void SetUp() override {
+        ScriptedTest::SetUp();
+        journal.clear();
+    }
+    Feuilles& feuilles() { return module1().feuilles(); }
+};
+
+} // namespace
+
+TEST_F(Registry, FirstTouchLoadsHiddenAndRunsFormLoadOnce) {
+    EXPECT_FALSE(feuilles().isLoaded<feuille_options_essai>());
+    EXPECT_EQ(feuilles().siChargée<feuille_options_essai>(), nullptr);
+    auto& f = feuilles().get<feuille_options_essai>();
+    EXPECT_TRUE(feuilles().isLoaded<feuille_options_essai>());
+    EXPECT_FALSE(f.isVisible());
+    EXPECT_EQ(f.Label4->text(), QStringLiteral("chargée"));
+    EXPECT_EQ(&feuilles().get<feuille_options_essai>(), &f);
+    EXPECT_EQ(f.loads, 1);
+    EXPECT_EQ(feuilles().siChargée<feuille_options_essai>(), &f);
+}
+
+TEST_F(Registry, UnloadRunsItsEventsInOrderAndTheNextTouchBringsBackTheDefaults) {
+    auto& f = feuilles().get<feuille_options_essai>();
+    f.Check3->setChecked(true);
+    f.Label4->setText(QStringLiteral("/bases/école.mdb"));
+    QPointer<feuille_options_essai> old(&f);
+    journal.clear();
+
+    EXPECT_TRUE(feuilles().unload(f));
+    EXPECT_EQ(journal, (QStringList{"Form_QueryUnload", "écriture", "Form_Unload"}));
+    EXPECT_FALSE(feuilles().isLoaded<feuille_options_essai>());
+    processDeletions();
+    EXPECT_TRUE(old.isNull());
+
+    auto& again = feuilles().get<feuille_options_essai>();
+    EXPECT_FALSE(again.Check3->isChecked());
+    EXPECT_EQ(again.Label4->text(), QStringLiteral("chargée"));
+    EXPECT_EQ(again.loads, 1);
+}
+
+TEST_F(Registry, CancelInQueryUnloadKeepsTheScreenUntouched) {
+    auto& f = feuilles().get<feuille_options_essai>();
+    f.refuseQuery = 1;
+    f.Label4->setText(QStringLiteral("gardé"));
+    journal.clear();
+    EXPECT_FALSE(feuilles().unload(f));
+    EXPECT_EQ(journal, (QStringList{"Form_QueryUnload"}));
+    processDeletions();
+    ASSERT_TRUE(feuilles().isLoaded<feuille_options_essai>());
+    EXPECT_EQ(feuilles().get<feuille_options_essai>().Label4->text(), QStringLiteral("gardé"));
+}
+
+TEST_F(Registry, CancelInFormUnloadKeepsTheScreenButTheWriteStaysDone) {
+    auto& f = feuilles().get<feuille_options_essai>();
+    f.refuseUnload = 1;
+    journal.clear();
+    EXPECT_FALSE(f.Unload());
+    EXPECT_EQ(journal, (QStringList{"Form_QueryUnload", "écriture", "Form_Unload"}));
+    processDeletions();
+    EXPECT_EQ(&feuilles().get<feuille_options_essai>(), &f);
+}
+
+TEST_F(Registry, AScreenMayUnloadItselfFromItsOwnHandler) {
+    auto& f = feuilles().get<feuille_options_essai>();
+    f.Show();
+    f.cmdFermer->click();
+    EXPECT_FALSE(feuilles().isLoaded<feuille_options_essai>());
+    processDeletions();
+    EXPECT_EQ(feuilles().get<feuille_options_essai>().loads, 1);
+}
+
+TEST_F(Registry, UnloadOfAScreenNeverLoadedIsHarmless) {
+    EXPECT_TRUE(feuilles().unload<feuille_options_essai>());
+    EXPECT_TRUE(journal.isEmpty());
+    EXPECT_FALSE(feuilles().isLoaded<feuille_options_essai>());
+}
+
+TEST_F(Registry, AFormLoadMayTouchOtherScreensAndItself) {
+    auto& caller = feuilles().get<feuille_appelante>();
+    EXPECT_EQ(caller.lu, QStringLiteral("chargée"));
+    EXPECT_TRUE(feuilles().isLoaded<feuille_options_essai>());
+    EXPECT_EQ(feuilles().chargées().size(), 2u);
+}
+
+TEST_F(Registry, ShowMakesTheScreenVisibleAndHideKeepsItLoaded) {
+    auto& f = feuilles().get<feuille_options_essai>();
+    f.Show();
+    EXPECT_TRUE(f.isVisible());
+    f.Hide();
+    EXPECT_FALSE(f.isVisible());
+    EXPECT_TRUE(feuilles().isLoaded<feuille_options_essai>());
+}
+
+TEST_F(Registry, ChildScreensGoIntoTheMainWindowAreaAndTopLevelOnesDoNot) {
+    QMdiArea area;
+    area.resize(800, 600);
+    area.show();
+    feuilles().setMdiArea(&area);
+    auto& child = feuilles().get<feuille_options_essai>();
+    auto& login = feuilles().get<feuille_login_essai>();
+    EXPECT_EQ(area.subWindowList().size(), 1);
+    EXPECT_EQ(area.subWindowList().front()->widget(), &child);
+    EXPECT_EQ(&child.conteneur(), area.subWindowList().front());
+    EXPECT_FALSE(child.conteneur().isVisible());
+    EXPECT_TRUE(login.isWindow());
+    EXPECT_EQ(&login.conteneur(), &login);
+
+    child.Show();
+    EXPECT_TRUE(child.conteneur().isVisible());
+    EXPECT_EQ(area.activeSubWindow(), &child.conteneur());
+
+    EXPECT_TRUE(child.Unload());
+    processDeletions();
+    EXPECT_TRUE(area.subWindowList().isEmpty());
+    feuilles().toutDétruire();
+}
+
+TEST_F(Registry, ClosingTheSubWindowIsAnUnloadAndMayBeRefused) {
+    QMdiArea area;
+    area.show();
+    feuilles().setMdiArea(&area);
+    auto& f = feuilles().get<feuille_options_essai>();
+    f.Show();
+    f.refuseQuery = 1;
+    journal.clear();
+    f.conteneur().close();
+    EXPECT_EQ(journal, (QStringList{"Form_QueryUnload"}));
+    EXPECT_TRUE(feuilles().isLoaded<feuille_options_essai>());
+    EXPECT_TRUE(f.conteneur().isVisible());
+
+    f.refuseQuery = 0;
+    f.conteneur().close();
+    EXPECT_FALSE(feuilles().isLoaded<feuille_options_essai>());
+    EXPECT_EQ(journal.last(), QStringLiteral("Form_Unload"));
+    processDeletions();
+    EXPECT_TRUE(area.subWindowList().isEmpty());
+    feuilles().toutDétruire();
+}
+
+TEST_F(Registry, ClosingATopLevelScreenIsAnUnload) {
+    auto& f = feuilles().get<feuille_options_essai>();
+    f.Show();
+    journal.clear();
+    f.close();
+    EXPECT_EQ(journal, (QStringList{"Form_QueryUnload", "écriture", "Form_Unload"}));
+    EXPECT_FALSE(feuilles().isLoaded<feuille_options_essai>());
+}
+
+TEST_F(Registry, ResetDestroysEveryScreenWithoutTheirEvents) {
+    QPointer<Feuille> f(&feuilles().get<feuille_options_essai>());
+    journal.clear();
+    module1().réinitialiser();
+    EXPECT_TRUE(f.isNull());
+    EXPECT_TRUE(journal.isEmpty());
+    EXPECT_TRUE(module1().feuilles().chargées().empty());
+}
+
+TEST_F(Registry, AScreenDestroyedBehindTheRegistryIsLoadedAfresh) {
+    QMdiArea area;
+    feuilles().setMdiArea(&area);
+    feuilles().get<feuille_options_essai>();
+    feuilles().setMdiArea(nullptr);
+    area.closeAllSubWindows();
+    qDeleteAll(area.subWindowList());
+    EXPECT_FALSE(feuilles().isLoaded<feuille_options_essai>());
+    EXPECT_EQ(feuilles().get<feuille_options_essai>().loads, 1);
+}

@@ -1,0 +1,103 @@
+#include "platform/ui/QtInteraction.h"
+
+#include <QApplication>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+#include <functional>
+#include <gtest/gtest.h>
+
+namespace {
+
+// Acts on the dialog once it is up, as the user would.
+void whenDialogUp(std::function<void(QWidget&)> act) {
+    QTimer::singleShot(0, [act] {
+        QWidget* dialog = QApplication::activeModalWidget();
+        ASSERT_NE(dialog, nullptr);
+        act(*dialog);
+    });
+}
+
+void clickButton(QWidget& dialog, const QString& text) {
+    for (auto* b : dialog.findChildren<QPushButton*>())
+        if (b->text() == text) {
+            b->click();
+            return;
+        }
+    ADD_FAILURE() << "Bouton absent : " << text.toStdString();
+}
+
+} // namespace
+
+TEST(QtInteraction, YesNoBoxHasFrenchButtonsAndReturnsTheVbCode) {
+    QtInteraction ui;
+    QString title, text;
+    QStringList buttons;
+    whenDialogUp([&](QWidget& d) {
+        title = d.windowTitle();
+        text = static_cast<QMessageBox&>(d).text();
+        for (auto* b : d.findChildren<QPushButton*>())
+            buttons << b->text();
+        clickButton(d, QStringLiteral("&Non"));
+    });
+    EXPECT_EQ(ui.MsgBox(QStringLiteral("Voulez-vous quitter le logiciel?"), vbYesNo + vbQuestion), vbNo);
+    EXPECT_EQ(title, QStringLiteral("Norvane v2"));
+    EXPECT_EQ(text, QStringLiteral("Voulez-vous quitter le logiciel?"));
+    buttons.sort();
+    EXPECT_EQ(buttons, (QStringList{QStringLiteral("&Non"), QStringLiteral("&Oui")}));
+}
+
+TEST(QtInteraction, IconFollowsTheCode) {
+    QtInteraction ui;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
+    whenDialogUp([&](QWidget& d) {
+        icon = static_cast<QMessageBox&>(d).icon();
+        clickButton(d, QStringLiteral("OK"));
+    });
+    EXPECT_EQ(ui.MsgBox(QStringLiteral("x"), vbExclamation), vbOK);
+    EXPECT_EQ(icon, QMessageBox::Warning);
+}
+
+TEST(QtInteraction, CancelOfOkCancelReturnsCancel) {
+    QtInteraction ui;
+    whenDialogUp([](QWidget& d) { clickButton(d, QStringLiteral("Annuler")); });
+    EXPECT_EQ(ui.MsgBox(QStringLiteral("x"), vbOKCancel + vbInformation), vbCancel);
+}
+
+TEST(QtInteraction, InputBoxReturnsTheTypedText) {
+    QtInteraction ui;
+    QString shownDefault;
+    whenDialogUp([&](QWidget& d) {
+        auto* edit = d.findChild<QLineEdit*>();
+        shownDefault = edit->text();
+        edit->setText(QString::fromUtf8("école"));
+        static_cast<QInputDialog&>(d).accept();
+    });
+    EXPECT_EQ(ui.InputBox(QStringLiteral("Nom"), QStringLiteral("Norvane v2"), QStringLiteral("base")),
+              QString::fromUtf8("école"));
+    EXPECT_EQ(shownDefault, QStringLiteral("base"));
+}
+
+TEST(QtInteraction, InputBoxCancelReturnsEmpty) {
+    QtInteraction ui;
+    whenDialogUp([](QWidget& d) {
+        d.findChild<QLineEdit*>()->setText(QStringLiteral("tapé"));
+        clickButton(d, QStringLiteral("Annuler"));
+    });
+    EXPECT_EQ(ui.InputBox(QStringLiteral("Nom"), QStringLiteral("Norvane v2"), QStringLiteral("base")),
+              QString());
+}
+
+TEST(QtInteraction, HourglassAndBack) {
+    QtInteraction ui;
+    ui.setMousePointer(vbHourglass);
+    ASSERT_NE(QApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    EXPECT_EQ(ui.mousePointer(), vbHourglass);
+    ui.setMousePointer(vbHourglass); // twice still needs one reset
+    ui.setMousePointer(vbDefault);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(ui.mousePointer(), vbDefault);
+}

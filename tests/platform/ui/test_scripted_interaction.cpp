@@ -1,0 +1,111 @@
+#include "platform/forms/Feuille.h"
+#include "support/ScriptedInteraction.h"
+
+#include <QLineEdit>
+#include <gtest/gtest-spi.h>
+#include <gtest/gtest.h>
+
+TEST(ScriptedInteraction, RecordsEveryBoxAndAnswersInOrder) {
+    ScriptedInteraction ui;
+    ui.expectMsgBox(vbNo).expectMsgBox(vbYes);
+    EXPECT_EQ(ui.MsgBox(QStringLiteral("Voulez-vous quitter le logiciel?"), vbYesNo + vbQuestion), vbNo);
+    EXPECT_EQ(ui.MsgBox(QStringLiteral("Encore?"), vbYesNo + vbQuestion, QStringLiteral("Autre titre")),
+              vbYes);
+    ASSERT_EQ(ui.boxes().size(), 2u);
+    EXPECT_EQ(ui.boxes()[0].text, QStringLiteral("Voulez-vous quitter le logiciel?"));
+    EXPECT_EQ(ui.boxes()[0].title, QStringLiteral("Norvane v2"));
+    EXPECT_EQ(ui.boxes()[0].buttons, vbYesNo + vbQuestion);
+    EXPECT_EQ(ui.boxes()[1].title, QStringLiteral("Autre titre"));
+    EXPECT_EQ(ui.pending(), 0u);
+}
+
+TEST(ScriptedInteraction, AnUnexpectedBoxFailsTheTest) {
+    EXPECT_NONFATAL_FAILURE(
+        {
+            ScriptedInteraction ui;
+            ui.MsgBox(QStringLiteral("Surprise"), vbOKOnly);
+        },
+        "Surprise");
+}
+
+TEST(ScriptedInteraction, AnUnexpectedBoxIsAnsweredWithItsFirstButton) {
+    ScriptedInteraction ui;
+    int answer = 0;
+    EXPECT_NONFATAL_FAILURE(answer = ui.MsgBox(QStringLiteral("Question"), vbYesNo + vbQuestion),
+                            "inattendue");
+    EXPECT_EQ(answer, vbYes);
+    EXPECT_EQ(ui.boxes().size(), 1u);
+}
+
+TEST(ScriptedInteraction, AnUnexpectedInputBoxFailsTheTestAndReadsAsCancel) {
+    ScriptedInteraction ui;
+    QString answer = QStringLiteral("x");
+    EXPECT_NONFATAL_FAILURE(answer = ui.InputBox(QStringLiteral("Nom ?")), "Nom ?");
+    EXPECT_TRUE(answer.isEmpty());
+}
+
+TEST(ScriptedInteraction, AnswersNeverAskedForFailTheTest) {
+    EXPECT_NONFATAL_FAILURE(
+        {
+            ScriptedInteraction ui;
+            ui.expectMsgBox(vbOK).expectInputBox(QStringLiteral("x"));
+        },
+        "2 réponse(s)");
+}
+
+TEST(ScriptedInteraction, InputBoxRecordsPromptTitleAndDefault) {
+    ScriptedInteraction ui;
+    ui.expectInputBox(QStringLiteral("Dupont")).expectInputBox(QString());
+    EXPECT_EQ(ui.InputBox(QStringLiteral("Nom de la base"), QStringLiteral("Titre"), QStringLiteral("base1")),
+              QStringLiteral("Dupont"));
+    EXPECT_EQ(ui.InputBox(QStringLiteral("Encore")), QString());
+    ASSERT_EQ(ui.inputs().size(), 2u);
+    EXPECT_EQ(ui.inputs()[0].prompt, QStringLiteral("Nom de la base"));
+    EXPECT_EQ(ui.inputs()[0].title, QStringLiteral("Titre"));
+    EXPECT_EQ(ui.inputs()[0].defaultValue, QStringLiteral("base1"));
+    EXPECT_EQ(ui.inputs()[1].title, QStringLiteral("Norvane v2"));
+}
+
+TEST(ScriptedInteraction, MousePointerIsRememberedWithItsHistory) {
+    ScriptedInteraction ui;
+    EXPECT_EQ(ui.mousePointer(), vbDefault);
+    ui.setMousePointer(vbHourglass);
+    EXPECT_EQ(ui.mousePointer(), vbHourglass);
+    ui.setMousePointer(vbDefault);
+    EXPECT_EQ(ui.pointerHistory(), (std::vector<int>{vbHourglass, vbDefault}));
+}
+
+namespace {
+
+class feuille_essai : public Feuille {
+public:
+    feuille_essai() : Feuille(QStringLiteral("feuille_essai"), Genre::haut_niveau) {
+        code = new QLineEdit(this);
+        code->setObjectName(QStringLiteral("code"));
+    }
+    QLineEdit* code;
+};
+
+} // namespace
+
+TEST(ScriptedInteraction, ModalScreenIsShownAndThePlayedUserActsOnIt) {
+    ScriptedInteraction ui;
+    feuille_essai f;
+    bool was_visible = false;
+    ui.expectModal([&](Feuille& shown) {
+        was_visible = shown.isVisible();
+        shown.findChild<QLineEdit*>(QStringLiteral("code"))->setText(QStringLiteral("secret"));
+        shown.Hide();
+    });
+    ui.showModal(f);
+    EXPECT_TRUE(was_visible);
+    EXPECT_FALSE(f.isVisible());
+    EXPECT_EQ(f.code->text(), QStringLiteral("secret"));
+    EXPECT_EQ(ui.modals(), (std::vector<QString>{QStringLiteral("feuille_essai")}));
+}
+
+TEST(ScriptedInteraction, AnUnexpectedModalScreenFailsTheTest) {
+    ScriptedInteraction ui;
+    feuille_essai f;
+    EXPECT_NONFATAL_FAILURE(ui.showModal(f), "feuille_essai");
+}
