@@ -1,12 +1,15 @@
+#include "platform/forms/Module1.h"
 #include "platform/ui/Application.h"
+#include "shell/feuille_accueil.h"
 
-#include <QMainWindow>
-
+// The program starts on its splash, in the folder it was started from, which is where it looks for
+// options.ini and its report layouts.
 int main(int argc, char** argv) {
     Application app(argc, argv);
-    QMainWindow window;
-    window.setWindowTitle(QStringLiteral("Norvane - version 2"));
-    window.resize(1024, 768);
-    window.show();
-    return app.exec();
+    app.setApplicationName(QStringLiteral("Norvane"));
+    app.setQuitOnLastWindowClosed(false);
+    module1().feuilles().get<feuille_accueil>();
+    const int code = app.exec();
+    module1().feuilles().toutDétruire();
+    return code;
 }

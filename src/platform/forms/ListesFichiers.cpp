@@ -1,0 +1,151 @@
+#include "platform/forms/ListesFichiers.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QStyle>
+#include <algorithm>
+
+namespace {
+
+QIcon icône(QStyle::StandardPixmap quelle) {
+    return QApplication::style()->standardIcon(quelle);
+}
+
+QString chemin_propre(const QString& chemin) {
+    return QDir::cleanPath(QFileInfo(chemin).absoluteFilePath());
+}
+
+} // namespace
+
+DriveListBox::DriveListBox(QWidget* parent) : QComboBox(parent) {
+    remplir();
+    setCurrentIndex(
+        std::max(0, findText(QDir::toNativeSeparators(QDir::current().rootPath()), Qt::MatchFixedString)));
+    connect(this, &QComboBox::activated, this, [this] { emit Change(); });
+}
+
+void DriveListBox::remplir() {
+    for (const QFileInfo& racine : QDir::drives())
+        addItem(icône(QStyle::SP_DriveHDIcon), QDir::toNativeSeparators(racine.absolutePath()));
+}
+
+QString DriveListBox::Drive() const {
+    return currentText();
+}
+
+void DriveListBox::setDrive(const QString& lecteur) {
+    const QString racine = QDir::toNativeSeparators(QFileInfo(lecteur).absoluteDir().rootPath());
+    int index = findText(racine, Qt::MatchFixedString);
+    if (index < 0) {
+        addItem(icône(QStyle::SP_DriveHDIcon), racine);
+        index = count() - 1;
+    }
+    if (index == currentIndex())
+        return;
+    setCurrentIndex(index);
+    emit Change();
+}
+
+DirListBox::DirListBox(QWidget* parent) : QListWidget(parent), chemin_(chemin_propre(QDir::currentPath())) {
+    remplir();
+    connect(this, &QListWidget::itemDoubleClicked, this, &DirListBox::entrer);
+    connect(this, &QListWidget::itemActivated, this, &DirListBox::entrer);
+}
+
+void DirListBox::setPath(const QString& chemin) {
+    const QString nouveau = chemin_propre(chemin);
+    if (nouveau == chemin_)
+        return;
+    chemin_ = nouveau;
+    remplir();
+    emit Change();
+}
+
+QString DirListBox::Path() const {
+    return QDir::toNativeSeparators(chemin_);
+}
+
+void DirListBox::Refresh() {
+    remplir();
+}
+
+void DirListBox::remplir() {
+    clear();
+    QStringList chaîne;
+    for (QDir d(chemin_);;) {
+        chaîne.prepend(d.absolutePath());
+        if (d.isRoot() || !d.cdUp())
+            break;
+    }
+    int niveau = 0;
+    for (const QString& dossier : chaîne) {
+        const QString nom =
+            QDir(dossier).isRoot() ? QDir::toNativeSeparators(dossier) : QDir(dossier).dirName();
+        auto* entrée =
+            new QListWidgetItem(icône(QStyle::SP_DirOpenIcon), QString(niveau * 2, ' ') + nom, this);
+        entrée->setData(Qt::UserRole, dossier);
+        ++niveau;
+    }
+    setCurrentRow(count() - 1);
+    const QFileInfoList sous = QDir(chemin_).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot,
+                                                           QDir::Name | QDir::IgnoreCase | QDir::LocaleAware);
+    for (const QFileInfo& dossier : sous) {
+        auto* entrée = new QListWidgetItem(icône(QStyle::SP_DirIcon),
+                                           QString(niveau * 2, ' ') + dossier.fileName(), this);
+        entrée->setData(Qt::UserRole, dossier.absoluteFilePath());
+    }
+}
+
+void DirListBox::entrer(QListWidgetItem* entrée) {
+    if (entrée != nullptr)
+        setPath(entrée->data(Qt::UserRole).toString());
+}
+
+FileListBox::FileListBox(QWidget* parent) : QListWidget(parent), chemin_(chemin_propre(QDir::currentPath())) {
+    Refresh();
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    connect(this, &QListWidget::itemClicked, this, [this] { emit Click(); });
+    connect(this, &QListWidget::itemDoubleClicked, this, [this] { emit DblClick(); });
+}
+
+void FileListBox::setPath(const QString& chemin) {
+    chemin_ = chemin_propre(chemin);
+    Refresh();
+}
+
+QString FileListBox::Path() const {
+    return QDir::toNativeSeparators(chemin_);
+}
+
+void FileListBox::setPattern(const QString& motif) {
+    motif_ = motif;
+    Refresh();
+}
+
+QString FileListBox::FileName() const {
+    const QListWidgetItem* entrée = currentItem();
+    return entrée != nullptr && entrée->isSelected() ? entrée->text() : QString();
+}
+
+void FileListBox::Refresh() {
+    clear();
+    if (chemin_.isEmpty())
+        return;
+    const QStringList motifs = motif_.split(';', Qt::SkipEmptyParts);
+    const QFileInfoList fichiers =
+        QDir(chemin_).entryInfoList(motifs, QDir::Files, QDir::Name | QDir::IgnoreCase | QDir::LocaleAware);
+    for (const QFileInfo& fichier : fichiers)
+        new QListWidgetItem(icône(QStyle::SP_FileIcon), fichier.fileName(), this);
+}
+
+bool FileListBox::cliquer(const QString& nom) {
+    const QList<QListWidgetItem*> trouvées = findItems(nom, Qt::MatchExactly);
+    if (trouvées.isEmpty())
+        return false;
+    setCurrentItem(trouvées.first());
+    trouvées.first()->setSelected(true);
+    emit Click();
+    return true;
+}

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "platform/forms/Feuille.h"
+
+#include <QFile>
+#include <QString>
+#include <memory>
+
+class QAction;
+class QLabel;
+class QMainWindow;
+class QMdiArea;
+class QMenu;
+class QStatusBar;
+
+// The main window: menus, status bar, and the area where the child screens live. It is loaded once,
+// by the first touch, and lives until the user answers Yes to the quit question.
+class MDIForm1 : public Feuille {
+    Q_OBJECT
+public:
+    MDIForm1();
+    ~MDIForm1() override;
+
+    QMainWindow* fenêtre = nullptr; // menus, area and status bar
+    QMdiArea* zone = nullptr;
+    QStatusBar* StatusBar1 = nullptr;
+
+    // A menu entry by its control name ("menufichierindex1"); a submenu's entry is its title entry.
+    QAction* menu(const QString& nom) const;
+    // Status bar panel 1 to 6.
+    QLabel* panneau(int numéro) const;
+    QString Panel1() const;
+    void setPanel1(const QString& texte);
+
+    void désactiver_menus();
+    void activer_menus();
+
+    void Form_Load() override; // MDIForm_Load
+    void Form_QueryUnload(int& cancel) override;
+    void Form_Unload(int& cancel) override;
+
+    // Commands of the menus that are the main window's own.
+    void menufichierindex1_Click();
+    void menufichierindex3_Click();
+    void menufichierindex2_Click();
+
+    // Runs the command of a menu entry, as a click on it does.
+    void cliquer(const QString& nom);
+
+    // options.ini as a failed reading left it: open for the rest of the run.
+    std::unique_ptr<QFile> fichier_options_resté_ouvert;
+
+private:
+    void construire_menus();
+    void construire_barre_d_état();
+    void mettre_à_jour_l_heure();
+};

@@ -1,0 +1,61 @@
+#include "shell/commandes.h"
+
+#include "shell/MDIForm1.h"
+
+namespace {
+
+// A command of the main window itself.
+Commande propre(void (MDIForm1::*handler)()) {
+    return [handler](MDIForm1& mdi) { (mdi.*handler)(); };
+}
+
+} // namespace
+
+// A record screen plugs in with préparer<screen>(its ouvrir_table procedure, extra steps) from
+// shell/regle_de_preparation.h; any other screen with a lambda that shows it.
+const std::vector<LigneDeCommande>& carte_des_commandes() {
+    static const std::vector<LigneDeCommande> carte = {
+        {"menufichierindex1", propre(&MDIForm1::menufichierindex1_Click)},
+        {"menufichierindex3", propre(&MDIForm1::menufichierindex3_Click)},
+        {"menufichierindex2", propre(&MDIForm1::menufichierindex2_Click)},
+        {"menuenfantsindex2", {}},      // feuille_famille
+        {"menuenfantsindex1", {}},      // feuille_élève
+        {"menuexploitationindex3", {}}, // feuille_traitements
+        {"menuexploitationindex4", {}}, // spreadsheet export
+        {"menuparamètresindex1", {}},   // feuille_inspection
+        {"menuparamètresindex2", {}},   // feuille_école
+        {"menuparamètresindex3", {}},   // feuille_équipe
+        {"menuparamètresindex4", {}},   // feuille_documents
+        {"menuparamètresindex5", {}},   // feuille_paramètres
+        {"menuparamètresindex22", {}},  // feuille_accès
+        {"menuparamètresindex6", {}},   // feuille_adresses
+        {"menuparamètresindex7", {}},   // feuille_assurances
+        {"menuparamètresindex23", {}},  // feuille_assertions
+        {"menuparamètresindex8", {}},   // feuille_csp
+        {"menuparamètresindex19", {}},  // feuille_genres
+        {"menuparamètresindex9", {}},   // feuille_hôpitaux
+        {"menuparamètresindex13", {}},  // feuille_langues_vivantes
+        {"menuparamètresindex12", {}},  // feuille_médecins
+        {"menuparamètresindex15", {}},  // feuille_nationalités
+        {"menuparamètresindex18", {}},  // feuille_niveaux
+        {"menuparamètresindex14", {}},  // feuille_sexe
+        {"menuparamètresindex17", {}},  // feuille_situations_familiales
+        {"menuparamètresindex16", {}},  // feuille_villes
+        {"menuutilitairesindex1", {}},  // emptying the families
+        {"menuutilitairesindex2", {}},  // emptying the pupils
+        {"menuutilitairesindex3", {}},  // emptying the lookup tables
+        {"menuutilitairesindex4", {}},  // gateway export
+        {"menuoptionsindex1", {}},      // feuille_options, on view
+        {"menuaideindex1", {}},         // feuille_copyright
+    };
+    return carte;
+}
+
+void exécuter_commande(MDIForm1& mdi, const QString& menu) {
+    for (const LigneDeCommande& ligne : carte_des_commandes())
+        if (menu == QString::fromUtf8(ligne.menu)) {
+            if (ligne.faire)
+                ligne.faire(mdi);
+            return;
+        }
+}

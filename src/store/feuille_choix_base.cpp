@@ -1,0 +1,178 @@
+#include "store/feuille_choix_base.h"
+
+#include "platform/errors/ErrorBoxes.h"
+#include "platform/forms/DataControl.h"
+#include "platform/forms/ListesFichiers.h"
+#include "platform/forms/Module1.h"
+#include "platform/forms/Placement.h"
+#include "store/ouverture_base.h"
+#include "store/ouvrir_table.h"
+
+#include <QDir>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+
+QPushButton* bouton(QWidget* parent, const char* nom, const char* légende, const char* infobulle) {
+    auto* b = new QPushButton(QString::fromUtf8(légende), parent);
+    b->setObjectName(QString::fromUtf8(nom));
+    b->setToolTip(QString::fromUtf8(infobulle));
+    return b;
+}
+
+QLabel* titre(const char* texte, QWidget* parent) {
+    auto* l = new QLabel(QString::fromUtf8(texte), parent);
+    QFont police = l->font();
+    police.setBold(true);
+    l->setFont(police);
+    return l;
+}
+
+template <class W> W* nommé(W* contrôle, const char* nom, const char* infobulle) {
+    contrôle->setObjectName(QString::fromUtf8(nom));
+    contrôle->setToolTip(QString::fromUtf8(infobulle));
+    return contrôle;
+}
+
+} // namespace
+
+feuille_choix_base::feuille_choix_base() : Feuille(QStringLiteral("feuille_choix_base")) {
+    setWindowTitle(QStringLiteral("Sélection de la base de travail"));
+    auto* grille = new QGridLayout(this);
+    grille->setContentsMargins(14, 12, 14, 12);
+    grille->setHorizontalSpacing(14);
+    grille->setVerticalSpacing(4);
+
+    grille->addWidget(titre("Lecteurs", this), 0, 0);
+    Drive1 = nommé(new DriveListBox(this), "Drive1",
+                   "Sélectionnez le lecteur sur lequel se trouve la base de données");
+    grille->addWidget(Drive1, 1, 0);
+    grille->addWidget(titre("Dossiers", this), 2, 0);
+    Dir1 = nommé(new DirListBox(this), "Dir1", "Sélectionnez le dossier dans l'arborescence");
+    Dir1->setMinimumSize(240, 200);
+    grille->addWidget(Dir1, 3, 0);
+
+    grille->addWidget(titre("Bases de données", this), 0, 1);
+    File1 = nommé(new FileListBox(this), "File1",
+                  "Sélectionnez la base de données sur laquelle vous souhaitez travailler");
+    File1->setPattern(QStringLiteral("*.mdb"));
+    File1->setMinimumSize(220, 200);
+    grille->addWidget(File1, 1, 1, 3, 1);
+
+    grille->addWidget(titre("Base de données sélectionnée", this), 4, 0, 1, 2);
+    Label4 = new QLabel(this);
+    Label4->setObjectName(QStringLiteral("Label4"));
+    Label4->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+    Label4->setMinimumHeight(24);
+    Label4->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    grille->addWidget(Label4, 5, 0, 1, 2);
+
+    auto* boutons = new QVBoxLayout;
+    boutons->setSpacing(6);
+    cmdMettreàjour =
+        bouton(this, "cmdMettreàjour", "&Ouvrir", "Cliquez pour ouvrir la base de données sélectionnée");
+    cmdMettreàjour->setDefault(true);
+    cmdFermer = bouton(this, "cmdFermer", "&Annuler", "Cliquez pour annuler");
+    boutons->addWidget(cmdMettreàjour);
+    boutons->addWidget(cmdFermer);
+    boutons->addSpacing(12);
+    auto* fichiers = new QGroupBox(QStringLiteral("Fichiers"), this);
+    auto* colonne = new QVBoxLayout(fichiers);
+    cmdAjouter = bouton(fichiers, "cmdAjouter", "&Dupliquer",
+                        "Cliquez pour dupliquer une base de données existante sous un autre nom (la base est "
+                        "intégralement dupliquée)");
+    cmdSupprimer = bouton(fichiers, "cmdSupprimer", "&Supprimer",
+                          "Cliquez pour supprimer définitivement la base de données sélectionnée");
+    Command2 =
+        bouton(fichiers, "Command2", "&Compacter", "Cliquez pour compacter la base de données sélectionnée");
+    Command3 = bouton(fichiers, "Command3", "C&réer",
+                      "Cliquez pour créer une nouvelle base de données totalement vide");
+    Command6 =
+        bouton(fichiers, "Command6", "Re&nommer", "Cliquez pour renommer une base de données existante");
+    Command4 =
+        bouton(fichiers, "Command4", "Sau&vegarder",
+               "Cliquez pour sauvegarder la base de données sélectionnée dans un autre dossier OU sur un "
+               "autre support");
+    Command5 =
+        bouton(fichiers, "Command5", "&Restaurer",
+               "Cliquez pour restaurer une base de données sauvegardée à partir d'un un autre dossier OU "
+               "d'un autre support");
+    for (QPushButton* b : {cmdAjouter, cmdSupprimer, Command2, Command3, Command6, Command4, Command5})
+        colonne->addWidget(b);
+    boutons->addWidget(fichiers);
+    boutons->addStretch(1);
+    grille->addLayout(boutons, 0, 2, 6, 1);
+
+    datPrimaryRS = new DataControl(this);
+    datPrimaryRS->setObjectName(QStringLiteral("datPrimaryRS"));
+    datPrimaryRS->hide();
+    accès_actuel = new QLineEdit(this);
+    accès_actuel->setObjectName(QStringLiteral("accès_actuel"));
+    accès_actuel->hide();
+    datPrimaryRS->bind(accès_actuel, QStringLiteral("passe"));
+    accès_tentavive = new QLineEdit(this);
+    accès_tentavive->setObjectName(QStringLiteral("accès_tentavive"));
+    accès_tentavive->hide();
+    avantDéchargement([this] { datPrimaryRS->unload(); });
+
+    connect(Drive1, &DriveListBox::Change, this, &feuille_choix_base::Drive1_Change);
+    connect(Dir1, &DirListBox::Change, this, &feuille_choix_base::Dir1_Change);
+    connect(File1, &FileListBox::Click, this, &feuille_choix_base::File1_Click);
+    connect(File1, &FileListBox::DblClick, this, &feuille_choix_base::File1_DblClick);
+    connect(cmdMettreàjour, &QPushButton::clicked, this, &feuille_choix_base::cmdMettreàjour_Click);
+    connect(cmdFermer, &QPushButton::clicked, this, &feuille_choix_base::cmdFermer_Click);
+}
+
+void feuille_choix_base::Form_Load() {
+    adjustSize();
+    conteneur().adjustSize();
+    centrer_feuille(*this);
+}
+
+void feuille_choix_base::Drive1_Change() {
+    Dir1->setPath(Drive1->Drive());
+    File1->setPath(Dir1->Path());
+    Label4->setText(QString());
+}
+
+// Moving elsewhere clears the selection on screen, but base_en_cours keeps the file clicked before.
+void feuille_choix_base::Dir1_Change() {
+    File1->setPath(Dir1->Path());
+    Label4->setText(QString());
+}
+
+QString feuille_choix_base::chemin_sélectionné() const {
+    return File1->Path() + QDir::separator() + File1->FileName();
+}
+
+// A single click already makes the file the current base, before any code is asked for.
+void feuille_choix_base::File1_Click() {
+    avec_piège(ErrorBoxKind::logiciel_données, [this] {
+        Module1& m = module1();
+        Label4->setText(chemin_sélectionné());
+        m.chemin_choisi = File1->Path() + QDir::separator();
+        m.base_en_cours = Label4->text();
+        ouvrir_table_passe_choix();
+    });
+}
+
+void feuille_choix_base::File1_DblClick() {
+    avec_piège(ErrorBoxKind::logiciel_données, [this] {
+        Label4->setText(chemin_sélectionné());
+        cmdMettreàjour_Click();
+    });
+}
+
+void feuille_choix_base::cmdMettreàjour_Click() {
+    ouvrir_base_choisie();
+}
+
+void feuille_choix_base::cmdFermer_Click() {
+    module1().interaction().setMousePointer(vbDefault);
+    Unload();
+}

@@ -1,0 +1,25 @@
+#include "store/ouvrir_table.h"
+
+#include "platform/errors/ErrorBoxes.h"
+#include "store/feuille_choix_base.h"
+
+#include <functional>
+
+void pointer_source(DataControl& source, const QString& sql, SiÉchec échec) {
+    const std::function<void()> étapes[] = {
+        [&] { source.setDatabaseName(module1().base_en_cours); },
+        [&] { source.setRecordSource(sql); },
+        [&] { source.Refresh(); },
+    };
+    for (const auto& étape : étapes) {
+        if (échec == SiÉchec::continuer) {
+            en_silence(étape);
+        } else if (!avec_piège(ErrorBoxKind::standard, étape)) {
+            return;
+        }
+    }
+}
+
+void ouvrir_table_passe_choix() {
+    ouvrir_table<feuille_choix_base>(QStringLiteral("SELECT * FROM passe"), SiÉchec::boîte_standard);
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/forms/DataControl.h"
+#include "platform/forms/Module1.h"
+
+#include <QString>
+
+// How a procedure of the ouvrir_table_<table> family meets a failure.
+enum class SiÉchec {
+    continuer,     // silently on to the next step; the caller finds out when it reads the Recordset
+    boîte_standard // message_erreur_standard, and the procedure ends there
+};
+
+// Points a data source at the work database: DatabaseName, RecordSource, Refresh, in this order.
+void pointer_source(DataControl& source, const QString& sql, SiÉchec échec = SiÉchec::continuer);
+
+// The family itself: loads screen F hidden if it is not loaded (running its Form_Load), then points
+// its datPrimaryRS. A procedure of the family is one line over this:
+//     void ouvrir_table_sexe() { ouvrir_table<feuille_sexe>(QStringLiteral("SELECT * FROM sexe")); }
+template <class F> F& ouvrir_table(const QString& sql, SiÉchec échec = SiÉchec::continuer) {
+    F& écran = module1().feuilles().get<F>();
+    pointer_source(*écran.datPrimaryRS, sql, échec);
+    return écran;
+}
+
+// The procedures of the family whose screens exist.
+void ouvrir_table_passe_choix();
