@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QStyledItemDelegate>
 #include <vector>
 
@@ -83,6 +84,17 @@ public:
         return QString();
     }
 
+    // The entry limit of a text column, 0 for none.
+    int limitOf(int column) const {
+        if (!open() || column < 0 || column >= columnCount())
+            return 0;
+        const int index = rs()->fieldIndex(columns[column].name);
+        if (index < 0)
+            return 0;
+        const FieldInfo& field = rs()->fields()[index];
+        return field.type == FieldType::Text ? field.size : 0;
+    }
+
     void addColumn(const QString& name, const QString& heading) {
         beginResetModel();
         columns.push_back({name, heading});
@@ -125,6 +137,10 @@ public:
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const override {
         QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
+        auto* line = qobject_cast<QLineEdit*>(editor);
+        const auto* model = static_cast<const GridModel*>(index.model());
+        if (line && model->limitOf(index.column()) > 0)
+            line->setMaxLength(model->limitOf(index.column()));
         editor_ = editor;
         return editor;
     }

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/forms/FeuilleFiche.h"
+
+class QCheckBox;
+class QLineEdit;
+class QPlainTextEdit;
+
+// The letter templates: one row of `documents` a template, its free text and the five check boxes
+// that say which blocks surround the letter.
+class feuille_documents : public FeuilleFiche {
+    Q_OBJECT
+public:
+    feuille_documents();
+
+    QLineEdit* intitulé = nullptr;
+    QLineEdit* titre = nullptr;
+    QLineEdit* destinataire = nullptr;
+    QPlainTextEdit* paragraphe1 = nullptr;
+    QPlainTextEdit* paragraphe2 = nullptr;
+    QPlainTextEdit* paragraphe3 = nullptr;
+    QPlainTextEdit* paragraphe4 = nullptr;
+    QPlainTextEdit* paragraphe5 = nullptr;
+    QPlainTextEdit* paragraphe6 = nullptr;
+    QLineEdit* politesse = nullptr;
+    QLineEdit* post_scriptum = nullptr;
+    QCheckBox* Check1 = nullptr;
+    QCheckBox* Check2 = nullptr;
+    QCheckBox* Check3 = nullptr;
+    QCheckBox* Check4 = nullptr;
+    QCheckBox* Check5 = nullptr;
+    QPushButton* Command2 = nullptr;
+
+    // "V&oir": the preview of the template with sample values.
+    void Command2_Click();
+
+private:
+    void construireChamps();
+    void construireCases();
+};

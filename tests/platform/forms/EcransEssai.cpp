@@ -1,0 +1,131 @@
+#include "EcransEssai.h"
+
+#include "platform/forms/DataControl.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTabWidget>
+#include <QVBoxLayout>
+#include <sqlite3.h>
+
+namespace {
+
+struct Fichier {
+    sqlite3* db = nullptr;
+    explicit Fichier(const QString& chemin) {
+        if (sqlite3_open(chemin.toUtf8().constData(), &db) != SQLITE_OK)
+            ADD_FAILURE() << "ouverture impossible : " << chemin.toStdString();
+    }
+    ~Fichier() { sqlite3_close(db); }
+};
+
+} // namespace
+
+void sql_direct(const QString& chemin, const QString& sql) {
+    Fichier f(chemin);
+    char* erreur = nullptr;
+    if (sqlite3_exec(f.db, sql.toUtf8().constData(), nullptr, nullptr, &erreur) != SQLITE_OK) {
+        ADD_FAILURE() << "SQL refusé : " << sql.toStdString() << " : " << (erreur ? erreur : "");
+        sqlite3_free(erreur);
+    }
+}
+
+QStringList colonne_du_fichier(const QString& chemin, const QString& table, const QString& colonne) {
+    Fichier f(chemin);
+    QStringList valeurs;
+    sqlite3_stmt* requête = nullptr;
+    const QString sql = QStringLiteral("SELECT \"%1\" FROM \"%2\" ORDER BY rowid").arg(colonne, table);
+    if (sqlite3_prepare_v2(f.db, sql.toUtf8().constData(), -1, &requête, nullptr) != SQLITE_OK) {
+        ADD_FAILURE() << "lecture impossible : " << sql.toStdString();
+        return valeurs;
+    }
+    while (sqlite3_step(requête) == SQLITE_ROW) {
+        const auto* texte = reinterpret_cast<const char*>(sqlite3_column_text(requête, 0));
+        valeurs << (texte ? QString::fromUtf8(texte) : QStringLiteral("<null>"));
+    }
+    sqlite3_finalize(requête);
+    return valeurs;
+}
+
+int écritures_journalisées(const QString& chemin) {
+    return static_cast<int>(
+        colonne_du_fichier(chemin, QStringLiteral("journal"), QStringLiteral("quoi")).size());
+}
+
+QString créer_base_essai(const WorkFolder& dossier) {
+    const QString chemin = dossier.file(QStringLiteral("essai.mdb"));
+    sql_direct(chemin, QStringLiteral(R"(
+        CREATE TABLE fiches (nom TEXT(30), naissance DATE, actif BOOLEAN, notes MEMO, libellé TEXT(20));
+        INSERT INTO fiches VALUES ('Alpha', '2015-02-01', 1, 'première', 'un');
+        INSERT INTO fiches VALUES ('Bravo', '2016-03-02', 0, 'deuxième', 'deux');
+        INSERT INTO fiches VALUES ('Charlie', NULL, 1, NULL, 'trois');
+        CREATE TABLE valeurs (code TEXT(5), détails TEXT(50));
+        INSERT INTO valeurs VALUES ('A', 'Ananas');
+        INSERT INTO valeurs VALUES ('B', 'Banane');
+        INSERT INTO valeurs VALUES ('C', 'Cerise');
+        CREATE TABLE journal (quoi TEXT);
+        CREATE TRIGGER fiches_maj AFTER UPDATE ON fiches BEGIN INSERT INTO journal VALUES ('maj'); END;
+        CREATE TRIGGER fiches_ajout AFTER INSERT ON fiches BEGIN INSERT INTO journal VALUES ('ajout'); END;
+        CREATE TRIGGER valeurs_maj AFTER UPDATE ON valeurs BEGIN INSERT INTO journal VALUES ('maj'); END;
+    )"));
+    return chemin;
+}
+
+ConfigurationFiche feuille_essai::configuration_par_défaut() {
+    ConfigurationFiche c;
+    c.nom = QStringLiteral("feuille_essai");
+    c.titre = QStringLiteral("Fiches");
+    c.source_de_conception = QStringLiteral("fiches");
+    return c;
+}
+
+feuille_essai::feuille_essai(ConfigurationFiche configuration) : FeuilleFiche(std::move(configuration)) {
+    auto* disposition = new QVBoxLayout(corps());
+    SSTab1 = new QTabWidget(corps());
+    SSTab1->setObjectName(QStringLiteral("SSTab1"));
+    auto* page0 = new QWidget;
+    auto* page1 = new QWidget;
+    SSTab1->addTab(page0, QStringLiteral("&Identité"));
+    SSTab1->addTab(page1, QStringLiteral("&Notes"));
+    disposition->addWidget(SSTab1);
+
+    auto* identité = new QVBoxLayout(page0);
+    nom = new QLineEdit(page0);
+    nom->setObjectName(QStringLiteral("nom"));
+    nom->setMaxLength(30);
+    naissance = new QLineEdit(page0);
+    naissance->setObjectName(QStringLiteral("naissance"));
+    actif = new QCheckBox(QStringLiteral("actif"), page0);
+    actif->setObjectName(QStringLiteral("actif"));
+    identité->addWidget(nom);
+    identité->addWidget(naissance);
+    identité->addWidget(actif);
+
+    auto* suite = new QVBoxLayout(page1);
+    notes = new QPlainTextEdit(page1);
+    notes->setObjectName(QStringLiteral("notes"));
+    notes->setTabChangesFocus(true);
+    libellé = new QLabel(page1);
+    libellé->setObjectName(QStringLiteral("libellé"));
+    suite->addWidget(notes);
+    suite->addWidget(libellé);
+
+    datPrimaryRS->bind(nom, QStringLiteral("nom"));
+    datPrimaryRS->bind(naissance, QStringLiteral("naissance"));
+    datPrimaryRS->bind(actif, QStringLiteral("actif"));
+    datPrimaryRS->bind(notes, QStringLiteral("notes"));
+    datPrimaryRS->bind(libellé, QStringLiteral("libellé"));
+}
+
+void feuille_essai::datPrimaryRS_Validate(int& Action, bool& Save) {
+    actions.push_back(Action);
+    FeuilleFiche::datPrimaryRS_Validate(Action, Save);
+}
+
+feuille_grille_essai::feuille_grille_essai()
+    : FeuilleFiche(table_de_consultation(QStringLiteral("feuille_grille_essai"),
+                                         QStringLiteral("Table des valeurs"), QStringLiteral("valeurs"),
+                                         {{QStringLiteral("code"), QStringLiteral("code")},
+                                          {QStringLiteral("détails"), QStringLiteral("détails")}})) {}

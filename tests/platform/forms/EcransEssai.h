@@ -1,0 +1,52 @@
+#pragma once
+
+#include "platform/forms/FeuilleFiche.h"
+#include "support/Fixtures.h"
+
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+#include <vector>
+
+class QCheckBox;
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+class QTabWidget;
+
+// A work file made for these tests: `fiches` (text, date, boolean, memo, label) with three rows,
+// `valeurs` for the grid with three rows, and a log of every UPDATE and INSERT that reaches the file.
+QString créer_base_essai(const WorkFolder& dossier);
+
+// Runs one SQL statement straight on the file (another user, or a test's own change of the schema).
+void sql_direct(const QString& chemin, const QString& sql);
+// The values of one column, in rowid order, read straight from the file.
+QStringList colonne_du_fichier(const QString& chemin, const QString& table, const QString& colonne);
+int écritures_journalisées(const QString& chemin);
+
+// A screen of bound boxes over `fiches`, recording the Validate actions it receives.
+class feuille_essai : public FeuilleFiche {
+    Q_OBJECT
+public:
+    explicit feuille_essai(ConfigurationFiche configuration = configuration_par_défaut());
+    feuille_essai(const feuille_essai&) = delete;
+
+    static ConfigurationFiche configuration_par_défaut();
+
+    QLineEdit* nom = nullptr;
+    QLineEdit* naissance = nullptr;
+    QCheckBox* actif = nullptr;
+    QPlainTextEdit* notes = nullptr;
+    QLabel* libellé = nullptr;
+    QTabWidget* SSTab1 = nullptr;
+
+    std::vector<int> actions;
+    void datPrimaryRS_Validate(int& Action, bool& Save) override;
+};
+
+// A grid screen, declared as a lookup screen is.
+class feuille_grille_essai : public FeuilleFiche {
+    Q_OBJECT
+public:
+    feuille_grille_essai();
+};

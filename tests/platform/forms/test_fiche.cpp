@@ -1,0 +1,402 @@
+// The shared frame on a screen of bound boxes: binding, navigator, Validate and Reposition, the
+// handlers of the buttons, the error paths, tab following.
+#include "EcransEssai.h"
+
+#include "platform/errors/ErrorBoxes.h"
+#include "platform/forms/DataControl.h"
+#include "platform/forms/Module1.h"
+#include "platform/forms/SuiviOnglets.h"
+#include "support/PiloteEcran.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTest>
+
+namespace {
+
+class FicheTest : public WorkFolderTest {
+protected:
+    void SetUp() override {
+        WorkFolderTest::SetUp();
+        base = créer_base_essai(folder);
+    }
+
+    template <class F = feuille_essai> F& ouvrir() {
+        F& f = module1().feuilles().get<F>();
+        f.datPrimaryRS->setDatabaseName(base);
+        f.datPrimaryRS->setRecordSource(QStringLiteral("SELECT * FROM fiches"));
+        f.datPrimaryRS->Refresh();
+        montrer_active(f);
+        return f;
+    }
+
+    QStringList noms() const {
+        return colonne_du_fichier(base, QStringLiteral("fiches"), QStringLiteral("nom"));
+    }
+    QString légende(FeuilleFiche& f) const { return f.datPrimaryRS->Caption(); }
+
+    QString base;
+};
+
+// A screen whose data errors are shown and whose caption is the bare position.
+class feuille_essai_bavarde : public feuille_essai {
+public:
+    feuille_essai_bavarde() : feuille_essai(configuration()) {}
+    static ConfigurationFiche configuration() {
+        ConfigurationFiche c = configuration_par_défaut();
+        c.nom = QStringLiteral("feuille_essai_bavarde");
+        c.légende = LégendePosition::nue;
+        c.boîte_erreur_données = true;
+        c.infobulle_rafraîchir = InfobulleRafraîchir::rafraichier;
+        c.suppression = FormeSuppression::sans_piège;
+        return c;
+    }
+};
+
+// A screen with no position caption, no add and no delete.
+class feuille_essai_muette : public feuille_essai {
+public:
+    feuille_essai_muette() : feuille_essai(configuration()) {}
+    static ConfigurationFiche configuration() {
+        ConfigurationFiche c = configuration_par_défaut();
+        c.nom = QStringLiteral("feuille_essai_muette");
+        c.légende = LégendePosition::aucune;
+        c.ajout = FormeAjout::aucune;
+        c.suppression = FormeSuppression::aucune;
+        c.infobulle_rafraîchir = InfobulleRafraîchir::rafraichir;
+        return c;
+    }
+};
+
+} // namespace
+
+TEST_F(FicheTest, the_current_row_fills_every_kind_of_bound_control) {
+    auto& f = ouvrir();
+    EXPECT_EQ(f.nom->text(), "Alpha");
+    EXPECT_EQ(f.naissance->text(), "01/02/2015");
+    EXPECT_TRUE(f.actif->isChecked());
+    EXPECT_EQ(f.notes->toPlainText(), "première");
+    EXPECT_EQ(f.libellé->text(), "un");
+    EXPECT_EQ(légende(f), "Fiche: 1");
+    EXPECT_EQ(ui().mousePointer(), vbDefault);
+    EXPECT_FALSE(f.datPrimaryRS->DataChanged());
+
+    cliquer(*f.datPrimaryRS, "dernier");
+    EXPECT_EQ(f.nom->text(), "Charlie");
+    EXPECT_EQ(f.naissance->text(), "") << "an empty date shows as an empty box";
+    EXPECT_EQ(f.notes->toPlainText(), "");
+}
+
+TEST_F(FicheTest, the_navigator_arrows_move_and_stop_at_both_ends) {
+    auto& f = ouvrir();
+    cliquer(*f.datPrimaryRS, "précédent");
+    EXPECT_EQ(légende(f), "Fiche: 1");
+    cliquer(*f.datPrimaryRS, "suivant");
+    EXPECT_EQ(f.nom->text(), "Bravo");
+    EXPECT_EQ(légende(f), "Fiche: 2");
+    cliquer(*f.datPrimaryRS, "dernier");
+    cliquer(*f.datPrimaryRS, "suivant");
+    EXPECT_EQ(f.nom->text(), "Charlie");
+    EXPECT_EQ(légende(f), "Fiche: 3");
+    cliquer(*f.datPrimaryRS, "premier");
+    EXPECT_EQ(f.nom->text(), "Alpha");
+    EXPECT_TRUE(ui().boxes().empty());
+}
+
+TEST_F(FicheTest, typing_then_moving_writes_the_row_and_an_unchanged_row_is_never_rewritten) {
+    auto& f = ouvrir();
+    cliquer(*f.datPrimaryRS, "suivant");
+    cliquer(*f.datPrimaryRS, "premier");
+    cliquer(f, "cmdMettreàjour");
+    cliquer(f, "cmdRafraîchir");
+    EXPECT_EQ(écritures_journalisées(base), 0);
+
+    f.nom->selectAll();
+    QTest::keyClicks(f.nom, "Alfred");
+    cliquer(*f.datPrimaryRS, "suivant");
+    EXPECT_EQ(noms(), (QStringList{"Alfred", "Bravo", "Charlie"}));
+    EXPECT_EQ(écritures_journalisées(base), 1);
+    EXPECT_EQ(f.nom->text(), "Bravo");
+}
+
+TEST_F(FicheTest, a_write_by_code_into_a_bound_box_is_an_edit) {
+    auto& f = ouvrir();
+    f.nom->setText("Par le code");
+    f.notes->setPlainText("note écrite");
+    f.libellé->setText("étiquette");
+    EXPECT_TRUE(f.datPrimaryRS->DataChanged());
+    cliquer(f, "cmdMettreàjour");
+    EXPECT_EQ(noms().first(), "Par le code");
+    EXPECT_EQ(colonne_du_fichier(base, "fiches", "notes").first(), "note écrite");
+    EXPECT_EQ(colonne_du_fichier(base, "fiches", "libellé").first(), "étiquette");
+}
+
+TEST_F(FicheTest, a_check_box_writes_a_boolean_and_a_date_is_typed_as_jj_mm_aaaa) {
+    auto& f = ouvrir();
+    QTest::mouseClick(f.actif, Qt::LeftButton);
+    EXPECT_FALSE(f.actif->isChecked());
+    f.naissance->selectAll();
+    QTest::keyClicks(f.naissance, "25/12/2016");
+    cliquer(*f.datPrimaryRS, "suivant");
+    EXPECT_EQ(colonne_du_fichier(base, "fiches", "actif").first(), "0");
+    EXPECT_EQ(colonne_du_fichier(base, "fiches", "naissance").first(), "2016-12-25");
+    cliquer(*f.datPrimaryRS, "premier");
+    EXPECT_FALSE(f.actif->isChecked());
+    EXPECT_EQ(f.naissance->text(), "25/12/2016");
+}
+
+TEST_F(FicheTest, validate_receives_the_action_codes_and_the_pointer_cycles) {
+    auto& f = ouvrir();
+    f.actions.clear();
+    cliquer(*f.datPrimaryRS, "suivant");
+    EXPECT_EQ(ui().mousePointer(), vbDefault);
+    cliquer(*f.datPrimaryRS, "précédent");
+    cliquer(*f.datPrimaryRS, "dernier");
+    cliquer(*f.datPrimaryRS, "premier");
+    cliquer(f, "cmdMettreàjour");
+    cliquer(f, "cmdAjouter");
+    cliquer(f, "cmdRafraîchir");
+    cliquer(f, "cmdSupprimer");
+    EXPECT_EQ(f.actions, (std::vector<int>{vbDataActionMoveNext, vbDataActionMovePrevious,
+                                           vbDataActionMoveLast, vbDataActionMoveFirst, vbDataActionUpdate,
+                                           vbDataActionBookmark, vbDataActionAddNew, vbDataActionClose,
+                                           vbDataActionDelete, vbDataActionMoveNext}));
+    // Every action puts up the hourglass and every Reposition takes it away.
+    const auto& historique = ui().pointerHistory();
+    ASSERT_GE(historique.size(), 2u);
+    EXPECT_EQ(historique.back(), vbDefault);
+    EXPECT_NE(std::find(historique.begin(), historique.end(), vbHourglass), historique.end());
+
+    f.actions.clear();
+    cliquer(f, "cmdFermer");
+    EXPECT_EQ(f.actions, std::vector<int>{vbDataActionUnload});
+    EXPECT_EQ(ui().mousePointer(), vbDefault) << "Form_Unload puts the pointer back after the final Validate";
+}
+
+TEST_F(FicheTest, valider_on_an_unchanged_row_keeps_position_and_caption) {
+    auto& f = ouvrir();
+    cliquer(*f.datPrimaryRS, "suivant");
+    cliquer(f, "cmdMettreàjour");
+    EXPECT_EQ(légende(f), "Fiche: 2");
+    EXPECT_EQ(f.nom->text(), "Bravo");
+    EXPECT_TRUE(ui().boxes().empty());
+    EXPECT_EQ(ui().mousePointer(), vbDefault);
+    EXPECT_EQ(écritures_journalisées(base), 0);
+}
+
+TEST_F(FicheTest, valider_writes_an_edit_and_the_saved_row_stays_current) {
+    auto& f = ouvrir();
+    cliquer(*f.datPrimaryRS, "dernier");
+    f.nom->setText("Charles");
+    cliquer(f, "cmdMettreàjour");
+    EXPECT_EQ(noms().last(), "Charles");
+    EXPECT_EQ(légende(f), "Fiche: 3");
+    EXPECT_FALSE(f.datPrimaryRS->DataChanged());
+}
+
+TEST_F(FicheTest, ajouter_shows_an_empty_new_row_numbered_0_and_a_move_without_typing_adds_nothing) {
+    auto& f = ouvrir();
+    cliquer(f, "cmdAjouter");
+    EXPECT_EQ(légende(f), "Fiche: 0");
+    EXPECT_EQ(f.nom->text(), "");
+    EXPECT_FALSE(f.actif->isChecked());
+    cliquer(*f.datPrimaryRS, "premier");
+    EXPECT_EQ(noms().size(), 3);
+    EXPECT_EQ(écritures_journalisées(base), 0);
+}
+
+TEST_F(FicheTest, ajouter_then_valider_adds_the_row_and_makes_it_current) {
+    auto& f = ouvrir();
+    cliquer(f, "cmdAjouter");
+    QTest::keyClicks(f.nom, "Delta");
+    cliquer(f, "cmdMettreàjour");
+    EXPECT_EQ(noms(), (QStringList{"Alpha", "Bravo", "Charlie", "Delta"}));
+    EXPECT_EQ(légende(f), "Fiche: 4");
+    EXPECT_EQ(f.nom->text(), "Delta");
+}
+
+TEST_F(FicheTest, closing_with_an_edited_row_writes_it_without_a_question) {
+    auto& f = ouvrir();
+    cliquer(*f.datPrimaryRS, "suivant");
+    f.nom->selectAll();
+    QTest::keyClicks(f.nom, "Bertrand");
+    cliquer(f, "cmdFermer");
+    processDeletions();
+    EXPECT_FALSE(module1().feuilles().isLoaded<feuille_essai>());
+    EXPECT_EQ(noms(), (QStringList{"Alpha", "Bertrand", "Charlie"}));
+    EXPECT_TRUE(ui().boxes().empty());
+}
+
+TEST_F(FicheTest, closing_a_new_row_typed_into_adds_it) {
+    auto& f = ouvrir();
+    cliquer(f, "cmdAjouter");
+    QTest::keyClicks(f.nom, "Echo");
+    f.Unload();
+    EXPECT_EQ(noms().last(), "Echo");
+}
+
+TEST_F(FicheTest, refresh_goes_back_to_the_first_record_and_sees_other_users_rows) {
+    auto& f = ouvrir();
+    cliquer(*f.datPrimaryRS, "dernier");
+    sql_direct(base, "INSERT INTO fiches (nom) VALUES ('Foxtrot')");
+    cliquer(f, "cmdRafraîchir");
+    EXPECT_EQ(légende(f), "Fiche: 1");
+    EXPECT_EQ(f.nom->text(), "Alpha");
+    cliquer(*f.datPrimaryRS, "dernier");
+    EXPECT_EQ(f.nom->text(), "Foxtrot");
+}
+
+TEST_F(FicheTest, refresh_writes_an_edited_row_first) {
+    auto& f = ouvrir();
+    f.nom->setText("Alphonse");
+    cliquer(f, "cmdRafraîchir");
+    EXPECT_EQ(noms().first(), "Alphonse");
+    EXPECT_EQ(f.nom->text(), "Alphonse");
+}
+
+TEST_F(FicheTest, deleting_lands_on_the_next_row_or_on_the_new_last_one) {
+    auto& f = ouvrir();
+    cliquer(f, "cmdSupprimer");
+    EXPECT_EQ(f.nom->text(), "Bravo");
+    cliquer(*f.datPrimaryRS, "dernier");
+    cliquer(f, "cmdSupprimer");
+    EXPECT_EQ(f.nom->text(), "Bravo");
+    EXPECT_EQ(noms(), QStringList{"Bravo"});
+    EXPECT_TRUE(ui().boxes().empty());
+}
+
+TEST_F(FicheTest, deleting_the_only_row_shows_3021_and_leaves_the_screen_open_on_no_record) {
+    sql_direct(base, "DELETE FROM fiches WHERE nom <> 'Alpha'");
+    auto& f = ouvrir();
+    ui().expectMsgBox();
+    cliquer(f, "cmdSupprimer");
+    EXPECT_EQ(ui().lastBox().text, texte_erreur(ErrorBoxKind::standard, VbError(3021)));
+    EXPECT_EQ(ui().lastBox().buttons, vbExclamation + vbOKOnly);
+    EXPECT_EQ(ui().lastBox().title, "Norvane v2");
+    EXPECT_TRUE(noms().isEmpty());
+    EXPECT_TRUE(module1().feuilles().isLoaded<feuille_essai>());
+    EXPECT_TRUE(f.isVisible());
+    EXPECT_EQ(ui().mousePointer(), vbDefault);
+}
+
+TEST_F(FicheTest, a_refused_save_shows_the_box_and_keeps_the_edit_on_screen) {
+    auto& f = ouvrir();
+    f.naissance->selectAll();
+    QTest::keyClicks(f.naissance, "31/02/2015");
+    ui().expectMsgBox();
+    cliquer(f, "cmdMettreàjour");
+    EXPECT_EQ(ui().lastBox().text, texte_erreur(ErrorBoxKind::standard, VbError(3421)));
+    EXPECT_EQ(f.naissance->text(), "31/02/2015");
+    EXPECT_TRUE(f.datPrimaryRS->DataChanged());
+    EXPECT_EQ(colonne_du_fichier(base, "fiches", "naissance").first(), "2015-02-01");
+    EXPECT_EQ(ui().mousePointer(), vbDefault);
+
+    // Mended, the same edit goes through.
+    f.naissance->setText("28/02/2015");
+    cliquer(f, "cmdMettreàjour");
+    EXPECT_EQ(colonne_du_fichier(base, "fiches", "naissance").first(), "2015-02-28");
+}
+
+TEST_F(FicheTest, a_failed_write_on_an_arrow_goes_silently_to_the_error_event_and_stays_on_the_row) {
+    auto& f = ouvrir();
+    f.naissance->setText("pas une date");
+    cliquer(*f.datPrimaryRS, "suivant");
+    EXPECT_TRUE(ui().boxes().empty()) << "this screen's Error handler clears the response without a box";
+    EXPECT_EQ(f.nom->text(), "Alpha");
+    EXPECT_EQ(f.naissance->text(), "pas une date");
+}
+
+TEST_F(FicheTest, the_error_event_box_names_the_error_on_screens_that_show_it) {
+    auto& f = ouvrir<feuille_essai_bavarde>();
+    f.naissance->setText("pas une date");
+    ui().expectMsgBox();
+    cliquer(*f.datPrimaryRS, "suivant");
+    ASSERT_EQ(ui().boxes().size(), 1u);
+    EXPECT_EQ(ui().lastBox().text, "Data error event hit err:" + error_text(3421));
+    EXPECT_EQ(ui().lastBox().buttons, vbOKOnly);
+    EXPECT_EQ(ui().lastBox().title, "Norvane v2");
+    EXPECT_EQ(f.nom->text(), "Alpha");
+}
+
+TEST_F(FicheTest, a_handler_without_trap_fails_up_to_the_standard_words_and_the_screen_goes_on) {
+    sql_direct(base, "DELETE FROM fiches");
+    auto& f = ouvrir<feuille_essai_bavarde>();
+    EXPECT_EQ(légende(f), "0") << "the bare caption of a set with no row";
+    ui().expectMsgBox();
+    cliquer(f, "cmdSupprimer");
+    EXPECT_EQ(ui().lastBox().text, texte_erreur(ErrorBoxKind::standard, VbError(3021)));
+    EXPECT_TRUE(f.isVisible());
+    EXPECT_EQ(ui().mousePointer(), vbDefault);
+}
+
+TEST_F(FicheTest, the_three_captions_of_the_position) {
+    auto& numérotée = ouvrir();
+    cliquer(*numérotée.datPrimaryRS, "dernier");
+    EXPECT_EQ(légende(numérotée), "Fiche: 3");
+    auto& nue = ouvrir<feuille_essai_bavarde>();
+    cliquer(*nue.datPrimaryRS, "suivant");
+    EXPECT_EQ(légende(nue), "2");
+    auto& muette = ouvrir<feuille_essai_muette>();
+    cliquer(*muette.datPrimaryRS, "suivant");
+    EXPECT_EQ(légende(muette), " ");
+    EXPECT_EQ(muette.nom->text(), "Bravo");
+}
+
+TEST_F(FicheTest, buttons_carry_their_captions_and_tooltips_word_for_word) {
+    auto& f = ouvrir();
+    EXPECT_EQ(f.cmdAjouter->text(), "&Ajouter");
+    EXPECT_EQ(f.cmdAjouter->toolTip(), "Cliquez pour créer une nouvelle fiche de saisie");
+    EXPECT_EQ(f.cmdSupprimer->text(), "&Supprimer");
+    EXPECT_EQ(f.cmdSupprimer->toolTip(), "Cliquez pour supprimer la fiche en cours");
+    EXPECT_EQ(f.cmdRafraîchir->text(), "&Rafraîchir");
+    EXPECT_EQ(f.cmdMettreàjour->text(), "&Valider");
+    EXPECT_EQ(f.cmdMettreàjour->toolTip(), "Cliquez pour enregistrer les renseignements en cours");
+    EXPECT_EQ(f.cmdFermer->text(), "&Fermer");
+    EXPECT_EQ(f.cmdFermer->toolTip(), "Cliquez pour fermer cette fenêtre");
+    EXPECT_EQ(f.bouton_accepter, nullptr);
+
+    const QString suite = " les données, dans le cas d'une utilisation multi-utilisateurs";
+    EXPECT_EQ(f.cmdRafraîchir->toolTip(), "Cliquez pour rafraîchir" + suite);
+    EXPECT_EQ(ouvrir<feuille_essai_muette>().cmdRafraîchir->toolTip(), "Cliquez pour rafraichir" + suite);
+    EXPECT_EQ(ouvrir<feuille_essai_bavarde>().cmdRafraîchir->toolTip(), "Cliquez pour rafraichier" + suite);
+    EXPECT_EQ(ouvrir<feuille_essai_muette>().cmdAjouter, nullptr);
+    EXPECT_EQ(ouvrir<feuille_essai_muette>().cmdSupprimer, nullptr);
+}
+
+TEST_F(FicheTest, a_screen_not_yet_pointed_at_a_file_fails_with_the_engine_error_on_refresh) {
+    auto& f = module1().feuilles().get<feuille_essai>();
+    EXPECT_EQ(f.datPrimaryRS->DatabaseName(), "");
+    EXPECT_EQ(f.datPrimaryRS->RecordSource(), "fiches");
+    EXPECT_THROW(f.datPrimaryRS->Recordset(), VbError);
+    f.datPrimaryRS->setDatabaseName(folder.file("absente.mdb"));
+    try {
+        f.datPrimaryRS->Refresh();
+        ADD_FAILURE() << "a missing file opened";
+    } catch (const VbError& e) {
+        EXPECT_EQ(e.number(), 3024);
+    }
+}
+
+TEST_F(FicheTest, a_field_taking_the_focus_brings_its_tab_forward) {
+    auto& f = ouvrir();
+    suivre_onglets(f, *f.SSTab1, {{"nom", 0}, {"naissance", 0}, {"actif", 0}, {"notes", 1}});
+    f.notes->setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(f.SSTab1->currentIndex(), 1);
+    f.naissance->setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(f.SSTab1->currentIndex(), 0);
+    EXPECT_TRUE(f.naissance->hasFocus());
+}
+
+TEST_F(FicheTest, a_tab_table_naming_a_missing_field_is_refused) {
+    auto& f = ouvrir();
+    try {
+        suivre_onglets(f, *f.SSTab1, {{"nom", 0}, {"champ_absent", 1}});
+        ADD_FAILURE() << "a missing field was accepted";
+    } catch (const VbError& e) {
+        EXPECT_EQ(e.number(), 424);
+    }
+}

@@ -1,0 +1,213 @@
+// The data grid of the lookup screens under the shared frame: lines, headings, typing in cells, the
+// empty new row, add form B, leaving a line, deleting, Col and Text.
+#include "EcransEssai.h"
+
+#include "platform/errors/VbError.h"
+#include "platform/forms/DBGrid.h"
+#include "platform/forms/DataControl.h"
+#include "platform/forms/Module1.h"
+#include "support/PiloteEcran.h"
+
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+
+namespace {
+
+class GrilleTest : public WorkFolderTest {
+protected:
+    void SetUp() override {
+        WorkFolderTest::SetUp();
+        base = créer_base_essai(folder);
+    }
+
+    feuille_grille_essai& ouvrir() {
+        auto& f = module1().feuilles().get<feuille_grille_essai>();
+        f.datPrimaryRS->setDatabaseName(base);
+        f.datPrimaryRS->setRecordSource(QStringLiteral("SELECT * FROM valeurs"));
+        f.datPrimaryRS->Refresh();
+        montrer_active(f);
+        return f;
+    }
+
+    QStringList détails() const { return colonne_du_fichier(base, "valeurs", "détails"); }
+    static QString cellule(DBGrid& g, int ligne, int colonne) {
+        return g.model()->index(ligne, colonne).data().toString();
+    }
+    static void aller(DBGrid& g, int ligne, int colonne) {
+        g.setCurrentIndex(g.model()->index(ligne, colonne));
+    }
+
+    QString base;
+};
+
+} // namespace
+
+TEST_F(GrilleTest, shows_every_row_under_its_heading_and_an_empty_new_row_at_the_end) {
+    auto& f = ouvrir();
+    DBGrid& g = *f.grdDataGrid;
+    EXPECT_EQ(g.objectName(), "grdDataGrid");
+    EXPECT_EQ(f.windowTitle(), "Table des valeurs");
+    ASSERT_EQ(g.model()->columnCount(), 2);
+    EXPECT_EQ(g.model()->headerData(0, Qt::Horizontal).toString(), "code");
+    EXPECT_EQ(g.model()->headerData(1, Qt::Horizontal).toString(), "détails");
+    ASSERT_EQ(g.model()->rowCount(), 4);
+    EXPECT_EQ(cellule(g, 0, 1), "Ananas");
+    EXPECT_EQ(cellule(g, 2, 0), "C");
+    EXPECT_EQ(g.newRow(), 3);
+    EXPECT_EQ(cellule(g, 3, 1), "");
+    EXPECT_EQ(g.currentIndex().row(), 0);
+    EXPECT_EQ(f.datPrimaryRS->Caption(), "Fiche: 1");
+}
+
+TEST_F(GrilleTest, the_grid_and_the_navigator_follow_each_other) {
+    auto& f = ouvrir();
+    DBGrid& g = *f.grdDataGrid;
+    cliquer(*f.datPrimaryRS, "dernier");
+    EXPECT_EQ(g.currentIndex().row(), 2);
+    aller(g, 1, 1);
+    EXPECT_EQ(f.datPrimaryRS->Caption(), "Fiche: 2");
+    EXPECT_EQ(f.datPrimaryRS->Recordset().field("code").toString(), "B");
+}
+
+TEST_F(GrilleTest, col_and_text_read_the_current_cell_typed_text_included) {
+    auto& f = ouvrir();
+    DBGrid& g = *f.grdDataGrid;
+    aller(g, 1, 0);
+    EXPECT_EQ(g.Col(), 0);
+    EXPECT_EQ(g.Text(), "B");
+    g.setCol(1);
+    EXPECT_EQ(g.Col(), 1);
+    EXPECT_EQ(g.Text(), "Banane");
+    EXPECT_THROW(g.setCol(2), VbError);
+
+    g.setFocus();
+    g.edit(g.currentIndex());
+    auto* éditeur = qobject_cast<QLineEdit*>(focus_actuel());
+    ASSERT_NE(éditeur, nullptr);
+    éditeur->selectAll();
+    taper_au_focus("Bergamote");
+    EXPECT_EQ(g.Text(), "Bergamote") << "the text being typed, before the line is left";
+    EXPECT_EQ(détails()[1], "Banane");
+}
+
+TEST_F(GrilleTest, typing_in_a_cell_then_leaving_the_line_writes_it) {
+    auto& f = ouvrir();
+    DBGrid& g = *f.grdDataGrid;
+    aller(g, 1, 1);
+    g.setFocus();
+    QTest::keyClick(&g, Qt::Key_F2);
+    auto* éditeur = qobject_cast<QLineEdit*>(focus_actuel());
+    ASSERT_NE(éditeur, nullptr);
+    éditeur->selectAll();
+    taper_au_focus("Brugnon");
+    touche_au_focus(Qt::Key_Return);
+    EXPECT_EQ(détails()[1], "Banane") << "nothing is written while the line is still current";
+    QTest::keyClick(&g, Qt::Key_Down);
+    EXPECT_EQ(détails(), (QStringList{"Ananas", "Brugnon", "Cerise"}));
+    EXPECT_EQ(cellule(g, 1, 1), "Brugnon");
+    EXPECT_EQ(f.datPrimaryRS->Caption(), "Fiche: 3");
+}
+
+TEST_F(GrilleTest, ajouter_leaves_the_user_typing_in_the_new_row_and_leaving_it_writes_it) {
+    auto& f = ouvrir();
+    DBGrid& g = *f.grdDataGrid;
+    cliquer(f, "cmdAjouter");
+    EXPECT_EQ(g.currentIndex().row(), g.newRow());
+    ASSERT_NE(focus_actuel(), nullptr);
+    EXPECT_TRUE(g.isAncestorOf(focus_actuel())) << "the focus is in the grid's cell editor";
+    EXPECT_EQ(f.datPrimaryRS->Caption(), "Fiche: 3") << "the caption is not touched until the row is written";
+
+    taper_au_focus("D");
+    touche_au_focus(Qt::Key_Tab);
+    taper_au_focus("Datte");
+    touche_au_focus(Qt::Key_Return);
+    EXPECT_EQ(détails().size(), 3);
+    QTest::keyClick(&g, Qt::Key_Up);
+    EXPECT_EQ(détails(), (QStringList{"Ananas", "Banane", "Cerise", "Datte"}));
+    EXPECT_EQ(colonne_du_fichier(base, "valeurs", "code").last(), "D");
+    EXPECT_EQ(g.model()->rowCount(), 5);
+    EXPECT_EQ(cellule(g, 3, 1), "Datte");
+    EXPECT_EQ(g.newRow(), 4);
+    EXPECT_EQ(cellule(g, 4, 1), "");
+}
+
+TEST_F(GrilleTest, stepping_onto_the_new_row_and_away_without_typing_adds_nothing) {
+    auto& f = ouvrir();
+    DBGrid& g = *f.grdDataGrid;
+    cliquer(f, "cmdAjouter");
+    touche_au_focus(Qt::Key_Escape);
+    QTest::keyClick(&g, Qt::Key_Up);
+    EXPECT_EQ(détails().size(), 3);
+    EXPECT_EQ(g.model()->rowCount(), 4);
+}
+
+TEST_F(GrilleTest, closing_the_screen_while_typing_in_the_new_row_writes_it) {
+    auto& f = ouvrir();
+    cliquer(f, "cmdAjouter");
+    taper_au_focus("E");
+    cliquer(f, "cmdFermer");
+    processDeletions();
+    EXPECT_FALSE(module1().feuilles().isLoaded<feuille_grille_essai>());
+    EXPECT_EQ(colonne_du_fichier(base, "valeurs", "code").last(), "E");
+}
+
+TEST_F(GrilleTest, supprimer_removes_the_line_and_the_row) {
+    auto& f = ouvrir();
+    DBGrid& g = *f.grdDataGrid;
+    aller(g, 1, 0);
+    cliquer(f, "cmdSupprimer");
+    EXPECT_EQ(détails(), (QStringList{"Ananas", "Cerise"}));
+    EXPECT_TRUE(g.isRowHidden(1));
+    EXPECT_EQ(g.currentIndex().row(), 2);
+    EXPECT_EQ(g.Text(), "C");
+}
+
+TEST_F(GrilleTest, the_delete_key_on_a_line_removes_that_row) {
+    auto& f = ouvrir();
+    DBGrid& g = *f.grdDataGrid;
+    aller(g, 2, 0);
+    g.setFocus();
+    QTest::keyClick(&g, Qt::Key_Delete);
+    EXPECT_EQ(détails(), (QStringList{"Ananas", "Banane"}));
+    EXPECT_EQ(g.currentIndex().row(), 1);
+}
+
+TEST_F(GrilleTest, a_line_the_engine_refuses_shows_the_error_event_box_and_stays_under_edit) {
+    sql_direct(base, "CREATE UNIQUE INDEX code_unique ON valeurs (code)");
+    auto& f = ouvrir();
+    DBGrid& g = *f.grdDataGrid;
+    cliquer(f, "cmdAjouter");
+    taper_au_focus("A");
+    touche_au_focus(Qt::Key_Return);
+    ui().expectMsgBox();
+    QTest::keyClick(&g, Qt::Key_Up);
+    EXPECT_EQ(ui().lastBox().text, "Data error event hit err:" + error_text(3022));
+    EXPECT_EQ(g.currentIndex().row(), g.newRow());
+    EXPECT_EQ(cellule(g, g.newRow(), 0), "A");
+    EXPECT_EQ(détails().size(), 3);
+}
+
+TEST_F(GrilleTest, cell_editors_keep_to_the_column_size) {
+    auto& f = ouvrir();
+    DBGrid& g = *f.grdDataGrid;
+    aller(g, 0, 0);
+    g.setFocus();
+    g.edit(g.currentIndex());
+    auto* éditeur = qobject_cast<QLineEdit*>(focus_actuel());
+    ASSERT_NE(éditeur, nullptr);
+    EXPECT_EQ(éditeur->maxLength(), 5);
+}
+
+TEST_F(GrilleTest, a_lookup_declaration_gives_a_hidden_accept_button_and_the_shown_error_box) {
+    auto& f = ouvrir();
+    ASSERT_NE(f.bouton_accepter, nullptr);
+    EXPECT_FALSE(f.bouton_accepter->isVisible());
+    EXPECT_EQ(f.bouton_accepter->text(), "Accepter");
+    EXPECT_EQ(f.bouton_accepter->toolTip(),
+              "Cliquez pour accepter ces données et les insérer dans la fiche d'origine");
+    f.bouton_accepter->show();
+    f.Unload();
+    EXPECT_FALSE(f.bouton_accepter->isVisibleTo(&f)) << "Form_Unload hides it again";
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+class Feuille;
+class QWidget;
+
+// Driving a screen as a user does: shown and active, buttons clicked by name, keys typed into
+// whatever holds the focus.
+void montrer_active(Feuille& feuille);
+void cliquer(QWidget& racine, const QString& nom);
+void taper_au_focus(const QString& texte);
+void touche_au_focus(int touche);
+QWidget* focus_actuel();
