@@ -2,33 +2,77 @@
 
 #include "platform/errors/ErrorBoxes.h"
 #include "platform/forms/Clignotement.h"
+#include "platform/forms/DBGrid.h"
+#include "platform/forms/DataControl.h"
 #include "platform/forms/Module1.h"
-#include "platform/forms/Placement.h"
+#include "platform/forms/SuiviOnglets.h"
 #include "platform/vb/Conversions.h"
+#include "reports/feuille_documents.h"
+#include "store/ouvrir_table.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTabWidget>
-#include <QTableView>
 #include <QTimer>
 #include <QVBoxLayout>
 
 namespace {
 
 const QString aîné = QStringLiteral("Aîné dans l'école");
+const QString ordre_des_matricules = QStringLiteral("SELECT * FROM élèves ORDER BY matricule ASC");
+const QString ordre_alphabétique =
+    QStringLiteral("SELECT * FROM élèves ORDER BY nom_élève ASC, prénom_élève ASC");
+
+ConfigurationFiche configuration_élève() {
+    ConfigurationFiche c;
+    c.nom = QStringLiteral("feuille_élève");
+    c.titre = QStringLiteral("Fiche élève");
+    c.source_de_conception = QStringLiteral("élèves");
+    c.légende = LégendePosition::numérotée;
+    c.ajout = FormeAjout::à_part;
+    c.suppression = FormeSuppression::piégée;
+    return c;
+}
+
+// The Delete key would remove a template from the list; here the list is only read.
+class SansSuppression : public QObject {
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        return event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Delete;
+    }
+};
+
+// Takes a widget out of whatever layout holds it, so that another layout can take it in.
+bool retirer_de(QLayout* disposition, QWidget* w) {
+    if (!disposition)
+        return false;
+    if (disposition->indexOf(w) >= 0) {
+        disposition->removeWidget(w);
+        return true;
+    }
+    for (int i = 0; i < disposition->count(); ++i)
+        if (retirer_de(disposition->itemAt(i)->layout(), w))
+            return true;
+    return false;
+}
 
 QString texte(const char* utf8) {
     return QString::fromUtf8(utf8);
 }
 
-QPushButton* bouton(QWidget* parent, const char* nom, const char* légende, const char* aide) {
+QPushButton* nouveau_bouton(QWidget* parent, const char* nom, const char* légende, const char* aide) {
     auto* b = new QPushButton(texte(légende), parent);
     b->setObjectName(texte(nom));
     if (aide)
@@ -74,9 +118,9 @@ struct feuille_élève::Grille {
     int restantes = 0; // pairs still to come on the current row
 };
 
-feuille_élève::feuille_élève() : Feuille(QStringLiteral("feuille_élève")) {
-    setWindowTitle(QStringLiteral("Fiche élève"));
+feuille_élève::feuille_élève() : FeuilleFiche(configuration_élève()) {
     construire();
+    lier_colonnes();
     brancher_handlers();
 }
 
@@ -87,7 +131,8 @@ QWidget* feuille_élève::champ(const QString& nom) const {
 }
 
 void feuille_élève::construire() {
-    auto* colonne = new QVBoxLayout(this);
+    auto* colonne = new QVBoxLayout(corps());
+    colonne->setContentsMargins(0, 0, 0, 0);
     colonne->addWidget(construire_bandeau());
     SSTab1 = new QTabWidget(this);
     SSTab1->setObjectName(QStringLiteral("SSTab1"));
@@ -99,13 +144,127 @@ void feuille_élève::construire() {
     Timer1 = minuterie_clignotante(*this, 500, [this] { Timer1_Timer(); });
 }
 
+// Every field shows its column of the current pupil; the captions of the configurable fields come
+// from the single row of paramètres.
+void feuille_élève::lier_colonnes() {
+    for (const Champ& c : champs()) {
+        if (!c.colonne)
+            continue;
+        const QString colonne = texte(c.colonne);
+        QWidget* w = champ(texte(c.nom));
+        if (auto* e = qobject_cast<QLineEdit*>(w))
+            datPrimaryRS->bind(e, colonne);
+        else if (auto* z = qobject_cast<QPlainTextEdit*>(w))
+            datPrimaryRS->bind(z, colonne);
+        else if (auto* b = qobject_cast<QCheckBox*>(w))
+            datPrimaryRS->bind(b, colonne);
+    }
+    for (int i = 0; i < 5; ++i)
+        for (QLineEdit* e : {nom_contact[i], prénom_contact[i], téléphone_contact[i]})
+            datPrimaryRS->bind(e, e->objectName());
+    for (QWidget* w : champ_paramétable) {
+        if (auto* e = qobject_cast<QLineEdit*>(w))
+            datPrimaryRS->bind(e, e->objectName());
+        else
+            datPrimaryRS->bind(static_cast<QPlainTextEdit*>(w), w->objectName());
+    }
+    Data1->Reposition = [this] { montrer_paramètres(); };
+    // The two other sources let their files go with the screen, as datPrimaryRS does.
+    avantDéchargement([this] {
+        Data1->unload();
+        Data2->unload();
+    });
+}
+
+// The first row of paramètres, when there is one, gives the captions and the help texts; the screen
+// never moves Data1. With no row, the stored defaults stay and no field gets a balloon.
+void feuille_élève::montrer_paramètres() {
+    DataRecordset& rs = Data1->Recordset();
+    if (rs.isEOF() && rs.isBOF())
+        return;
+    for (int i = 0; i < 10; ++i) {
+        const QString n = QString::number(i + 1);
+        lblLabels[i]->setText(rs.field(QStringLiteral("intitulé_champ_paramétrable") + n).toString());
+        const QString aide = rs.field(QStringLiteral("infobulle_champ_paramétrable") + n).toString();
+        if (aide != porteurs_aide[i]->text()) {
+            porteurs_aide[i]->setText(aide);
+            porteur_aide_Change(i);
+        }
+    }
+}
+
+void feuille_élève::porteur_aide_Change(int index) {
+    champ_paramétable[index]->setToolTip(porteurs_aide[index]->text());
+}
+
 void feuille_élève::brancher_handlers() {
     QObject::connect(Combo1, &QComboBox::activated, this, [this] { Combo1_Click(); });
     surLostFocus(matricule, [this] { matricule_LostFocus(); });
     surLostFocus(nom_enfant, [this] { nom_enfant_LostFocus(); });
     surLostFocus(prénom_enfant, [this] { prénom_enfant_LostFocus(); });
     QObject::connect(Command15, &QPushButton::clicked, this, [this] { Command15_Click(); });
-    QObject::connect(cmdFermer, &QPushButton::clicked, this, [this] { cmdFermer_Click(); });
+    QObject::connect(Command6, &QPushButton::clicked, this, [this] { Command6_Click(); });
+    suivre_onglets(*this, *SSTab1,
+                   {
+                       {"date_inscription", 0},
+                       {"date_naissance", 0},
+                       {"lieu_naissance", 0},
+                       {"code_nationalité", 0},
+                       {"date_radiation", 0},
+                       {"établissement_accueil", 0},
+                       {"sexe", 0},
+                       {"nationalité", 0},
+                       {"cursus_allongé_élève", 1},
+                       {"saisine_ccpe_élève", 1},
+                       {"référence_classe_élève", 1},
+                       {"niveau_classe_élève", 1},
+                       {"cycle_classe_élève", 1},
+                       {"langue_vivante_élève", 1},
+                       {"nom_contact1", 2},
+                       {"nom_contact2", 2},
+                       {"nom_contact3", 2},
+                       {"nom_contact4", 2},
+                       {"nom_contact5", 2},
+                       {"prénom_contact1", 2},
+                       {"prénom_contact2", 2},
+                       {"prénom_contact3", 2},
+                       {"prénom_contact4", 2},
+                       {"prénom_contact5", 2},
+                       {"téléphone_contact1", 2},
+                       {"téléphone_contact2", 2},
+                       {"téléphone_contact3", 2},
+                       {"téléphone_contact4", 2},
+                       {"téléphone_contact5", 2},
+                       {"numéro_résidence", 3},
+                       {"adresse2_résidence", 3},
+                       {"téléphone1_résidence", 3},
+                       {"téléphone2_résidence", 3},
+                       {"adresse_résidence", 3},
+                       {"code_postal_résidence", 3},
+                       {"ville_résidence", 3},
+                       {"vaccinations", 4},
+                       {"allergies", 4},
+                       {"contre_indications", 4},
+                       {"observations_médicales", 4},
+                       {"participation_usep", 4},
+                       {"restauration_scolaire", 4},
+                       {"coopérative_scolaire", 4},
+                       {"observations_générales", 4},
+                       {"champ_paramétable1", 5},
+                       {"champ_paramétable2", 5},
+                       {"champ_paramétable3", 5},
+                       {"champ_paramétable4", 5},
+                       {"champ_paramétable5", 5},
+                       {"champ_paramétable6", 6},
+                       {"champ_paramétable7", 6},
+                       {"champ_paramétable8", 6},
+                       {"champ_paramétable9", 6},
+                       {"champ_paramétable10", 6},
+                       {"grdDataGrid", 7},
+                       {"Check1", 7},
+                       {"Command6", 7},
+                       {"documents_suite", 7},
+                   });
 }
 
 QWidget* feuille_élève::construire_bandeau() {
@@ -131,26 +290,24 @@ QWidget* feuille_élève::construire_bandeau() {
     bas->addWidget(construire_boutons(), 1);
     lignes->addLayout(bas);
 
-    Command4 = bouton(Frame12, "Command4", "Parents",
-                      "Cliquez pour accéder à la fiche des parents de l'élève en cours");
+    Command4 = nouveau_bouton(Frame12, "Command4", "Parents",
+                              "Cliquez pour accéder à la fiche des parents de l'élève en cours");
     return bandeau;
 }
 
-// Frame11: the navigator of datPrimaryRS, the frame's buttons and the printing of the sheet.
+// Frame11: the navigator of datPrimaryRS, the frame's buttons and the printing of the sheet, above
+// the tabs where the eye finds them before the fields.
 QWidget* feuille_élève::construire_boutons() {
     auto* Frame11 = cadre(this, "Frame11");
     auto* rangée = new QHBoxLayout(Frame11);
-    cmdAjouter = bouton(Frame11, "cmdAjouter", "&Ajouter", "Cliquez pour créer une nouvelle fiche de saisie");
-    cmdSupprimer = bouton(Frame11, "cmdSupprimer", "&Supprimer", "Cliquez pour supprimer la fiche en cours");
-    cmdRafraîchir =
-        bouton(Frame11, "cmdRafraîchir", "&Rafraîchir",
-               "Cliquez pour rafraîchir les données, dans le cas d'une utilisation multi-utilisateurs");
-    cmdMettreàjour =
-        bouton(Frame11, "cmdMettreàjour", "&Valider", "Cliquez pour enregistrer les renseignements en cours");
-    cmdFermer = bouton(Frame11, "cmdFermer", "&Fermer", "Cliquez pour fermer cette fenêtre");
-    Command3 = bouton(Frame11, "Command3", "&Imprimer", "Cliquez pour imprimer la fiche");
-    for (QPushButton* b : {cmdAjouter, cmdSupprimer, cmdRafraîchir, cmdMettreàjour, cmdFermer})
-        rangée->addWidget(b);
+    Command3 = nouveau_bouton(Frame11, "Command3", "&Imprimer", "Cliquez pour imprimer la fiche");
+    datPrimaryRS->setMinimumWidth(
+        datPrimaryRS->fontMetrics().horizontalAdvance(QStringLiteral("Fiche: 0000000")) + 120);
+    for (QWidget* w : std::initializer_list<QWidget*>{datPrimaryRS, cmdAjouter, cmdSupprimer, cmdRafraîchir,
+                                                      cmdMettreàjour, cmdFermer}) {
+        retirer_de(layout(), w);
+        rangée->addWidget(w);
+    }
     rangée->addStretch(1);
     rangée->addWidget(Command3);
     return Frame11;
@@ -232,7 +389,8 @@ void feuille_élève::construire_contacts(QWidget* page) {
 void feuille_élève::construire_résidence(QWidget* page) {
     auto* Frame7 = groupe(QStringLiteral("Frame7"));
     page->layout()->addWidget(Frame7);
-    Command16 = bouton(Frame7, "Command16",
+    Command16 =
+        nouveau_bouton(Frame7, "Command16",
                        "CLIQUEZ ICI si l'adresse de résidence est identique à celle du responsable légal",
                        "Cliquez pour accepter automatiquement l'adresse du responsable légal en tant "
                        "qu'adresse du responsable légal");
@@ -290,18 +448,36 @@ void feuille_élève::construire_documents(QWidget* page) {
     auto* Frame1 = cadre(page, "Frame1");
     page->layout()->addWidget(Frame1);
     auto* pile = new QVBoxLayout(Frame1);
-    auto* grdDataGrid = new QTableView(Frame1);
+
+    Data1 = new DataControl(this);
+    Data1->setObjectName(QStringLiteral("Data1"));
+    Data1->setRecordSource(QStringLiteral("paramètres"));
+    Data1->hide();
+    Data2 = new DataControl(this);
+    Data2->setObjectName(QStringLiteral("Data2"));
+    Data2->setRecordSource(QStringLiteral("documents"));
+    Data2->hide();
+
+    // A list to pick from: the templates are written on their own screen, never here.
+    grdDataGrid = new DBGrid(Frame1);
     grdDataGrid->setObjectName(QStringLiteral("grdDataGrid"));
+    grdDataGrid->addColumn(QStringLiteral("intitulé_bouton"), QStringLiteral("documents existants"));
+    grdDataGrid->setDataSource(Data2);
+    grdDataGrid->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    grdDataGrid->horizontalHeader()->setStretchLastSection(true);
+    grdDataGrid->installEventFilter(new SansSuppression(grdDataGrid));
     pile->addWidget(grdDataGrid, 1);
+
     Check1 = new QCheckBox(QStringLiteral("Impression directe sans prévisualisation"), Frame1);
     Check1->setObjectName(QStringLiteral("Check1"));
     pile->addWidget(Check1);
     auto* boutons = new QHBoxLayout;
-    documents_suite = bouton(Frame1, "documents_suite", "Imprimer le document sélectionné",
-                             "Cliquez pour imprimer le document sélectionné dans la liste ci-dessus pour "
-                             "l'élève en cours");
-    Command6 = bouton(Frame1, "Command6", "Modifier  le document sélectionné",
-                      "Cliquez pour modifier le document sélectionné dans la liste ci-dessus");
+    documents_suite =
+        nouveau_bouton(Frame1, "documents_suite", "Imprimer le document sélectionné",
+                       "Cliquez pour imprimer le document sélectionné dans la liste ci-dessus pour "
+                       "l'élève en cours");
+    Command6 = nouveau_bouton(Frame1, "Command6", "Modifier  le document sélectionné",
+                              "Cliquez pour modifier le document sélectionné dans la liste ci-dessus");
     boutons->addWidget(documents_suite);
     boutons->addWidget(Command6);
     boutons->addStretch(1);
@@ -341,7 +517,7 @@ void feuille_élève::construire_champs() {
         QWidget* w = créer(c, parent);
         QPushButton* légende = nullptr;
         if (c.bouton) {
-            légende = bouton(parent, c.bouton, c.libellé, c.aide_bouton);
+            légende = nouveau_bouton(parent, c.bouton, c.libellé, c.aide_bouton);
             this->*c.membre_bouton = légende;
         }
         if (c.invisible) {
@@ -465,14 +641,8 @@ bool feuille_élève::focusNextPrevChild(bool next) {
 }
 
 void feuille_élève::Form_Load() {
-    avec_piège(ErrorBoxKind::standard, [this] {
-        centrer_feuille(*this);
-        fixer_ordre(0);
-    });
-}
-
-void feuille_élève::Form_Unload(int&) {
-    module1().interaction().setMousePointer(vbDefault);
+    FeuilleFiche::Form_Load();
+    fixer_ordre(0);
 }
 
 void feuille_élève::fixer_ordre(int index) {
@@ -480,8 +650,49 @@ void feuille_élève::fixer_ordre(int index) {
     Combo1_Click();
 }
 
-// For now every entry gives the alphabetical order; the orders of the list come with the searches.
-void feuille_élève::Combo1_Click() {}
+// Points datPrimaryRS at the open base in the list's order. Until the searches give each entry its
+// own order, every entry gives the alphabetical one.
+void feuille_élève::Combo1_Click() {
+    avec_piège(ErrorBoxKind::standard, [this] {
+        datPrimaryRS->setDatabaseName(module1().base_en_cours);
+        datPrimaryRS->setRecordSource(ordre_alphabétique);
+        datPrimaryRS->Refresh();
+    });
+}
+
+// A new pupil: a sibling of the current one or not, numbered one above the highest matricule, in the
+// alphabetical order afterwards. Nothing is written until a save or a move.
+void feuille_élève::cmdAjouter_Click() {
+    avec_piège(ErrorBoxKind::standard, [this] {
+        const int réponse = module1().interaction().MsgBox(
+            QStringLiteral(
+                "Voulez-vous ajouter une fiche dans la fratrie en cours (OUI) ou ajouter une fiche "
+                "sans référence à la fratrie en cours (NON)..."),
+            vbYesNoCancel + vbQuestion, QString::fromUtf8(titre_programme));
+        if (réponse == vbCancel)
+            return;
+        const QString fratrie = réponse == vbYes ? référence_famille->text() : QString();
+
+        fixer_ordre(0);
+        datPrimaryRS->setRecordSource(ordre_des_matricules);
+        datPrimaryRS->Refresh();
+        datPrimaryRS->Recordset().MoveLast();
+        const double suivant = CDbl(matricule->text()) + 1;
+        const QString nouveau = format_zéros(texte_du_nombre(suivant).trimmed());
+
+        datPrimaryRS->setRecordSource(ordre_alphabétique);
+        datPrimaryRS->Refresh();
+        datPrimaryRS->Recordset().AddNew();
+        matricule->setText(nouveau);
+        if (réponse == vbYes)
+            référence_famille->setText(fratrie);
+    });
+}
+
+// Unlike the frame's plain refresh, the pupil screen reports a failure.
+void feuille_élève::cmdRafraîchir_Click() {
+    avec_piège(ErrorBoxKind::standard, [this] { datPrimaryRS->Refresh(); });
+}
 
 void feuille_élève::matricule_LostFocus() {
     avec_piège(ErrorBoxKind::standard, [this] {
@@ -503,12 +714,30 @@ void feuille_élève::Command15_Click() {
     date_inscription->setText(module1().horloge().aujourdhui().toString(QStringLiteral("dd/MM/yyyy")));
 }
 
-void feuille_élève::cmdFermer_Click() {
-    module1().interaction().setMousePointer(vbDefault);
-    Unload();
+// The template picked in the list opens on its own screen, ready to be changed; a name the list no
+// longer holds opens a new template.
+void feuille_élève::Command6_Click() {
+    avec_piège(ErrorBoxKind::standard, [this] {
+        ouvrir_table_documents();
+        feuille_documents& documents = module1().feuilles().get<feuille_documents>();
+        DataRecordset& rs = documents.datPrimaryRS->Recordset();
+        rs.FindFirst(QStringLiteral("intitulé_bouton = \"") + grdDataGrid->Text() + QStringLiteral("\""));
+        rs.Edit();
+        if (rs.NoMatch())
+            rs.AddNew();
+        documents.Show();
+        documents.ZOrder();
+    });
 }
 
 // Twice a second, on every record alike: only the caption blinks, never the box's value.
 void feuille_élève::Timer1_Timer() {
     Check2->setText(Check2->text() == aîné ? QString() : aîné);
+}
+
+void étapes_en_plus_élèves(feuille_élève& élève, bool table_vide) {
+    if (table_vide)
+        élève.matricule->setText(QStringLiteral("000001"));
+    ouvrir_table_documents();
+    pointer_source(*élève.Data2, QStringLiteral("SELECT * FROM documents"));
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/forms/Feuille.h"
+#include "platform/forms/FeuilleFiche.h"
 
 #include <array>
 #include <span>
@@ -21,7 +21,7 @@ class QTimer;
 // "Fiche élève": one pupil of the table élèves at a time, in a band of header fields above eight tabs.
 // No Q_OBJECT: moc cannot read an accented class name; connections use member pointers and lambdas,
 // and a cast to this class is a dynamic_cast.
-class feuille_élève : public Feuille {
+class feuille_élève : public FeuilleFiche {
 public:
     feuille_élève();
     ~feuille_élève() override;
@@ -33,7 +33,6 @@ public:
         const char* nom;     // object name of the control
         Membre membre;       // where the screen keeps it; its type is the kind of control
         const char* colonne; // bound column of élèves
-        int onglet;          // page of SSTab1 its GotFocus brings forward, -1 for the header band
         const char* groupe;  // Frame that gathers it, "" for the page itself
         const char* libellé; // caption beside it (a label, or the button named below)
         const char* bouton;  // caption button's object name, or nullptr for a plain label
@@ -62,12 +61,10 @@ public:
     QPushButton* Command2 = nullptr;
     QPushButton* Command13 = nullptr;
     QPushButton* Command3 = nullptr;
-    QPushButton* cmdAjouter = nullptr;
-    QPushButton* cmdSupprimer = nullptr;
-    QPushButton* cmdRafraîchir = nullptr;
-    QPushButton* cmdMettreàjour = nullptr;
-    QPushButton* cmdFermer = nullptr;
     QTabWidget* SSTab1 = nullptr;
+    // datPrimaryRS, the frame's buttons and grdDataGrid (on Data2) come from the frame.
+    DataControl* Data1 = nullptr; // the captions of the ten configurable fields, on paramètres
+    DataControl* Data2 = nullptr; // the letter templates, on documents
 
     // Tab 0, "&Identité".
     QLineEdit* date_inscription = nullptr;
@@ -141,7 +138,6 @@ public:
     QWidget* champ(const QString& nom) const;
 
     void Form_Load() override;
-    void Form_Unload(int& cancel) override;
 
     // Sets the list's entry by code, which runs Combo1_Click as a pick by the user does.
     void fixer_ordre(int index);
@@ -151,8 +147,13 @@ public:
     void nom_enfant_LostFocus();
     void prénom_enfant_LostFocus();
     void Command15_Click();
-    void cmdFermer_Click();
+    void Command6_Click();
     void Timer1_Timer();
+    // Label2_Change to Label11_Change: a help carrier's text becomes the help balloon of its field.
+    void porteur_aide_Change(int index);
+
+    void cmdAjouter_Click() override;
+    void cmdRafraîchir_Click() override;
 
 protected:
     // The Tab key walks the declared order across the pages, turning to the page of the next field.
@@ -174,7 +175,9 @@ private:
     void construire_champs();
     void finir_disposition();
     void poser_tabulation();
+    void lier_colonnes();
     void brancher_handlers();
+    void montrer_paramètres();
 
     QGroupBox* groupe(const QString& nom);
     Grille* grille(const QString& nom);
@@ -184,3 +187,8 @@ private:
     std::vector<Grille> grilles_;
     QList<QWidget*> tabulation_;
 };
+
+// What the command "Gestion du fichier des &Elèves" does besides the preparing rule of every record
+// screen: "000001" in the new row of an empty table, then the letter templates pointed, both on their
+// own screen and in the list of the last tab.
+void étapes_en_plus_élèves(feuille_élève& élève, bool table_vide);

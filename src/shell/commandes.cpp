@@ -1,6 +1,9 @@
 #include "shell/commandes.h"
 
+#include "people/feuille_élève.h"
 #include "shell/MDIForm1.h"
+#include "shell/regle_de_preparation.h"
+#include "store/ouvrir_table.h"
 
 namespace {
 
@@ -18,8 +21,8 @@ const std::vector<LigneDeCommande>& carte_des_commandes() {
         {"menufichierindex1", propre(&MDIForm1::menufichierindex1_Click)},
         {"menufichierindex3", propre(&MDIForm1::menufichierindex3_Click)},
         {"menufichierindex2", propre(&MDIForm1::menufichierindex2_Click)},
-        {"menuenfantsindex2", {}},      // feuille_famille
-        {"menuenfantsindex1", {}},      // feuille_élève
+        {"menuenfantsindex2", {}}, // feuille_famille
+        {"menuenfantsindex1", préparer<feuille_élève>(&ouvrir_table_élèves, &étapes_en_plus_élèves)},
         {"menuexploitationindex3", {}}, // feuille_traitements
         {"menuexploitationindex4", {}}, // spreadsheet export
         {"menuparamètresindex1", {}},   // feuille_inspection

@@ -1,6 +1,8 @@
 #include "store/ouvrir_table.h"
 
+#include "people/feuille_élève.h"
 #include "platform/errors/ErrorBoxes.h"
+#include "reports/feuille_documents.h"
 #include "store/feuille_choix_base.h"
 
 #include <functional>
@@ -22,4 +24,14 @@ void pointer_source(DataControl& source, const QString& sql, SiÉchec échec) {
 
 void ouvrir_table_passe_choix() {
     ouvrir_table<feuille_choix_base>(QStringLiteral("SELECT * FROM passe"), SiÉchec::boîte_standard);
+}
+
+void ouvrir_table_élèves() {
+    feuille_élève& élève =
+        ouvrir_table<feuille_élève>(QStringLiteral("SELECT * FROM élèves ORDER BY matricule ASC"));
+    pointer_source(*élève.Data1, QStringLiteral("SELECT * FROM paramètres"));
+}
+
+void ouvrir_table_documents() {
+    ouvrir_table<feuille_documents>(QStringLiteral("SELECT * FROM documents"));
 }
