@@ -7,20 +7,27 @@
 #include <QEvent>
 #include <QFile>
 
-void ScriptedTest::SetUp() {
+ScriptedSession::ScriptedSession() : ui_(std::make_shared<ScriptedInteraction>()) {
     module1().réinitialiser();
-    ui_ = std::make_shared<ScriptedInteraction>();
+    processDeletions();
     module1().setInteraction(ui_);
 }
 
-void ScriptedTest::TearDown() {
-    module1().réinitialiser();
+ScriptedSession::~ScriptedSession() {
+    module1().réinitialiser(); // the last owner of the scripted user is now ui_, which reports unused answers
     processDeletions();
-    ui_.reset(); // reports answers left unused
 }
 
-void ScriptedTest::processDeletions() {
+void processDeletions() {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void ScriptedTest::SetUp() {
+    session_ = std::make_unique<ScriptedSession>();
+}
+
+void ScriptedTest::TearDown() {
+    session_.reset();
 }
 
 WorkFolder::WorkFolder() : dir_(QDir::tempPath() + QStringLiteral("/norvane-XXXXXX")) {

@@ -7,19 +7,35 @@
 #include <gtest/gtest.h>
 #include <memory>
 
-// Runs a test with the program in its start state and the scripted user in place of the dialogs; the
-// state is reset again afterwards, screens included.
+// For its lifetime: the program in its start state, with the scripted user in place of the dialogs.
+// At its end the state is reset again, screens included, and unused answers fail the test.
+class ScriptedSession {
+public:
+    ScriptedSession();
+    ~ScriptedSession();
+    ScriptedSession(const ScriptedSession&) = delete;
+    ScriptedSession& operator=(const ScriptedSession&) = delete;
+
+    ScriptedInteraction& ui() { return *ui_; }
+
+private:
+    std::shared_ptr<ScriptedInteraction> ui_;
+};
+
+// Runs the deferred destruction of unloaded screens.
+void processDeletions();
+
+// A test fixture holding a ScriptedSession from SetUp to TearDown.
 class ScriptedTest : public ::testing::Test {
 protected:
     void SetUp() override;
     void TearDown() override;
 
-    ScriptedInteraction& ui() { return *ui_; }
-    // Runs the deferred destruction of unloaded screens.
-    static void processDeletions();
+    ScriptedInteraction& ui() { return session_->ui(); }
+    static void processDeletions() { ::processDeletions(); }
 
 private:
-    std::shared_ptr<ScriptedInteraction> ui_;
+    std::unique_ptr<ScriptedSession> session_;
 };
 
 // A fresh empty work folder, removed with everything in it at the end of the test.

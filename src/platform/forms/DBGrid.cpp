@@ -12,8 +12,8 @@
 #include <QStyledItemDelegate>
 #include <vector>
 
-// The lines of the grid: the row set's rows by position (a deleted row stays as a hidden line), then
-// the empty new row. Typed cells go to the data control's row buffer, which writes them.
+// The lines of the grid: the row set's live rows by position, then the empty new row. Typed cells go to the
+// data control's row buffer, which writes them.
 class GridModel : public QAbstractTableModel {
 public:
     explicit GridModel(DBGrid& grid) : QAbstractTableModel(&grid), grid_(grid) {}
@@ -23,7 +23,7 @@ public:
         QString heading;
     };
     std::vector<Column> columns;
-    int lines = 0; // rows of the row set as last counted, holes included
+    int lines = 0; // rows of the row set as last counted
 
     bool open() const { return grid_.source_ && grid_.source_->isOpen(); }
     Recordset* rs() const { return open() ? &grid_.source_->Recordset().raw() : nullptr; }
@@ -234,22 +234,14 @@ void DBGrid::rowsOfSourceChanged() {
     const bool wasSyncing = syncing_;
     syncing_ = true;
     model_->grow();
-    hideDeletedRows();
     syncing_ = wasSyncing;
 }
 
 void DBGrid::reopened() {
     syncing_ = true;
     model_->reset();
-    hideDeletedRows();
     syncing_ = false;
     followDataControl();
-}
-
-void DBGrid::hideDeletedRows() {
-    Recordset* rs = model_->rs();
-    for (int row = 0; row < model_->lines; ++row)
-        setRowHidden(row, rs && rs->isDeletedAt(row));
 }
 
 void DBGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {

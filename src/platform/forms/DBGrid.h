@@ -46,7 +46,6 @@ private:
     void leaveRow(int from, int to);
     void deleteCurrentRow();
     void setCurrentLine(int row, int column);
-    void hideDeletedRows();
 
     QPointer<DataControl> source_;
     GridModel* model_ = nullptr; // child of this grid

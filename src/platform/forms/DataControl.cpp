@@ -71,7 +71,7 @@ DataControl::DataControl(QWidget* parent) : QWidget(parent) {
     layout->setSpacing(0);
     auto arrow = [this, layout](const char* name, Qt::ArrowType type, bool bar, void (DataControl::*move)()) {
         auto* button = new QToolButton(this);
-        button->setObjectName(QString::fromLatin1(name));
+        button->setObjectName(QString::fromUtf8(name));
         button->setArrowType(type);
         button->setText(bar ? QStringLiteral("|") : QString());
         button->setToolButtonStyle(bar ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);

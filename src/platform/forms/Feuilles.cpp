@@ -52,6 +52,30 @@ bool Feuilles::unload(Feuille& feuille) {
     return true;
 }
 
+bool Feuilles::toutDécharger() {
+    std::vector<QPointer<Feuille>> ordre;
+    for (Feuille* f : chargées())
+        ordre.insert(ordre.begin(), f);
+    for (const auto& f : ordre) {
+        int cancel = 0;
+        if (f)
+            f->Form_QueryUnload(cancel);
+        if (cancel != 0)
+            return false;
+    }
+    for (const auto& f : ordre) {
+        if (!f || !contient(f.data()))
+            continue;
+        f->exécuterAvantDéchargement();
+        int cancel = 0;
+        f->Form_Unload(cancel);
+        if (cancel != 0)
+            return false;
+        oublier(*f);
+    }
+    return true;
+}
+
 void Feuilles::oublier(Feuille& feuille) {
     const auto it = std::find_if(entrées_.begin(), entrées_.end(),
                                  [&](const Entrée& e) { return e.feuille.data() == &feuille; });

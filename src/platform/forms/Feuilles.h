@@ -40,6 +40,11 @@ public:
         return f == nullptr || unload(*f);
     }
 
+    // The end of the main window: every screen's Form_QueryUnload first, the last loaded first; if none
+    // cancels, each is unloaded in the same order. False, with every screen left loaded, on a cancel
+    // in a Form_QueryUnload; false, with the screens before it gone, on a cancel in a Form_Unload.
+    bool toutDécharger();
+
     // The main window's area, where child screens go. Without one, they are plain hidden windows.
     void setMdiArea(QMdiArea* area) { zone_ = area; }
     QMdiArea* mdiArea() const { return zone_; }

@@ -137,7 +137,8 @@ TEST_F(FicheTest, a_write_by_code_into_a_bound_box_is_an_edit) {
 
 TEST_F(FicheTest, a_check_box_writes_a_boolean_and_a_date_is_typed_as_jj_mm_aaaa) {
     auto& f = ouvrir();
-    QTest::mouseClick(f.actif, Qt::LeftButton);
+    f.actif->setFocus();
+    QTest::keyClick(f.actif, Qt::Key_Space);
     EXPECT_FALSE(f.actif->isChecked());
     f.naissance->selectAll();
     QTest::keyClicks(f.naissance, "25/12/2016");

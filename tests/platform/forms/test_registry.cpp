@@ -232,3 +232,28 @@ TEST_F(Registry, AScreenDestroyedBehindTheRegistryIsLoadedAfresh) {
     EXPECT_FALSE(feuilles().isLoaded<feuille_options_essai>());
     EXPECT_EQ(feuilles().get<feuille_options_essai>().loads, 1);
 }
+
+TEST_F(Registry, UnloadingEverythingAsksEveryScreenFirstThenUnloadsTheLastLoadedFirst) {
+    auto& options = feuilles().get<feuille_options_essai>();
+    feuilles().get<feuille_login_essai>();
+    options.refuseQuery = 1;
+    journal.clear();
+    EXPECT_FALSE(feuilles().toutDécharger());
+    EXPECT_EQ(journal, (QStringList{"Form_QueryUnload"}));
+    EXPECT_EQ(feuilles().chargées().size(), 2u);
+
+    options.refuseQuery = 0;
+    journal.clear();
+    EXPECT_TRUE(feuilles().toutDécharger());
+    EXPECT_EQ(journal, (QStringList{"Form_QueryUnload", "écriture", "Form_Unload"}));
+    EXPECT_TRUE(feuilles().chargées().empty());
+}
+
+TEST_F(Registry, UnloadingEverythingStopsAtAFormUnloadThatCancels) {
+    auto& options = feuilles().get<feuille_options_essai>();
+    feuilles().get<feuille_login_essai>();
+    options.refuseUnload = 1;
+    EXPECT_FALSE(feuilles().toutDécharger());
+    EXPECT_FALSE(feuilles().isLoaded<feuille_login_essai>());
+    EXPECT_TRUE(feuilles().isLoaded<feuille_options_essai>());
+}

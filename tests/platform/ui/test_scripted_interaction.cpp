@@ -109,3 +109,25 @@ TEST(ScriptedInteraction, AnUnexpectedModalScreenFailsTheTest) {
     feuille_essai f;
     EXPECT_NONFATAL_FAILURE(ui.showModal(f), "feuille_essai");
 }
+
+#include "platform/forms/Module1.h"
+#include "support/Fixtures.h"
+
+TEST(ScriptedSession, InstallsTheScriptedUserForItsLifetimeOnly) {
+    {
+        ScriptedSession session;
+        EXPECT_EQ(&module1().interaction(), &session.ui());
+        session.ui().expectMsgBox(vbYes);
+        EXPECT_EQ(module1().interaction().MsgBox(QStringLiteral("Sûr ?"), vbYesNo), vbYes);
+    }
+    EXPECT_EQ(dynamic_cast<ScriptedInteraction*>(&module1().interaction()), nullptr);
+}
+
+TEST(ScriptedSession, UnusedAnswersFailTheTestAtItsEnd) {
+    EXPECT_NONFATAL_FAILURE(
+        {
+            ScriptedSession session;
+            session.ui().expectMsgBox(vbOK);
+        },
+        "jamais demandée");
+}
