@@ -294,6 +294,22 @@ TEST_F(FicheEleveSurBase, DeletingTheOnlyPupilShowsTheNoCurrentRecordBoxAndKeeps
     EXPECT_TRUE(module1().feuilles().isLoaded<feuille_élève>());
 }
 
+TEST_F(FicheEleveSurBase, ADuplicateMatriculeRefusedByTheFileIsSilentOnAMoveAndReportedOnSave) {
+    sql_direct(base, u("CREATE UNIQUE INDEX matricule_unique ON élèves (matricule)"));
+    ajouter_élève(base, u("000001"), u("UN"));
+    ajouter_élève(base, u("000002"), u("DEUX"));
+    feuille_élève& f = ouvrir();
+    f.matricule->setText(u("000002"));
+    cliquer(*f.datPrimaryRS, u("suivant"));
+    EXPECT_TRUE(ui().boxes().empty());
+    EXPECT_EQ(matricules(), (QStringList{u("000001"), u("000002")}));
+
+    ui().expectMsgBox(vbOK);
+    cliquer(f, u("cmdMettreàjour"));
+    EXPECT_TRUE(ui().lastBox().text.startsWith(u("Le logiciel a rencontré l'erreur : 3022\n\n")));
+    EXPECT_EQ(matricules(), (QStringList{u("000001"), u("000002")}));
+}
+
 TEST_F(FicheEleveSurBase, ClosingWithAnEditWritesIt) {
     ajouter_élève(base, u("000001"), u("DUPONT"));
     feuille_élève& f = ouvrir();
