@@ -17,6 +17,7 @@
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QMenuBar>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -140,7 +141,9 @@ MDIForm1::MDIForm1() : Feuille(QStringLiteral("MDIForm1"), Genre::haut_niveau) {
     disposition->addWidget(fenêtre);
     construire_menus();
     construire_barre_d_état();
-    resize(1100, 780);
+    if (const QScreen* écran = QGuiApplication::primaryScreen())
+        setGeometry(écran->availableGeometry());
+    setWindowState(Qt::WindowMaximized);
     module1().feuilles().setMdiArea(zone);
 }
 
@@ -167,7 +170,7 @@ void MDIForm1::construire_menus() {
                 sous_menu->menuAction()->setObjectName(dernière->objectName());
                 menu_du_haut->insertMenu(dernière, sous_menu);
                 menu_du_haut->removeAction(dernière);
-                dernière->deleteLater();
+                delete dernière;
             }
             cible = sous_menu;
         } else {
@@ -284,7 +287,7 @@ void MDIForm1::Form_Unload(int&) {
     for (Feuille* f : feuilles.chargées())
         if (f != this)
             en_silence([&] { feuilles.unload(*f); });
-    QCoreApplication::quit();
+    QCoreApplication::exit(0);
 }
 
 void MDIForm1::menufichierindex1_Click() {

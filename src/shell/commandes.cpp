@@ -1,6 +1,8 @@
 #include "shell/commandes.h"
 
 #include "people/feuille_élève.h"
+#include "reference/feuille_sexe.h"
+#include "reports/feuille_documents.h"
 #include "shell/MDIForm1.h"
 #include "shell/regle_de_preparation.h"
 #include "store/ouvrir_table.h"
@@ -28,28 +30,28 @@ const std::vector<LigneDeCommande>& carte_des_commandes() {
         {"menuparamètresindex1", {}},   // feuille_inspection
         {"menuparamètresindex2", {}},   // feuille_école
         {"menuparamètresindex3", {}},   // feuille_équipe
-        {"menuparamètresindex4", {}},   // feuille_documents
-        {"menuparamètresindex5", {}},   // feuille_paramètres
-        {"menuparamètresindex22", {}},  // feuille_accès
-        {"menuparamètresindex6", {}},   // feuille_adresses
-        {"menuparamètresindex7", {}},   // feuille_assurances
-        {"menuparamètresindex23", {}},  // feuille_assertions
-        {"menuparamètresindex8", {}},   // feuille_csp
-        {"menuparamètresindex19", {}},  // feuille_genres
-        {"menuparamètresindex9", {}},   // feuille_hôpitaux
-        {"menuparamètresindex13", {}},  // feuille_langues_vivantes
-        {"menuparamètresindex12", {}},  // feuille_médecins
-        {"menuparamètresindex15", {}},  // feuille_nationalités
-        {"menuparamètresindex18", {}},  // feuille_niveaux
-        {"menuparamètresindex14", {}},  // feuille_sexe
-        {"menuparamètresindex17", {}},  // feuille_situations_familiales
-        {"menuparamètresindex16", {}},  // feuille_villes
-        {"menuutilitairesindex1", {}},  // emptying the families
-        {"menuutilitairesindex2", {}},  // emptying the pupils
-        {"menuutilitairesindex3", {}},  // emptying the lookup tables
-        {"menuutilitairesindex4", {}},  // gateway export
-        {"menuoptionsindex1", {}},      // feuille_options, on view
-        {"menuaideindex1", {}},         // feuille_copyright
+        {"menuparamètresindex4", préparer<feuille_documents>(ouvrir_table_documents)},
+        {"menuparamètresindex5", {}},  // feuille_paramètres
+        {"menuparamètresindex22", {}}, // feuille_accès
+        {"menuparamètresindex6", {}},  // feuille_adresses
+        {"menuparamètresindex7", {}},  // feuille_assurances
+        {"menuparamètresindex23", {}}, // feuille_assertions
+        {"menuparamètresindex8", {}},  // feuille_csp
+        {"menuparamètresindex19", {}}, // feuille_genres
+        {"menuparamètresindex9", {}},  // feuille_hôpitaux
+        {"menuparamètresindex13", {}}, // feuille_langues_vivantes
+        {"menuparamètresindex12", {}}, // feuille_médecins
+        {"menuparamètresindex15", {}}, // feuille_nationalités
+        {"menuparamètresindex18", {}}, // feuille_niveaux
+        {"menuparamètresindex14", préparer<feuille_sexe>(ouvrir_table_sexe)},
+        {"menuparamètresindex17", {}}, // feuille_situations_familiales
+        {"menuparamètresindex16", {}}, // feuille_villes
+        {"menuutilitairesindex1", {}}, // emptying the families
+        {"menuutilitairesindex2", {}}, // emptying the pupils
+        {"menuutilitairesindex3", {}}, // emptying the lookup tables
+        {"menuutilitairesindex4", {}}, // gateway export
+        {"menuoptionsindex1", {}},     // feuille_options, on view
+        {"menuaideindex1", {}},        // feuille_copyright
     };
     return carte;
 }

@@ -9,6 +9,8 @@ class QWidget;
 // whatever holds the focus.
 void montrer_active(Feuille& feuille);
 void cliquer(QWidget& racine, const QString& nom);
+// Keys typed into one control, accented letters included.
+void taper(QWidget* cible, const QString& texte);
 void taper_au_focus(const QString& texte);
 void touche_au_focus(int touche);
 QWidget* focus_actuel();

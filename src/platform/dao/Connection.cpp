@@ -71,27 +71,8 @@ bool has_sqlite_header(const QString& path) {
 } // namespace
 
 [[noreturn]] void fail_with_path(int number, const QString& path) {
-    const QString native = QDir::toNativeSeparators(path);
-    switch (number) {
-    case 3024:
-        throw VbError(3024, QStringLiteral("Fichier '%1' introuvable.").arg(native));
-    case 3044:
-        throw VbError(3044, QStringLiteral("'%1' n'est pas un chemin d'accès valide. Vérifiez que le chemin "
-                                           "d'accès est correctement entré.")
-                                .arg(QDir::toNativeSeparators(QFileInfo(path).absolutePath())));
-    case 3045:
-        throw VbError(3045, QStringLiteral("Impossible d'utiliser '%1' ; fichier déjà utilisé.").arg(native));
-    case 3051:
-        throw VbError(3051,
-                      QStringLiteral("Le moteur de base de données ne peut pas ouvrir le fichier '%1'. Il "
-                                     "est déjà ouvert en mode exclusif par un autre utilisateur, ou vous "
-                                     "devez avoir l'autorisation de visualiser ses données.")
-                          .arg(native));
-    case 3343:
-        throw VbError(3343, QStringLiteral("Format de base de données '%1' non reconnu.").arg(native));
-    default:
-        throw VbError(number);
-    }
+    const QString shown = number == 3044 ? QFileInfo(path).absolutePath() : path;
+    throw VbError::avec(number, {QDir::toNativeSeparators(shown)});
 }
 
 int TableInfo::indexOf(const QString& column) const {
@@ -306,21 +287,15 @@ void Connection::fail(int rc, int syntaxError, const QString& sqlText) const {
     }
     if (message.startsWith(u"no such table")) {
         const QString table = message.section(u':', 1).trimmed();
-        throw VbError(3078,
-                      QStringLiteral("Le moteur de base de données ne trouve pas la table ou la requête "
-                                     "source '%1'.")
-                          .arg(table));
+        throw VbError::avec(3078, {table});
     }
     if (message.startsWith(u"no such column")) {
         if (syntaxError == 3077)
-            throw VbError(3070,
-                          QStringLiteral("Le moteur de base de données ne reconnaît pas '%1' en tant que nom "
-                                         "de champ ou expression valide.")
-                              .arg(message.section(u':', 1).trimmed()));
-        throw VbError(3061);
+            throw VbError::avec(3070, {message.section(u':', 1).trimmed()});
+        throw VbError::avec(3061, {QStringLiteral("1")});
     }
     if (syntaxError == 3075)
-        throw VbError(3075, QStringLiteral("Erreur de syntaxe dans l'expression '%1'.").arg(sqlText));
+        throw VbError::avec(3075, {sqlText});
     throw VbError(syntaxError);
 }
 
@@ -334,10 +309,7 @@ const TableInfo& Connection::table(const QString& name) {
             if (t.compare(name, Qt::CaseInsensitive) == 0)
                 actual = t;
     if (actual.isEmpty())
-        throw VbError(3078,
-                      QStringLiteral("Le moteur de base de données ne trouve pas la table ou la requête "
-                                     "source '%1'.")
-                          .arg(name));
+        throw VbError::avec(3078, {name});
     if (auto it = tables_.find(actual); it != tables_.end())
         return it->second;
 

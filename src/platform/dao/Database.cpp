@@ -38,7 +38,7 @@ int Database::Execute(const QString& jetSql) {
     try {
         sql = dao::translate_statement(jetSql);
     } catch (const dao::JetSyntaxError&) {
-        throw VbError(3075, QStringLiteral("Erreur de syntaxe dans l'expression '%1'.").arg(jetSql));
+        throw VbError::avec(3075, {jetSql});
     }
     if (first_word(jetSql) == u"select")
         throw VbError(3065);
@@ -110,11 +110,4 @@ void CompactDatabase(const QString& source, const QString& target) {
         throw;
     }
     connection->close();
-}
-
-bool fichier_en_usage(const QString& path) {
-    if (!QFileInfo::exists(path))
-        return false;
-    dao::FileLock probe;
-    return probe.acquire(path, dao::FileLock::Mode::Exclusive) == dao::FileLock::Result::InUse;
 }

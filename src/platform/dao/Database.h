@@ -56,7 +56,3 @@ private:
 // 3343 if it is no database, 3044 if target's folder does not exist, 3204 if target exists, and 3045
 // ("already in use") if anybody, in this program or another, holds source open.
 void CompactDatabase(const QString& source, const QString& target);
-
-// True while any Database, in this process or another, holds the file open. The file layer asks this
-// before Kill or FileCopy onto a base, and refuses with 70 "Permission refusée".
-bool fichier_en_usage(const QString& path);

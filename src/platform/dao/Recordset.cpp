@@ -164,7 +164,7 @@ public:
         try {
             query = parse_select(source);
         } catch (const JetSyntaxError&) {
-            throw VbError(3075, QStringLiteral("Erreur de syntaxe dans l'expression '%1'.").arg(source));
+            throw VbError::avec(3075, {source});
         }
         table = db().table(query.table);
         if (query.columns.isEmpty()) {
@@ -174,7 +174,7 @@ public:
             for (const QString& column : query.columns) {
                 const int index = table.indexOf(column);
                 if (index < 0)
-                    throw VbError(3061);
+                    throw VbError::avec(3061, {QStringLiteral("1")});
                 tableColumn.push_back(index);
             }
         }
@@ -191,16 +191,27 @@ public:
         keysSql = QStringLiteral("SELECT rowid FROM %1").arg(from);
         if (!query.where.isEmpty())
             keysSql += QStringLiteral(" WHERE (%1)").arg(query.where);
-        QStringList order;
+        // Case and accents count only between rows whose sort columns are otherwise equal, so that
+        // "DUPONT Léa" and "Dupont Adam" sort on the first name; then accents and case decide, then the
+        // order of writing.
+        QStringList primary, ties;
         for (const OrderTerm& term : query.order) {
             const int index = table.indexOf(term.column);
             if (index < 0)
-                throw VbError(3061);
+                throw VbError::avec(3061, {QStringLiteral("1")});
             const FieldInfo& column = table.columns[index];
-            const bool text = column.type == FieldType::Text || column.type == FieldType::Memo;
-            order << quote_name(column.name) + (text ? QStringLiteral(" COLLATE FR_TRI") : QString()) +
-                         (term.descending ? QStringLiteral(" DESC") : QString());
+            const QString name = quote_name(column.name);
+            const QString direction = term.descending ? QStringLiteral(" DESC") : QString();
+            if (column.type != FieldType::Text && column.type != FieldType::Memo) {
+                primary << name + direction;
+            } else if (query.order.size() == 1) {
+                primary << name + QStringLiteral(" COLLATE FR_TRI") + direction;
+            } else {
+                primary << name + QStringLiteral(" COLLATE FR") + direction;
+                ties << name + QStringLiteral(" COLLATE FR_TRI") + direction;
+            }
         }
+        QStringList order = primary + ties;
         // Equal sort values keep the order of their writing, the same at every opening.
         const bool lastDescending = !query.order.empty() && query.order.back().descending;
         order << (lastDescending ? QStringLiteral("rowid DESC") : QStringLiteral("rowid"));

@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <exception>
+#include <utility>
 
 // The three shapes of error box: an exclamation box with OK and the program's title, whose text is
 // the shape's first piece, the error number in decimal, two line feeds and the error's text. Each
@@ -26,16 +27,22 @@ void message_erreur_données(const std::exception& erreur);
 void message_erreur_logiciel_données(const std::exception& erreur);
 
 // A handler's error trap: runs `body`; on a failure shows the named box (which resets the mouse
-// pointer) and ends there, so the caller goes on. What the body did before the failure stays done.
+// pointer), then runs `après_la_boîte` (the handler's own tidying, such as hiding the wait notice),
+// and ends there, so the caller goes on. What the body did before the failure stays done.
 // Returns true when the body ran to its end.
-template <class F> bool avec_piège(ErrorBoxKind kind, F&& body) {
+template <class F, class G> bool avec_piège(ErrorBoxKind kind, F&& body, G&& après_la_boîte) {
     try {
         body();
         return true;
     } catch (const std::exception& e) {
         message_erreur(kind, vb_error_from(e));
     }
+    après_la_boîte();
     return false;
+}
+
+template <class F> bool avec_piège(ErrorBoxKind kind, F&& body) {
+    return avec_piège(kind, std::forward<F>(body), [] {});
 }
 
 // A trap that ignores the failure without a word, for the few steps that must go on regardless.

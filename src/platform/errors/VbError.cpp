@@ -37,6 +37,7 @@ const std::map<int, const char*>& catalogue() {
         {380, "Valeur de propriété incorrecte"},
         {424, "Objet requis"},
         {481, "Image incorrecte"},
+        {3001, "Argument non valide."},
         {3020, "Update ou CancelUpdate sans AddNew ou Edit."},
         {3021, "Aucun enregistrement en cours."},
         {3022, "Les modifications que vous avez demandées n'ont pas été effectuées car elles créeraient des "
@@ -47,6 +48,7 @@ const std::map<int, const char*>& catalogue() {
         {3026, "Espace disque insuffisant."},
         {3027, "Impossible de mettre à jour. Base de données ou objet en lecture seule."},
         {3031, "Mot de passe non valide."},
+        {3034, "Vous avez tenté de valider ou d'annuler une transaction sans l'avoir commencée."},
         {3043, "Erreur de disque ou de réseau."},
         {3044, "'|' n'est pas un chemin d'accès valide. Assurez-vous que le chemin d'accès est correctement "
                "orthographié."},
@@ -57,6 +59,7 @@ const std::map<int, const char*>& catalogue() {
                "exclusif par un autre utilisateur, ou vous devez avoir l'autorisation de visualiser ses "
                "données."},
         {3061, "Trop peu de paramètres. | attendu."},
+        {3065, "Impossible d'exécuter une requête Sélection."},
         {3070, "Le moteur de base de données ne reconnaît pas '|' comme un nom de champ ou une expression "
                "correcte."},
         {3075, "Erreur de syntaxe (opérateur absent) dans l'expression '|'."},
@@ -68,8 +71,10 @@ const std::map<int, const char*>& catalogue() {
         {3167, "L'enregistrement est supprimé."},
         {3197, "Le moteur de base de données a arrêté le processus car vous et un autre utilisateur tentez "
                "de modifier les mêmes données au même moment."},
+        {3204, "La base de données existe déjà."},
         {3219, "Opération non valide."},
         {3251, "Opération non supportée pour ce type d'objet."},
+        {3260, "Mise à jour impossible ; la base est actuellement verrouillée par un autre utilisateur."},
         {3265, "Élément non trouvé dans cette collection."},
         {3314, "Le champ '|' ne peut pas contenir une valeur Null car la propriété Required de ce champ "
                "est True. Entrez une valeur dans ce champ."},

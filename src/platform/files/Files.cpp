@@ -11,6 +11,7 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
@@ -66,9 +67,20 @@ void exiger_modifiable(const QString& chemin, const struct stat& st) {
         throw VbError(70);
 }
 
+// The runtime's wildcards: * any run of characters, ? one character, nothing else; "*.*" is every file.
 QRegularExpression motif(const QString& nom) {
-    return QRegularExpression(QRegularExpression::wildcardToRegularExpression(
-                                  nom, QRegularExpression::UnanchoredWildcardConversion),
+    if (nom == QStringLiteral("*.*"))
+        return motif(QStringLiteral("*"));
+    QString expression;
+    for (const QChar c : nom) {
+        if (c == u'*')
+            expression += QStringLiteral(".*");
+        else if (c == u'?')
+            expression += u'.';
+        else
+            expression += QRegularExpression::escape(QString(c));
+    }
+    return QRegularExpression(QRegularExpression::anchoredPattern(expression),
                               QRegularExpression::CaseInsensitiveOption);
 }
 
@@ -117,6 +129,20 @@ void copier_contenu(int source, int cible, const QString& chemin_cible) {
             throw VbError(57);
         }
         tout_écrire(cible, tampon, lu, chemin_cible);
+    }
+}
+
+// A new empty file beside `cible`, made with the ordinary permissions of a new file (not those of the
+// source: a copy of a read-only template must be a base the user can write).
+std::pair<QByteArray, int> fichier_à_côté(const QString& cible) {
+    const QString base = QFileInfo(cible).absolutePath() + QStringLiteral("/.copie-%1-%2");
+    for (int essai = 0;; ++essai) {
+        const QByteArray nom = natif(base.arg(::getpid()).arg(essai));
+        const int fd = ::open(nom.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+        if (fd >= 0)
+            return {nom, fd};
+        if (errno != EEXIST)
+            échouer(errno, cible);
     }
 }
 
@@ -176,13 +202,10 @@ void FileCopy(const QString& source, const QString& cible) {
     const Descripteur entrée(::open(natif(source).constData(), O_RDONLY | O_CLOEXEC));
     if (entrée.fd() < 0)
         échouer(errno, source);
-    QByteArray modèle = natif(QFileInfo(cible).absolutePath() + QStringLiteral("/.copie-XXXXXX"));
-    Descripteur sortie(::mkstemp(modèle.data()));
-    if (sortie.fd() < 0)
-        échouer(errno, cible);
+    const auto [modèle, fd] = fichier_à_côté(cible);
+    Descripteur sortie(fd);
     try {
         copier_contenu(entrée.fd(), sortie.fd(), cible);
-        ::fchmod(sortie.fd(), st_source.st_mode & 07777);
         if (::fsync(sortie.fd()) != 0)
             échouer(errno, cible);
         if (::close(sortie.libérer()) != 0)

@@ -9,6 +9,8 @@ class FiltreÉvénements;
 
 // A screen: a widget with its controls as members and its handlers as methods. Screens are created,
 // loaded and unloaded by the screen registry (module1().feuilles()), never by hand.
+// moc cannot read accented class names: a screen such as feuille_élève carries no Q_OBJECT, its
+// handlers are connected through lambdas or member pointers, and it is cast with dynamic_cast.
 class Feuille : public QWidget {
     Q_OBJECT
 public:

@@ -50,7 +50,6 @@ void DriveListBox::setDrive(const QString& lecteur) {
 
 DirListBox::DirListBox(QWidget* parent) : QListWidget(parent), chemin_(chemin_propre(QDir::currentPath())) {
     remplir();
-    connect(this, &QListWidget::itemDoubleClicked, this, &DirListBox::entrer);
     connect(this, &QListWidget::itemActivated, this, &DirListBox::entrer);
 }
 

@@ -25,7 +25,7 @@ private:
 };
 
 // Folder list: the chain of folders from the root down to Path, then the folders inside Path.
-// A double click (or Enter) on an entry moves there; Change fires whenever Path changes.
+// Activating an entry (double click or Enter) moves there; Change fires whenever Path changes.
 class DirListBox : public QListWidget {
     Q_OBJECT
 public:

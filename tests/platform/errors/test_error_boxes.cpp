@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QPushButton>
+#include <QStringList>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest-spi.h>
@@ -166,4 +167,22 @@ TEST_F(ErrorBoxes, UntrappedFailureOfAnotherKindIsStillShown) {
     QCoreApplication::processEvents();
     ASSERT_EQ(ui().boxes().size(), 1u);
     EXPECT_TRUE(ui().lastBox().text.startsWith(QString::fromUtf8("Le logiciel a rencontré l'erreur : 51")));
+}
+
+TEST_F(ErrorBoxes, TrapRunsTheHandlersTidyingAfterTheBoxOnlyOnFailure) {
+    ui().expectMsgBox();
+    QStringList order;
+    avec_piège(
+        ErrorBoxKind::données,
+        [&] {
+            order << "corps";
+            throw VbError(61);
+        },
+        [&] { order << QStringLiteral("après %1 boîte(s)").arg(ui().boxes().size()); });
+    EXPECT_EQ(order, (QStringList{"corps", "après 1 boîte(s)"}));
+
+    order.clear();
+    avec_piège(
+        ErrorBoxKind::données, [&] { order << "corps"; }, [&] { order << "après"; });
+    EXPECT_EQ(order, (QStringList{"corps"}));
 }

@@ -98,6 +98,14 @@ TEST_F(Files, DirWithWildcardsGivesTheFirstMatchInNameOrder) {
     EXPECT_EQ(Dir(folder.file(QStringLiteral("*.rpt"))), QString());
 }
 
+TEST_F(Files, StarDotStarIsEveryFileAndBracketsAreNoWildcards) {
+    folder.write(QStringLiteral("sans_extension"), "x");
+    EXPECT_EQ(Dir(folder.file(QStringLiteral("*.*"))), QStringLiteral("sans_extension"));
+    folder.write(QStringLiteral("[a].mdb"), "x");
+    EXPECT_EQ(Dir(folder.file(QStringLiteral("[a]*"))), QStringLiteral("[a].mdb"));
+    EXPECT_EQ(Dir(folder.file(QStringLiteral("a*"))), QString());
+}
+
 TEST_F(Files, DirKeepsAccentsAndCommasOfNames) {
     const QString path = folder.write(QString::fromUtf8("école, année 2024.mdb"), "x");
     EXPECT_EQ(Dir(path), QString::fromUtf8("école, année 2024.mdb"));
@@ -166,6 +174,16 @@ TEST_F(Files, FileCopyCopiesAndReplaces) {
     FileCopy(source, target);
     EXPECT_EQ(contentOf(target), QByteArray(200000, 'n'));
     EXPECT_EQ(contentOf(source), QByteArray(200000, 'n'));
+}
+
+TEST_F(Files, FileCopyOfAReadOnlyTemplateGivesABaseTheUserCanWrite) {
+    const QString model = folder.write(QStringLiteral("basevide.mdz"), "modèle");
+    makeReadOnly(model);
+    const QString base = folder.file(QStringLiteral("nouvelle.mdb"));
+    FileCopy(model, base);
+    EXPECT_EQ(contentOf(base), "modèle");
+    EXPECT_TRUE(QFileInfo(base).permissions() & QFileDevice::WriteOwner);
+    Kill(base);
 }
 
 TEST_F(Files, FileCopyLeavesNothingAside) {

@@ -8,51 +8,7 @@
 #include <QPlainTextEdit>
 #include <QTabWidget>
 #include <QVBoxLayout>
-#include <sqlite3.h>
-
-namespace {
-
-struct Fichier {
-    sqlite3* db = nullptr;
-    explicit Fichier(const QString& chemin) {
-        if (sqlite3_open(chemin.toUtf8().constData(), &db) != SQLITE_OK)
-            ADD_FAILURE() << "ouverture impossible : " << chemin.toStdString();
-    }
-    ~Fichier() { sqlite3_close(db); }
-};
-
-} // namespace
-
-void sql_direct(const QString& chemin, const QString& sql) {
-    Fichier f(chemin);
-    char* erreur = nullptr;
-    if (sqlite3_exec(f.db, sql.toUtf8().constData(), nullptr, nullptr, &erreur) != SQLITE_OK) {
-        ADD_FAILURE() << "SQL refusé : " << sql.toStdString() << " : " << (erreur ? erreur : "");
-        sqlite3_free(erreur);
-    }
-}
-
-QStringList colonne_du_fichier(const QString& chemin, const QString& table, const QString& colonne) {
-    Fichier f(chemin);
-    QStringList valeurs;
-    sqlite3_stmt* requête = nullptr;
-    const QString sql = QStringLiteral("SELECT \"%1\" FROM \"%2\" ORDER BY rowid").arg(colonne, table);
-    if (sqlite3_prepare_v2(f.db, sql.toUtf8().constData(), -1, &requête, nullptr) != SQLITE_OK) {
-        ADD_FAILURE() << "lecture impossible : " << sql.toStdString();
-        return valeurs;
-    }
-    while (sqlite3_step(requête) == SQLITE_ROW) {
-        const auto* texte = reinterpret_cast<const char*>(sqlite3_column_text(requête, 0));
-        valeurs << (texte ? QString::fromUtf8(texte) : QStringLiteral("<null>"));
-    }
-    sqlite3_finalize(requête);
-    return valeurs;
-}
-
-int écritures_journalisées(const QString& chemin) {
-    return static_cast<int>(
-        colonne_du_fichier(chemin, QStringLiteral("journal"), QStringLiteral("quoi")).size());
-}
+#include "support/BaseDirecte.h"
 
 QString créer_base_essai(const WorkFolder& dossier) {
     const QString chemin = dossier.file(QStringLiteral("essai.mdb"));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/forms/FeuilleFiche.h"
+#include "support/BaseDirecte.h"
 #include "support/Fixtures.h"
 
 #include <QString>
@@ -18,11 +19,6 @@ class QTabWidget;
 // `valeurs` for the grid with three rows, and a log of every UPDATE and INSERT that reaches the file.
 QString créer_base_essai(const WorkFolder& dossier);
 
-// Runs one SQL statement straight on the file (another user, or a test's own change of the schema).
-void sql_direct(const QString& chemin, const QString& sql);
-// The values of one column, in rowid order, read straight from the file.
-QStringList colonne_du_fichier(const QString& chemin, const QString& table, const QString& colonne);
-int écritures_journalisées(const QString& chemin);
 
 // A screen of bound boxes over `fiches`, recording the Validate actions it receives.
 class feuille_essai : public FeuilleFiche {

@@ -116,7 +116,7 @@ TEST_F(FicheTest, typing_then_moving_writes_the_row_and_an_unchanged_row_is_neve
     EXPECT_EQ(écritures_journalisées(base), 0);
 
     f.nom->selectAll();
-    QTest::keyClicks(f.nom, "Alfred");
+    taper(f.nom, "Alfred");
     cliquer(*f.datPrimaryRS, "suivant");
     EXPECT_EQ(noms(), (QStringList{"Alfred", "Bravo", "Charlie"}));
     EXPECT_EQ(écritures_journalisées(base), 1);
@@ -141,7 +141,7 @@ TEST_F(FicheTest, a_check_box_writes_a_boolean_and_a_date_is_typed_as_jj_mm_aaaa
     QTest::keyClick(f.actif, Qt::Key_Space);
     EXPECT_FALSE(f.actif->isChecked());
     f.naissance->selectAll();
-    QTest::keyClicks(f.naissance, "25/12/2016");
+    taper(f.naissance, "25/12/2016");
     cliquer(*f.datPrimaryRS, "suivant");
     EXPECT_EQ(colonne_du_fichier(base, "fiches", "actif").first(), "0");
     EXPECT_EQ(colonne_du_fichier(base, "fiches", "naissance").first(), "2016-12-25");
@@ -213,7 +213,7 @@ TEST_F(FicheTest, ajouter_shows_an_empty_new_row_numbered_0_and_a_move_without_t
 TEST_F(FicheTest, ajouter_then_valider_adds_the_row_and_makes_it_current) {
     auto& f = ouvrir();
     cliquer(f, "cmdAjouter");
-    QTest::keyClicks(f.nom, "Delta");
+    taper(f.nom, "Delta");
     cliquer(f, "cmdMettreàjour");
     EXPECT_EQ(noms(), (QStringList{"Alpha", "Bravo", "Charlie", "Delta"}));
     EXPECT_EQ(légende(f), "Fiche: 4");
@@ -224,7 +224,7 @@ TEST_F(FicheTest, closing_with_an_edited_row_writes_it_without_a_question) {
     auto& f = ouvrir();
     cliquer(*f.datPrimaryRS, "suivant");
     f.nom->selectAll();
-    QTest::keyClicks(f.nom, "Bertrand");
+    taper(f.nom, "Bertrand");
     cliquer(f, "cmdFermer");
     processDeletions();
     EXPECT_FALSE(module1().feuilles().isLoaded<feuille_essai>());
@@ -235,7 +235,7 @@ TEST_F(FicheTest, closing_with_an_edited_row_writes_it_without_a_question) {
 TEST_F(FicheTest, closing_a_new_row_typed_into_adds_it) {
     auto& f = ouvrir();
     cliquer(f, "cmdAjouter");
-    QTest::keyClicks(f.nom, "Echo");
+    taper(f.nom, "Echo");
     f.Unload();
     EXPECT_EQ(noms().last(), "Echo");
 }
@@ -287,7 +287,7 @@ TEST_F(FicheTest, deleting_the_only_row_shows_3021_and_leaves_the_screen_open_on
 TEST_F(FicheTest, a_refused_save_shows_the_box_and_keeps_the_edit_on_screen) {
     auto& f = ouvrir();
     f.naissance->selectAll();
-    QTest::keyClicks(f.naissance, "31/02/2015");
+    taper(f.naissance, "31/02/2015");
     ui().expectMsgBox();
     cliquer(f, "cmdMettreàjour");
     EXPECT_EQ(ui().lastBox().text, texte_erreur(ErrorBoxKind::standard, VbError(3421)));

@@ -6,6 +6,7 @@
 
 #include <QGuiApplication>
 #include <QLabel>
+#include <QMdiArea>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTimer>
@@ -64,7 +65,7 @@ TEST_F(PlacingAScreen, CentrerFeuilleMeasuresTheWholeDisplay) {
     const PositionTwips p = position_centrée(en_twips(screen.width()), en_twips(screen.height()),
                                              en_twips(own.width()), en_twips(own.height()));
     EXPECT_EQ(f.pos(), QPoint(en_pixels(p.left), en_pixels(p.top)));
-    EXPECT_EQ(f.y(), (screen.height() - own.height()) / 2 - 33); // 500 twips is 33.3 pixels
+    EXPECT_NEAR(f.y(), (screen.height() - own.height()) / 2.0 - 500 / twips_par_pixel, 0.5);
 }
 
 TEST_F(PlacingAScreen, CentrerFeuilleHauteIsHigherAndFurtherLeft) {
@@ -72,8 +73,45 @@ TEST_F(PlacingAScreen, CentrerFeuilleHauteIsHigherAndFurtherLeft) {
     centrer_feuille(f);
     const QPoint centred = f.pos();
     centrer_feuille_haute(f);
-    EXPECT_EQ(f.x(), centred.x() - 67); // 1000 twips
-    EXPECT_EQ(f.y(), centred.y() - 67); // 1000 twips more than the 500 above
+    const QSize screen = QGuiApplication::primaryScreen()->geometry().size();
+    const QSize own = f.frameGeometry().size();
+    const PositionTwips p = position_centrée_haute(en_twips(screen.width()), en_twips(screen.height()),
+                                                   en_twips(own.width()), en_twips(own.height()));
+    EXPECT_EQ(f.pos(), QPoint(en_pixels(p.left), en_pixels(p.top)));
+    EXPECT_NEAR(centred.x() - f.x(), 1000 / twips_par_pixel, 1);
+    EXPECT_NEAR(centred.y() - f.y(), 1000 / twips_par_pixel, 1);
+}
+
+TEST_F(PlacingAScreen, ATallScreenGoesAboveTheTopOfTheDisplay) {
+    auto& f = module1().feuilles().get<feuille_placée>();
+    f.resize(300, QGuiApplication::primaryScreen()->geometry().height() + 200);
+    centrer_feuille(f);
+    EXPECT_LT(f.y(), -100);
+}
+
+namespace {
+
+class feuille_enfant : public Feuille {
+public:
+    feuille_enfant() : Feuille(QStringLiteral("feuille_enfant")) { resize(200, 100); }
+};
+
+} // namespace
+
+TEST_F(PlacingAScreen, AChildScreenIsPlacedInTheAreaButMeasuredAgainstTheWholeDisplay) {
+    QMdiArea area;
+    area.resize(300, 200);
+    area.show();
+    module1().feuilles().setMdiArea(&area);
+    auto& f = module1().feuilles().get<feuille_enfant>();
+    centrer_feuille(f);
+    const QSize screen = QGuiApplication::primaryScreen()->geometry().size();
+    const QSize own = f.conteneur().frameGeometry().size();
+    const PositionTwips p = position_centrée(en_twips(screen.width()), en_twips(screen.height()),
+                                             en_twips(own.width()), en_twips(own.height()));
+    EXPECT_EQ(f.conteneur().pos(), QPoint(en_pixels(p.left), en_pixels(p.top)));
+    EXPECT_GT(f.conteneur().x() + own.width(), area.width()); // not clipped to the area
+    module1().feuilles().toutDétruire();
 }
 
 TEST(Colours, StoredWithBlueInTheHighByte) {

@@ -1,0 +1,110 @@
+// The criteria the screens build find what a user expects, and fail as the engine does on a stray quote.
+#include "platform/dao/StoreTestSupport.h"
+
+namespace {
+
+class Criteria : public StoreTest {
+protected:
+    void SetUp() override {
+        addPupil("000042", "DUPONT", "Léa");
+        addPupil("000007", "Martin", "Hugo");
+        addPupil("000142", "Dupuis", "Zoé");
+        addPupil("000043", "Dupont", "Adam");
+        pupils = db->OpenRecordset("SELECT * FROM élèves ORDER BY nom_élève ASC, prénom_élève ASC");
+    }
+    std::unique_ptr<Recordset> pupils;
+
+    QString found(const QString& criterion) {
+        pupils->MoveFirst();
+        pupils->FindFirst(criterion);
+        return pupils->NoMatch() ? QStringLiteral("aucun") : pupils->field("prénom_élève").toString();
+    }
+};
+
+TEST_F(Criteria, MatriculeIsMatchedWholeUnlessAWildcardIsTyped) {
+    EXPECT_EQ(found("matricule like '42'"), "aucun");
+    EXPECT_EQ(found("matricule like '000042'"), "Léa");
+    EXPECT_EQ(found("matricule like '*42'"), "Léa"); // first in alphabetical order: DUPONT Léa before Dupuis
+    EXPECT_EQ(found("matricule like '0001?2'"), "Zoé");
+}
+
+TEST_F(Criteria, NamePrefixFindsTheFirstInThePresentOrderWhateverTheCase) {
+    EXPECT_EQ(found("nom_élève like 'dup*'"), "Adam");
+    EXPECT_EQ(found("nom_élève like 'DUPU*'"), "Zoé");
+    EXPECT_EQ(found("nom_élève like 'Mart*'"), "Hugo");
+    EXPECT_EQ(found("nom_élève like 'Durand*'"), "aucun");
+}
+
+TEST_F(Criteria, ANameSearchInAnotherOrderStopsAtThatOrdersFirst) {
+    pupils = db->OpenRecordset("SELECT * FROM élèves ORDER BY matricule DESC");
+    EXPECT_EQ(found("nom_élève like 'dupont*'"), "Adam"); // 000043 comes before 000042
+}
+
+TEST_F(Criteria, FailedSearchLeavesTheCurrentRowAndSetsNoMatch) {
+    pupils->MoveLast();
+    pupils->FindFirst("nom_élève like 'Zz*'");
+    EXPECT_TRUE(pupils->NoMatch());
+    EXPECT_EQ(pupils->field("prénom_élève").toString(), "Hugo");
+    pupils->FindFirst("nom_élève like 'Dupuis*'");
+    EXPECT_FALSE(pupils->NoMatch());
+}
+
+TEST_F(Criteria, EqualityOnTextIgnoresCaseAndAccents) {
+    auto documents = db->OpenRecordset("documents");
+    documents->FindFirst("intitulé_bouton = \"Réunion de parents\"");
+    ASSERT_FALSE(documents->NoMatch());
+    EXPECT_EQ(documents->field("titre_document").toString(), "INVITATION À LA RÉUNION DE PARENTS");
+    documents->MoveFirst();
+    documents->FindFirst("intitulé_bouton = \"REUNION DE PARENTS\"");
+    EXPECT_FALSE(documents->NoMatch());
+    documents->FindFirst("intitulé_bouton = \"Réunion\"");
+    EXPECT_TRUE(documents->NoMatch());
+}
+
+TEST_F(Criteria, FamilyReferenceSearchesInBothQuotings) {
+    add("familles", {{"référence_famille", "000012"}, {"nom_responsable_légal", "Perrin"}});
+    add("familles", {{"référence_famille", "000013"}, {"nom_responsable_légal", "Roux"}});
+    auto familles = db->OpenRecordset("SELECT * FROM familles");
+    familles->FindFirst("référence_famille LIKE \"000013\"");
+    EXPECT_EQ(familles->field("nom_responsable_légal").toString(), "Roux");
+    familles->FindFirst("référence_famille = \"000012\"");
+    EXPECT_EQ(familles->field("nom_responsable_légal").toString(), "Perrin");
+    familles->FindFirst("référence_famille like '00001*'");
+    EXPECT_EQ(familles->field("nom_responsable_légal").toString(), "Perrin");
+}
+
+TEST_F(Criteria, AnApostropheInTheAnswerIsASyntaxErrorInTheCriterion) {
+    pupils->MoveLast();
+    EXPECT_EQ(error_of([&] { pupils->FindFirst("nom_élève like 'D'ARC*'"); }), 3077);
+    EXPECT_EQ(error_of([&] { pupils->FindFirst("matricule like 'O'Brien'"); }), 3077);
+    EXPECT_EQ(pupils->field("prénom_élève").toString(), "Hugo");
+}
+
+TEST_F(Criteria, MalformedCriteriaAreSyntaxErrorsAndNothingRunsBeyondThem) {
+    EXPECT_EQ(error_of([&] { pupils->FindFirst("nom_élève like"); }), 3077);
+    EXPECT_EQ(error_of([&] { pupils->FindFirst("(nom_élève = 'a'"); }), 3077);
+    EXPECT_EQ(error_of([&] { pupils->FindFirst("nom_élève = 'a'; DELETE FROM élèves"); }), 3077);
+    EXPECT_EQ(error_of([&] { pupils->FindFirst(""); }), 3077);
+    EXPECT_EQ(db->OpenRecordset("élèves")->RecordCount(), 4);
+}
+
+TEST_F(Criteria, AnUnknownColumnInACriterionIsNamed) {
+    try {
+        pupils->FindFirst("nom_eleve like 'a*'");
+        FAIL();
+    } catch (const VbError& e) {
+        EXPECT_EQ(e.number(), 3070);
+        EXPECT_TRUE(e.description().contains("nom_eleve"));
+    }
+}
+
+TEST_F(Criteria, BooleanCriteriaUseTrueAndFalse) {
+    add("élèves", {{"matricule", "000500"}, {"nom_élève", "Aîné"}, {"ainé", true}});
+    auto rs = db->OpenRecordset("SELECT * FROM élèves WHERE ainé = True");
+    EXPECT_EQ(values(*rs, "nom_élève"), QStringList{"Aîné"});
+    EXPECT_EQ(db->OpenRecordset("SELECT * FROM élèves WHERE ainé = False")->RecordCount(), 4);
+    pupils->FindFirst("ainé = True");
+    EXPECT_TRUE(pupils->NoMatch()); // the recordset's keys were fixed before the row was added
+}
+
+} // namespace

@@ -1,0 +1,101 @@
+// The Jet dialect of the program's statements, read by the store's own tokenizer.
+#include "platform/dao/StoreTestSupport.h"
+
+#include "platform/dao/JetSql.h"
+
+namespace {
+
+using dao::parse_select;
+using dao::translate_statement;
+
+TEST(Dialect, DoubleQuotedTextIsAStringNeverAColumn) {
+    EXPECT_EQ(translate_statement("SELECT * FROM sexe WHERE détails LIKE \"nom_élève\""),
+              "SELECT * FROM sexe WHERE détails LIKE 'nom_élève'");
+    EXPECT_EQ(translate_statement("SELECT * FROM a WHERE b = \"il dit \"\"oui\"\"\""),
+              "SELECT * FROM a WHERE b = 'il dit \"oui\"'");
+    EXPECT_EQ(translate_statement("SELECT * FROM a WHERE b = \"l'école\""),
+              "SELECT * FROM a WHERE b = 'l''école'");
+}
+
+TEST(Dialect, BracketsNameTablesAndColumns) {
+    EXPECT_EQ(translate_statement("select * from [école]"), "select * from \"école\"");
+    EXPECT_EQ(translate_statement("SELECT [nom de \"x\"] FROM t"), "SELECT \"nom de \"\"x\"\"\" FROM t");
+}
+
+TEST(Dialect, DeleteStarFromAndBooleans) {
+    EXPECT_EQ(translate_statement("DELETE * FROM élèves"), "DELETE FROM élèves");
+    EXPECT_EQ(translate_statement("delete élèves.* from élèves"), "delete from élèves");
+    EXPECT_EQ(translate_statement("UPDATE élèves SET ainé = True WHERE ainé = false"),
+              "UPDATE élèves SET ainé = 1 WHERE ainé = 0");
+}
+
+TEST(Dialect, DatesAndConcatenation) {
+    EXPECT_EQ(translate_statement("SELECT * FROM t WHERE d < #9/1/2015#"),
+              "SELECT * FROM t WHERE d < '2015-09-01'");
+    EXPECT_EQ(translate_statement("SELECT a & \"x\" FROM t"), "SELECT a || 'x' FROM t");
+}
+
+TEST(Dialect, MalformedTextIsASyntaxError) {
+    for (const char* wrong :
+         {"SELECT * FROM t WHERE a = \"x", "SELECT * FROM [t", "SELECT * FROM t WHERE (a = 1",
+          "SELECT * FROM t; DELETE FROM t", "SELECT * FROM t WHERE a = ?", "SELECT #x# FROM t"}) {
+        SCOPED_TRACE(wrong);
+        EXPECT_THROW(translate_statement(wrong), dao::JetSyntaxError);
+    }
+    EXPECT_EQ(translate_statement("DELETE * FROM villes;"), "DELETE FROM villes");
+}
+
+TEST(Dialect, SelectsAreReadIntoTableColumnsCriterionAndOrder) {
+    const auto q =
+        parse_select("SELECT * FROM familles ORDER BY nom_responsable_légal DESC, prénom_responsable_légal");
+    EXPECT_EQ(q.table, "familles");
+    EXPECT_TRUE(q.columns.isEmpty());
+    ASSERT_EQ(q.order.size(), 2u);
+    EXPECT_TRUE(q.order[0].descending);
+    EXPECT_FALSE(q.order[1].descending);
+    const auto w = parse_select("SELECT détails FROM situations_familiales WHERE détails LIKE \"a*\"");
+    EXPECT_EQ(w.columns, QStringList{"détails"});
+    EXPECT_EQ(w.where, "détails LIKE 'a*'");
+    EXPECT_EQ(parse_select("[paramètres]").table, "paramètres");
+    EXPECT_THROW(parse_select("SELECT * FROM a, b"), dao::JetSyntaxError);
+    EXPECT_THROW(parse_select("SELECT * FROM a GROUP BY x"), dao::JetSyntaxError);
+}
+
+class Execute : public StoreTest {};
+
+TEST_F(Execute, ReportsTheRowsItChangedInOneTransaction) {
+    for (int i = 0; i < 3; ++i)
+        add("villes", {{"détails", QString("Ville %1").arg(i)}});
+    EXPECT_EQ(db->Execute("UPDATE villes SET code_postal = \"69000\" WHERE détails LIKE \"Ville [01]\""), 2);
+    EXPECT_EQ(db->Execute("DELETE * FROM villes"), 3);
+}
+
+TEST_F(Execute, ErrorsCarryJetNumbers) {
+    EXPECT_EQ(error_of([&] { db->Execute("DELETE * FROM inexistante"); }), 3078);
+    EXPECT_EQ(error_of([&] { db->Execute("DELETE * FROM villes WHERE inconnue = 1"); }), 3061);
+    EXPECT_EQ(error_of([&] { db->Execute("DELETE * FORM villes"); }), 3075);
+    EXPECT_EQ(error_of([&] { db->Execute("SELECT * FROM villes"); }), 3065);
+    EXPECT_EQ(error_of([&] { db->OpenRecordset("SELECT * FROM inexistante"); }), 3078);
+    EXPECT_EQ(error_of([&] { db->OpenRecordset("SELECT * FROM villes ORDER BY inconnue"); }), 3061);
+    EXPECT_EQ(error_of([&] { db->OpenRecordset("SELECT * FROM villes WHERE"); }), 3075);
+}
+
+TEST_F(Execute, AFailedStatementChangesNothing) {
+    add("villes", {{"détails", "Bron"}});
+    db->Execute("CREATE UNIQUE INDEX villes_unique ON villes (détails)");
+    add("villes", {{"détails", "Lyon"}});
+    EXPECT_EQ(error_of([&] { db->Execute("UPDATE villes SET code_postal = '1', détails = 'Bron'"); }), 3022);
+    EXPECT_EQ(values("SELECT * FROM villes WHERE code_postal = '1'", "détails"), QStringList{});
+}
+
+TEST_F(Execute, TransactionsGroupWritesAndRollBackTogether) {
+    db->BeginTrans();
+    add("villes", {{"détails", "Bron"}});
+    db->Execute("DELETE * FROM niveaux");
+    db->Rollback();
+    EXPECT_EQ(db->OpenRecordset("villes")->RecordCount(), 0);
+    EXPECT_EQ(db->OpenRecordset("niveaux")->RecordCount(), 12);
+    EXPECT_EQ(error_of([&] { db->CommitTrans(); }), 3034);
+}
+
+} // namespace

@@ -1,0 +1,223 @@
+// Opening files that are missing, damaged or held, compaction, and the locks that other copies see.
+#include "platform/dao/StoreTestSupport.h"
+
+#include "platform/files/Files.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QRandomGenerator>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+QByteArray digest(const QString& path) {
+    QFile f(path);
+    f.open(QIODevice::ReadOnly);
+    return QCryptographicHash::hash(f.readAll(), QCryptographicHash::Sha256);
+}
+
+QStringList files_in(const QString& folder) {
+    return QDir(folder).entryList(QDir::Files, QDir::Name);
+}
+
+TEST(OpeningFiles, AMissingFileIs3024AndAMissingFolder3044) {
+    TemplateBase base;
+    EXPECT_EQ(error_of([&] { Database::open(base.file("absent.mdb")); }), 3024);
+    EXPECT_EQ(error_of([&] { Database::open(base.file("absent/base.mdb")); }), 3044);
+    EXPECT_EQ(error_of([&] { Database::open(""); }), 3024);
+    try {
+        Database::open(base.file("absent.mdb"));
+    } catch (const VbError& e) {
+        EXPECT_TRUE(e.description().contains("absent.mdb")) << e.description().toStdString();
+    }
+}
+
+TEST(OpeningFiles, RandomBytesNamedMdbAre3343AndStayUntouched) {
+    TemplateBase base;
+    QByteArray noise(64 * 1024, '\0');
+    QRandomGenerator generator(42);
+    for (char& c : noise)
+        c = static_cast<char>(generator.bounded(256));
+    const QString path = base.file("abîmée.mdb");
+    QFile f(path);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write(noise);
+    f.close();
+    const QStringList before = files_in(base.folder());
+    EXPECT_EQ(error_of([&] { Database::open(path); }), 3343);
+    EXPECT_EQ(digest(path), QCryptographicHash::hash(noise, QCryptographicHash::Sha256));
+    EXPECT_EQ(files_in(base.folder()), before);
+    EXPECT_FALSE(fichier_verrouillé(path));
+}
+
+TEST(OpeningFiles, AnEmptyFileAndAFolderAreNoBases) {
+    TemplateBase base;
+    QFile(base.file("vide.mdb")).open(QIODevice::WriteOnly);
+    EXPECT_EQ(error_of([&] { Database::open(base.file("vide.mdb")); }), 3343);
+    QDir(base.folder()).mkdir("dossier.mdb");
+    EXPECT_EQ(error_of([&] { Database::open(base.file("dossier.mdb")); }), 3343);
+}
+
+TEST(OpeningFiles, ABaseWithADamagedBodyIsReported3343) {
+    TemplateBase base;
+    QFile f(base.path());
+    ASSERT_TRUE(f.open(QIODevice::ReadWrite));
+    f.seek(100);
+    f.write(QByteArray(8000, '\x5a')); // the first pages, table list included
+    f.close();
+    EXPECT_EQ(error_of([&] { Database::open(base.path())->OpenRecordset("élèves"); }), 3343);
+}
+
+TEST(OpeningFiles, AnyExtensionOpens) {
+    TemplateBase base("modèle.mdz");
+    auto db = Database::open(base.path());
+    EXPECT_EQ(db->tableNames().size(), 21);
+    EXPECT_EQ(db->path(), base.path());
+}
+
+TEST(Sharing, SeveralDatabasesOnOneFileWorkSideBySide) {
+    TemplateBase base;
+    auto first = Database::open(base.path());
+    auto second = Database::open(base.path());
+    auto rs = first->OpenRecordset("villes");
+    rs->AddNew();
+    rs->setField("détails", "Bron");
+    rs->Update();
+    auto seen = second->OpenRecordset("villes");
+    EXPECT_EQ(seen->RecordCount(), 1);
+    seen->Edit();
+    seen->setField("code_postal", "69500");
+    seen->Update();
+    rs->Requery();
+    EXPECT_EQ(rs->field("code_postal").toString(), "69500");
+}
+
+TEST(Sharing, AnOpenDatabaseBlocksCompactionKillAndCopyUntilClosed) {
+    TemplateBase base;
+    auto db = Database::open(base.path());
+    EXPECT_TRUE(fichier_verrouillé(base.path()));
+    EXPECT_EQ(error_of([&] { CompactDatabase(base.path(), base.file("compacte.mdb")); }), 3045);
+    EXPECT_FALSE(QFile::exists(base.file("compacte.mdb")));
+    EXPECT_EQ(error_of([&] { Kill(base.path()); }), 70);
+    EXPECT_EQ(error_of([&] { FileCopy(base.path(), base.file("copie.mdb")); }), 70);
+    EXPECT_TRUE(QFile::exists(base.path()));
+
+    auto second = Database::open(base.path());
+    db->Close();
+    EXPECT_TRUE(fichier_verrouillé(base.path())); // the second still holds it
+    second.reset();
+    EXPECT_FALSE(fichier_verrouillé(base.path()));
+    EXPECT_EQ(error_of([&] { CompactDatabase(base.path(), base.file("compacte.mdb")); }), 0);
+    EXPECT_EQ(error_of([&] { Kill(base.path()); }), 0);
+}
+
+TEST(Sharing, AnotherRunningCopyHoldsTheFileToo) {
+    TemplateBase base;
+    int ready[2], release[2];
+    ASSERT_EQ(pipe(ready), 0);
+    ASSERT_EQ(pipe(release), 0);
+    const pid_t child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        char c = 0;
+        try {
+            auto db = Database::open(base.path());
+            (void)!write(ready[1], "o", 1);
+            (void)!read(release[0], &c, 1);
+        } catch (...) {
+            (void)!write(ready[1], "x", 1);
+        }
+        _exit(0);
+    }
+    char state = 0;
+    ASSERT_EQ(read(ready[0], &state, 1), 1);
+    EXPECT_EQ(state, 'o');
+    EXPECT_TRUE(fichier_verrouillé(base.path()));
+    EXPECT_EQ(error_of([&] { CompactDatabase(base.path(), base.file("compacte.mdb")); }), 3045);
+    EXPECT_EQ(error_of([&] { Kill(base.path()); }), 70);
+    auto mine = Database::open(base.path()); // sharing with the other copy is fine
+    EXPECT_EQ(mine->OpenRecordset("niveaux")->RecordCount(), 12);
+    (void)!write(release[1], "r", 1);
+    int status = 0;
+    waitpid(child, &status, 0);
+    mine->Close();
+    EXPECT_FALSE(fichier_verrouillé(base.path()));
+    for (int fd : {ready[0], ready[1], release[0], release[1]})
+        close(fd);
+}
+
+TEST(Sharing, NoLockFileIsLeftBehind) {
+    TemplateBase base;
+    const QStringList before = files_in(base.folder());
+    {
+        auto db = Database::open(base.path());
+        auto rs = db->OpenRecordset("villes");
+        rs->AddNew();
+        rs->setField("détails", "Lyon");
+        rs->Update();
+        db->Execute("DELETE * FROM villes");
+    }
+    EXPECT_EQ(files_in(base.folder()), before);
+}
+
+TEST(Compaction, MakesACompleteValidCopyNoLargerThanTheSource) {
+    TemplateBase base;
+    {
+        auto db = Database::open(base.path());
+        auto rs = db->OpenRecordset("adresses");
+        for (int i = 0; i < 300; ++i) {
+            rs->AddNew();
+            rs->setField("détails", QString("rue numéro %1").arg(i));
+            rs->Update();
+        }
+        db->Execute("DELETE * FROM adresses WHERE détails LIKE \"*1*\"");
+    }
+    const QString target = base.file("compacte.mdb");
+    CompactDatabase(base.path(), target);
+    EXPECT_LE(QFileInfo(target).size(), QFileInfo(base.path()).size());
+    auto source = Database::open(base.path());
+    auto copy = Database::open(target);
+    EXPECT_EQ(copy->tableNames(), source->tableNames());
+    for (const QString& table : source->tableNames())
+        EXPECT_EQ(copy->OpenRecordset(table)->RecordCount(), source->OpenRecordset(table)->RecordCount())
+            << table.toStdString();
+    auto rs = copy->OpenRecordset("SELECT * FROM adresses ORDER BY détails ASC");
+    rs->MoveFirst();
+    EXPECT_EQ(rs->field("détails").toString(), "rue numéro 0");
+}
+
+TEST(Compaction, RefusesAnExistingTargetAMissingSourceAndANonBase) {
+    TemplateBase base;
+    const QString target = base.copy("existe.mdb");
+    const QByteArray before = digest(target);
+    EXPECT_EQ(error_of([&] { CompactDatabase(base.path(), target); }), 3204);
+    EXPECT_EQ(digest(target), before);
+    EXPECT_EQ(error_of([&] { CompactDatabase(base.path(), base.path()); }), 3204);
+    EXPECT_EQ(error_of([&] { CompactDatabase(base.file("absent.mdb"), base.file("c.mdb")); }), 3024);
+    EXPECT_EQ(error_of([&] { CompactDatabase(base.path(), base.file("absent/c.mdb")); }), 3044);
+    QFile noise(base.file("bruit.mdb"));
+    noise.open(QIODevice::WriteOnly);
+    noise.write(QByteArray(4096, 'z'));
+    noise.close();
+    EXPECT_EQ(error_of([&] { CompactDatabase(base.file("bruit.mdb"), base.file("c.mdb")); }), 3343);
+    EXPECT_FALSE(QFile::exists(base.file("c.mdb")));
+}
+
+} // namespace
+
+#include "platform/dao/FileLock.h"
+
+namespace {
+
+TEST(Sharing, WhileAFileIsHeldForCompactionNobodyOpensIt) {
+    TemplateBase base;
+    dao::FileLock compaction;
+    ASSERT_EQ(compaction.acquire(base.path(), dao::FileLock::Mode::Exclusive), dao::FileLock::Result::Held);
+    EXPECT_EQ(error_of([&] { Database::open(base.path()); }), 3051);
+    compaction.release();
+    EXPECT_EQ(error_of([&] { Database::open(base.path()); }), 0);
+}
+
+} // namespace

@@ -1,0 +1,124 @@
+// LIKE with Jet's wildcards, and text order and equality as a French user expects them.
+#include "platform/dao/StoreTestSupport.h"
+
+#include "platform/dao/FrenchText.h"
+
+namespace {
+
+using dao::jet_like;
+
+TEST(JetLike, StarAndQuestionMark) {
+    EXPECT_TRUE(jet_like(u"Dupont", u"Dup*"));
+    EXPECT_TRUE(jet_like(u"Dupont", u"*"));
+    EXPECT_TRUE(jet_like(u"", u"*"));
+    EXPECT_TRUE(jet_like(u"Dupont", u"D?p?nt"));
+    EXPECT_FALSE(jet_like(u"Dupont", u"D?pont?"));
+    EXPECT_TRUE(jet_like(u"Dupont", u"*o*t"));
+    EXPECT_FALSE(jet_like(u"Dupont", u"Dup"));
+    EXPECT_TRUE(jet_like(u"abcabcabd", u"*abd"));
+}
+
+TEST(JetLike, DigitAndCharacterClasses) {
+    EXPECT_TRUE(jet_like(u"CE1", u"CE#"));
+    EXPECT_FALSE(jet_like(u"CEx", u"CE#"));
+    EXPECT_TRUE(jet_like(u"b", u"[abc]"));
+    EXPECT_FALSE(jet_like(u"d", u"[abc]"));
+    EXPECT_TRUE(jet_like(u"m", u"[a-z]"));
+    EXPECT_TRUE(jet_like(u"M", u"[a-z]"));
+    EXPECT_FALSE(jet_like(u"5", u"[a-z]"));
+    EXPECT_TRUE(jet_like(u"5", u"[!a-z]"));
+    EXPECT_FALSE(jet_like(u"q", u"[!a-z]"));
+    EXPECT_TRUE(jet_like(u"a*b", u"a[*]b"));
+    EXPECT_FALSE(jet_like(u"axb", u"a[*]b"));
+    EXPECT_TRUE(jet_like(u"Martin", u"[L-N]*"));
+}
+
+TEST(JetLike, CaseAndAccentsAreIgnoredOverUnicode) {
+    EXPECT_TRUE(jet_like(u"Élodie", u"élodie"));
+    EXPECT_TRUE(jet_like(u"élodie", u"ÉLODIE"));
+    EXPECT_TRUE(jet_like(u"Hélène", u"helene"));
+    EXPECT_TRUE(jet_like(u"ÇA", u"ça"));
+    EXPECT_TRUE(jet_like(u"Œuvre", u"oeuvre"));
+    EXPECT_TRUE(jet_like(u"ΣΟΦΙΑ", u"σοφια"));
+    EXPECT_TRUE(jet_like(u"Straße", u"STRASSE"));
+    EXPECT_TRUE(jet_like(u"Ébrard", u"[e]*"));
+}
+
+TEST(JetLike, PercentAndUnderscoreAreOrdinaryCharacters) {
+    EXPECT_TRUE(jet_like(u"100%", u"100%"));
+    EXPECT_FALSE(jet_like(u"1000", u"100%"));
+    EXPECT_TRUE(jet_like(u"a_b", u"a_b"));
+    EXPECT_FALSE(jet_like(u"axb", u"a_b"));
+    EXPECT_TRUE(jet_like(u"[x", u"[x")); // an unclosed bracket stands for itself
+}
+
+class FrenchOrder : public StoreTest {};
+
+TEST_F(FrenchOrder, AccentedNamesSortBesideTheirLetter) {
+    for (const char* name :
+         {"Eric", "Zoé", "émile", "Emile", "Édith", "Eve", "Ève", "Abel", "Œdipe", "Oscar", "Ode"})
+        addPupil("", name);
+    EXPECT_EQ(values("SELECT * FROM élèves ORDER BY nom_élève ASC, prénom_élève ASC", "nom_élève"),
+              (QStringList{"Abel", "Édith", "Emile", "émile", "Eric", "Eve", "Ève", "Ode", "Œdipe", "Oscar",
+                           "Zoé"}));
+}
+
+TEST_F(FrenchOrder, CaseOfTheSurnameDoesNotHideTheFirstNameOrder) {
+    addPupil("", "DUPONT", "Léa");
+    addPupil("", "Dupont", "Adam");
+    addPupil("", "dupont", "Zoé");
+    addPupil("", "Dupont", "Adam");
+    EXPECT_EQ(values("SELECT * FROM élèves ORDER BY nom_élève ASC, prénom_élève ASC", "prénom_élève"),
+              (QStringList{"Adam", "Adam", "Léa", "Zoé"}));
+    EXPECT_EQ(values("SELECT * FROM élèves ORDER BY nom_élève DESC, prénom_élève DESC", "prénom_élève"),
+              (QStringList{"Zoé", "Léa", "Adam", "Adam"}));
+}
+
+TEST_F(FrenchOrder, EqualValuesKeepTheOrderTheyWereWrittenIn) {
+    for (int i = 1; i <= 6; ++i)
+        add("élèves",
+            {{"matricule", QString("00000%1").arg(i)}, {"ville_résidence", i % 2 ? "Lyon" : "Bron"}});
+    const QStringList first = values("SELECT * FROM élèves ORDER BY ville_résidence ASC", "matricule");
+    EXPECT_EQ(first, (QStringList{"000002", "000004", "000006", "000001", "000003", "000005"}));
+    EXPECT_EQ(values("SELECT * FROM élèves ORDER BY ville_résidence DESC", "matricule"),
+              (QStringList{"000005", "000003", "000001", "000006", "000004", "000002"}));
+    db->Close();
+    db = Database::open(base.path());
+    EXPECT_EQ(values("SELECT * FROM élèves ORDER BY ville_résidence ASC", "matricule"), first);
+}
+
+TEST_F(FrenchOrder, CaseOnlyBreaksTiesLowerCaseFirst) {
+    for (const char* ville : {"BRON", "Bron", "bron", "Brignais"})
+        add("élèves", {{"ville_résidence", ville}});
+    EXPECT_EQ(values("SELECT * FROM élèves ORDER BY ville_résidence ASC", "ville_résidence"),
+              (QStringList{"Brignais", "bron", "Bron", "BRON"}));
+}
+
+TEST_F(FrenchOrder, DigitsSortAsTextSoTenComesBeforeNine) {
+    for (const char* classe : {"9", "10", "2"})
+        add("élèves", {{"référence_classe_élève", classe}});
+    EXPECT_EQ(values("SELECT * FROM élèves ORDER BY référence_classe_élève ASC", "référence_classe_élève"),
+              (QStringList{"10", "2", "9"}));
+}
+
+TEST_F(FrenchOrder, EqualityInAQueryIgnoresCaseAndAccents) {
+    addPupil("000001", "Hélène");
+    addPupil("000002", "Helene");
+    addPupil("000003", "Hélèna");
+    EXPECT_EQ(db->OpenRecordset("SELECT * FROM élèves WHERE nom_élève = \"HELENE\"")->RecordCount(), 2);
+    EXPECT_EQ(db->OpenRecordset("SELECT * FROM élèves WHERE nom_élève <> 'hélène'")->RecordCount(), 1);
+}
+
+TEST(FrenchCompare, IsATotalOrderThatOnlyIdenticalTextsTie) {
+    const QStringList words = {"e", "E", "é", "É", "è", "ê", "ë", "ea", "Ea", "œ", "oe", "OE", ""};
+    for (const QString& a : words)
+        for (const QString& b : words) {
+            const int ab = dao::compare_french(a, b), ba = dao::compare_french(b, a);
+            EXPECT_EQ(ab, -ba) << a.toStdString() << " " << b.toStdString();
+            EXPECT_EQ(ab == 0, a == b) << a.toStdString() << " " << b.toStdString();
+        }
+    EXPECT_LT(dao::compare_french(u"cote", u"côte"), 0);
+    EXPECT_LT(dao::compare_french(u"côte", u"coter"), 0);
+}
+
+} // namespace

@@ -1,0 +1,105 @@
+// Dates, booleans and text lengths as the bound boxes write and read them.
+#include "platform/dao/StoreTestSupport.h"
+
+namespace {
+
+class Values : public StoreTest {
+protected:
+    std::unique_ptr<Recordset> pupils = db->OpenRecordset("élèves");
+};
+
+TEST_F(Values, DatesAreWrittenAndReadAsJJMMAAAA) {
+    pupils->AddNew();
+    pupils->setField("date_naissance_élève", "03/02/2019");
+    pupils->setField("date_inscription_élève", "1/9/2022");
+    pupils->Update();
+    pupils->setBookmark(pupils->LastModified());
+    EXPECT_EQ(pupils->field("date_naissance_élève").toString(), "03/02/2019");
+    EXPECT_EQ(pupils->field("date_inscription_élève").toString(), "01/09/2022");
+}
+
+TEST_F(Values, DateOrderIsChronologicalNotTextual) {
+    for (const char* date : {"15/01/2018", "02/12/2017", "30/06/2018", "01/01/2019"})
+        add("élèves", {{"date_naissance_élève", date}});
+    EXPECT_EQ(values("SELECT * FROM élèves ORDER BY date_naissance_élève ASC", "date_naissance_élève"),
+              (QStringList{"02/12/2017", "15/01/2018", "30/06/2018", "01/01/2019"}));
+    EXPECT_EQ(
+        values("SELECT * FROM élèves ORDER BY date_naissance_élève DESC", "date_naissance_élève").first(),
+        "01/01/2019");
+}
+
+TEST_F(Values, AnEmptyBoxStoresNoDate) {
+    pupils->AddNew();
+    pupils->setField("date_naissance_élève", "01/01/2019");
+    pupils->setField("date_naissance_élève", "  ");
+    pupils->setField("date_radiation_élève", QVariant());
+    pupils->Update();
+    pupils->setBookmark(pupils->LastModified());
+    EXPECT_TRUE(pupils->field("date_naissance_élève").isNull());
+    EXPECT_TRUE(pupils->field("date_radiation_élève").isNull());
+    EXPECT_EQ(db->OpenRecordset("SELECT * FROM élèves WHERE date_naissance_élève IS NULL")->RecordCount(), 1);
+}
+
+TEST_F(Values, ATextThatIsNoDateIsRefusedAndTheBufferKeepsItsValue) {
+    pupils->AddNew();
+    pupils->setField("date_naissance_élève", "12/05/2018");
+    for (const char* wrong : {"31/02/2019", "demain", "12/13/2018", "2018", "12/05/20189", "1/2"}) {
+        SCOPED_TRACE(wrong);
+        EXPECT_EQ(error_of([&] { pupils->setField("date_naissance_élève", wrong); }), 3421);
+    }
+    EXPECT_EQ(pupils->field("date_naissance_élève").toString(), "12/05/2018");
+}
+
+TEST_F(Values, TwoDigitYearsFollowTheCenturyRule) {
+    pupils->AddNew();
+    pupils->setField("date_naissance_élève", "5/6/18");
+    EXPECT_EQ(pupils->field("date_naissance_élève").toString(), "05/06/2018");
+    pupils->setField("date_naissance_élève", "5/6/75");
+    EXPECT_EQ(pupils->field("date_naissance_élève").toString(), "05/06/1975");
+}
+
+TEST_F(Values, ATrueAinéIsWhatTrueSelects) {
+    add("élèves", {{"matricule", "000001"}, {"ainé", true}});
+    add("élèves", {{"matricule", "000002"}, {"ainé", false}});
+    add("élèves", {{"matricule", "000003"}}); // a new row's box is unticked
+    EXPECT_EQ(values("SELECT * FROM élèves WHERE ainé = True", "matricule"), QStringList{"000001"});
+    auto rs = db->OpenRecordset("SELECT * FROM élèves ORDER BY matricule ASC");
+    rs->MoveLast();
+    EXPECT_EQ(rs->field("ainé"), QVariant(false));
+    rs->MoveFirst();
+    EXPECT_EQ(rs->field("ainé"), QVariant(true));
+}
+
+TEST_F(Values, TextLongerThanItsColumnIsRefused) {
+    pupils->AddNew();
+    pupils->setField("nom_élève", QString(30, u'é'));
+    EXPECT_EQ(error_of([&] { pupils->setField("nom_élève", QString(31, u'a')); }), 3163);
+    EXPECT_EQ(error_of([&] { pupils->setField("cycle_classe_élève", "12"); }), 3163);
+    pupils->setField("observations_générales", QString(5000, u'x')); // memo: no limit
+    pupils->Update();
+    pupils->setBookmark(pupils->LastModified());
+    EXPECT_EQ(pupils->field("nom_élève").toString(), QString(30, u'é'));
+    EXPECT_EQ(pupils->field("observations_générales").toString().size(), 5000);
+}
+
+TEST_F(Values, ColumnTypesAreDescribedForTheBoundControls) {
+    const auto& fields = pupils->fields();
+    auto info = [&](const QString& name) { return fields[pupils->fieldIndex(name)]; };
+    EXPECT_EQ(info("matricule").type, FieldType::Text);
+    EXPECT_EQ(info("matricule").size, 10);
+    EXPECT_EQ(info("observations_générales").type, FieldType::Memo);
+    EXPECT_EQ(info("date_radiation_élève").type, FieldType::Date);
+    EXPECT_EQ(info("ainé").type, FieldType::Boolean);
+    EXPECT_EQ(pupils->fieldIndex("NOM_ÉLÈVE"), pupils->fieldIndex("nom_élève"));
+    EXPECT_EQ(pupils->fieldIndex("inconnu"), -1);
+    pupils->AddNew();
+    EXPECT_EQ(error_of([&] { pupils->setField("inconnu", "x"); }), 3265);
+}
+
+TEST_F(Values, QuotesAndSpecialCharactersAreStoredAsTyped) {
+    const QString name = QStringLiteral("D'Arc \"Jeanne\" ; DROP TABLE élèves; -- [x] 100% _");
+    add("élèves", {{"observations_générales", name}});
+    EXPECT_EQ(values("élèves", "observations_générales"), QStringList{name});
+}
+
+} // namespace

@@ -1,0 +1,77 @@
+#include "platform/forms/ListesFichiers.h"
+#include "support/BasesDeTest.h"
+#include "support/Fixtures.h"
+
+#include <QDir>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+QStringList textes(const QListWidget& liste) {
+    QStringList t;
+    for (int i = 0; i < liste.count(); ++i)
+        t << liste.item(i)->text().trimmed();
+    return t;
+}
+
+TEST(ListesFichiers, ToutesCommencentSurLeDossierCourant) {
+    WorkFolder dossier;
+    DossierCourant courant(dossier.path());
+    DirListBox dossiers;
+    FileListBox fichiers;
+    DriveListBox lecteurs;
+    EXPECT_EQ(dossiers.Path(), QDir::toNativeSeparators(dossier.path()));
+    EXPECT_EQ(fichiers.Path(), QDir::toNativeSeparators(dossier.path()));
+    EXPECT_EQ(lecteurs.Drive(), QDir::toNativeSeparators(QDir(dossier.path()).rootPath()));
+}
+
+TEST(ListesFichiers, LaListeDesFichiersSuitSonMotifSansDistinguerLaCasseNiMontrerLesDossiers) {
+    WorkFolder dossier;
+    dossier.write("b.MDB", "x");
+    dossier.write("a.mdb", "x");
+    dossier.write("basevide.mdz", "x");
+    dossier.write(".cachée.mdb", "x");
+    QDir(dossier.path()).mkdir("dossier.mdb");
+    FileListBox fichiers;
+    fichiers.setPattern("*.mdb");
+    fichiers.setPath(dossier.path());
+    EXPECT_EQ(textes(fichiers), (QStringList{"a.mdb", "b.MDB"}));
+    EXPECT_EQ(fichiers.FileName(), "");
+    QSignalSpy clics(&fichiers, &FileListBox::Click);
+    EXPECT_TRUE(fichiers.cliquer("b.MDB"));
+    EXPECT_EQ(fichiers.FileName(), "b.MDB");
+    EXPECT_EQ(clics.count(), 1);
+    EXPECT_FALSE(fichiers.cliquer("absente.mdb"));
+    dossier.write("c.mdb", "x");
+    fichiers.Refresh();
+    EXPECT_EQ(textes(fichiers), (QStringList{"a.mdb", "b.MDB", "c.mdb"}));
+}
+
+TEST(ListesFichiers, LaListeDesDossiersMontreLaBrancheEtLesSousDossiersEtSeDéplaceAuDoubleClic) {
+    WorkFolder dossier;
+    QDir(dossier.path()).mkdir("Écoles");
+    QDir(dossier.path()).mkdir("archives");
+    DirListBox dossiers;
+    dossiers.setPath(dossier.path());
+    dossiers.resize(300, 400);
+    dossiers.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&dossiers));
+    const QStringList entrées = textes(dossiers);
+    ASSERT_GE(entrées.size(), 3);
+    EXPECT_EQ(entrées.first(), QDir::toNativeSeparators(QDir::rootPath()));
+    EXPECT_EQ(entrées.mid(entrées.size() - 2), (QStringList{"archives", "Écoles"}));
+    QSignalSpy changements(&dossiers, &DirListBox::Change);
+    QListWidgetItem* écoles = dossiers.item(dossiers.count() - 1);
+    const QRect zone = dossiers.visualItemRect(écoles);
+    QTest::mouseClick(dossiers.viewport(), Qt::LeftButton, {}, zone.center());
+    QTest::mouseDClick(dossiers.viewport(), Qt::LeftButton, {}, zone.center());
+    EXPECT_EQ(dossiers.Path(), QDir::toNativeSeparators(dossier.file("Écoles")));
+    EXPECT_GE(changements.count(), 1);
+    // The same path again changes nothing.
+    const int avant = changements.count();
+    dossiers.setPath(dossier.file("Écoles"));
+    EXPECT_EQ(changements.count(), avant);
+}
+
+} // namespace

@@ -1,0 +1,23 @@
+#include "platform/text/Windows1252.h"
+
+#include <gtest/gtest.h>
+
+TEST(Windows1252, LesLettresFrançaisesEtLesSignesDeLaPage) {
+    const QString texte = QStringLiteral("Élève àéèêëîïôùûüç ÀÇ œŒ € « » …");
+    const QByteArray octets = vers_windows1252(texte);
+    EXPECT_EQ(octets.size(), texte.size());
+    EXPECT_EQ(octets[0], '\xC9');
+    EXPECT_TRUE(octets.contains('\x9C')); // œ
+    EXPECT_TRUE(octets.contains('\x80')); // €
+    EXPECT_EQ(depuis_windows1252(octets), texte);
+}
+
+TEST(Windows1252, CeQueLaPageNePeutTenirDevientUnPointDInterrogation) {
+    EXPECT_EQ(vers_windows1252(QStringLiteral("Łódź")), QByteArray("?\xF3"
+                                                                   "d?"));
+    EXPECT_EQ(vers_windows1252(QStringLiteral("a😀b")), QByteArray("a??b"));
+}
+
+TEST(Windows1252, LesOctetsInutilisésRestentLisibles) {
+    EXPECT_EQ(depuis_windows1252(QByteArray("\x81\x8D", 2)), QString(QChar(0x81)) + QChar(0x8D));
+}

@@ -1,0 +1,182 @@
+#include "shell/EtatDemarrage.h"
+
+#include "shell/feuille_options.h"
+
+#include <QCheckBox>
+#include <QDir>
+#include <QMdiArea>
+#include <QTimer>
+
+namespace {
+
+// What a user can see and what lands on disk once the start has settled.
+struct ÉtatAprèsDémarrage {
+    QByteArray options;
+    QString base_en_cours, chemin_application, label4, panneau1;
+    bool accueil_chargée, mdi_visible, choix_visible, menus_inactifs;
+
+    bool operator==(const ÉtatAprèsDémarrage&) const = default;
+};
+
+void PrintTo(const ÉtatAprèsDémarrage& é, std::ostream* os) {
+    *os << "{options=" << é.options.toStdString() << " base=" << é.base_en_cours.toStdString()
+        << " chemin=" << é.chemin_application.toStdString() << " Label4=" << é.label4.toStdString()
+        << " panneau1=" << é.panneau1.toStdString() << " accueil=" << é.accueil_chargée
+        << " mdi=" << é.mdi_visible << " choix=" << é.choix_visible << " menus_inactifs=" << é.menus_inactifs
+        << "}";
+}
+
+class DémarrageDuProgramme : public Démarrage {
+protected:
+    ÉtatAprèsDémarrage état() const {
+        Module1& m = module1();
+        return {options_ini(),
+                m.base_en_cours,
+                m.chemin_application,
+                choix() ? choix()->Label4->text() : QStringLiteral("(déchargé)"),
+                mdi() ? mdi()->Panel1() : QString(),
+                feuilles().siChargée<feuille_accueil>() != nullptr,
+                mdi() != nullptr && mdi()->isVisible(),
+                choix_à_l_écran(),
+                mdi() != nullptr && menus_de_données_inactifs()};
+    }
+};
+
+TEST_F(DémarrageDuProgramme, LeSplashAttendSansRienFaireEtMontreSaVersion) {
+    feuille_accueil& splash = accueil();
+    EXPECT_TRUE(splash.isVisible());
+    EXPECT_EQ(splash.lblVersion->text(), "Version 2.2.9");
+    EXPECT_EQ(splash.lblProductName->text(), "Norvane v2");
+    EXPECT_EQ(splash.Label1->text(), "Cliquez ou pressez une touche quelconque");
+    EXPECT_EQ(mdi(), nullptr);
+    EXPECT_FALSE(QFile::exists(folder.file("options.ini")));
+}
+
+TEST_F(DémarrageDuProgramme, LeMessageClignoteEntreJaunePâleEtBleu) {
+    feuille_accueil& splash = accueil();
+    ASSERT_EQ(splash.Timer1->interval(), 600);
+    const uint32_t fond_avant = BackColor(*splash.Label1);
+    QMetaObject::invokeMethod(splash.Timer1, "timeout");
+    EXPECT_NE(BackColor(*splash.Label1), fond_avant);
+    EXPECT_EQ(BackColor(*splash.Label1), 0xFF0000u);
+    EXPECT_EQ(ForeColor(*splash.Label1), 0x80FFFFu);
+    QMetaObject::invokeMethod(splash.Timer1, "timeout");
+    EXPECT_EQ(BackColor(*splash.Label1), 0x80FFFFu);
+    EXPECT_EQ(ForeColor(*splash.Label1), 0xFF0000u);
+}
+
+TEST_F(DémarrageDuProgramme, PremierLancementDansUnDossierVideParClic) {
+    démarrer_par_clic();
+    EXPECT_EQ(options_ini(), QByteArray("0\r\n0\r\n0\r\n0\r\n\"\"\r\n"));
+    const ÉtatAprèsDémarrage é = état();
+    EXPECT_FALSE(é.accueil_chargée);
+    EXPECT_TRUE(é.mdi_visible);
+    EXPECT_TRUE(é.choix_visible);
+    EXPECT_EQ(é.label4, "");
+    EXPECT_EQ(é.panneau1, "");
+    EXPECT_TRUE(é.menus_inactifs);
+    EXPECT_EQ(é.chemin_application, QDir::toNativeSeparators(folder.path()) + QDir::separator());
+    EXPECT_TRUE(ui().boxes().empty());
+}
+
+TEST_F(DémarrageDuProgramme, UneToucheEtUnClicMènentAuMêmeÉtat) {
+    démarrer_par_clic();
+    const ÉtatAprèsDémarrage par_clic = état();
+    module1().réinitialiser();
+    module1().setInteraction(std::shared_ptr<Interaction>(&ui(), [](Interaction*) {}));
+    processDeletions();
+    QFile::remove(folder.file("options.ini"));
+    module1().chemin_application.clear();
+    démarrer_par_touche();
+    EXPECT_EQ(état(), par_clic);
+}
+
+TEST_F(DémarrageDuProgramme, UneToucheEtUnClicMènentAuMêmeÉtatAvecUneBaseRetenue) {
+    const QString base = créer_base_de_test(folder.file("ecole.mdb"));
+    const QByteArray texte = "0\r\n0\r\n1\r\n0\r\n" + ligne_de_base(base);
+    préparer_options(texte);
+    démarrer_par_clic();
+    const ÉtatAprèsDémarrage par_clic = état();
+    EXPECT_EQ(par_clic.panneau1, "Base de données en cours : " + base);
+    EXPECT_FALSE(par_clic.menus_inactifs);
+    module1().réinitialiser();
+    module1().setInteraction(std::shared_ptr<Interaction>(&ui(), [](Interaction*) {}));
+    processDeletions();
+    module1().chemin_application.clear();
+    démarrer_par_touche();
+    EXPECT_EQ(état(), par_clic);
+    EXPECT_EQ(options_ini(), texte); // the options are read, never rewritten, when the file is there
+}
+
+TEST_F(DémarrageDuProgramme, UnClicSurLeFondNuNeFaitRien) {
+    feuille_accueil& splash = accueil();
+    const QPoint fond(3, 3); // the margin around Frame1
+    ASSERT_EQ(splash.childAt(fond), nullptr);
+    QTest::mouseClick(&splash, Qt::LeftButton, {}, fond);
+    processDeletions();
+    EXPECT_NE(feuilles().siChargée<feuille_accueil>(), nullptr);
+    EXPECT_EQ(mdi(), nullptr);
+    EXPECT_FALSE(QFile::exists(folder.file("options.ini")));
+}
+
+TEST_F(DémarrageDuProgramme, UneToucheSansCaractèreNeFaitRien) {
+    QTest::keyClick(&accueil(), Qt::Key_Shift);
+    processDeletions();
+    EXPECT_NE(feuilles().siChargée<feuille_accueil>(), nullptr);
+    EXPECT_EQ(mdi(), nullptr);
+}
+
+class ClicSurUnContrôle : public Démarrage, public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(ClicSurUnContrôle, OuvreLeProgramme) {
+    auto* contrôle = accueil().findChild<QWidget*>(QString::fromUtf8(GetParam()));
+    ASSERT_NE(contrôle, nullptr);
+    QTest::mouseClick(contrôle, Qt::LeftButton, {}, QPoint(2, 2));
+    processDeletions();
+    EXPECT_EQ(feuilles().siChargée<feuille_accueil>(), nullptr);
+    ASSERT_NE(mdi(), nullptr);
+    EXPECT_TRUE(mdi()->isVisible());
+}
+
+INSTANTIATE_TEST_SUITE_P(ContrôlesDuSplash, ClicSurUnContrôle,
+                         ::testing::Values("Frame1", "Image1", "Image2", "Label1", "lblCompany",
+                                           "lblPlatform", "lblProductName", "lblVersion", "lblWarning"));
+
+TEST_F(DémarrageDuProgramme, Check3DécochéAvecUnCheminMontreCeCheminSansLOuvrir) {
+    const QString base = créer_base_de_test(folder.file("ecole.mdb"));
+    préparer_options("0\r\n0\r\n0\r\n0\r\n" + ligne_de_base(base));
+    démarrer_par_clic();
+    EXPECT_TRUE(choix_à_l_écran());
+    EXPECT_EQ(choix()->Label4->text(), base);
+    EXPECT_EQ(module1().base_en_cours, base);
+    EXPECT_EQ(mdi()->Panel1(), "");
+    EXPECT_TRUE(menus_de_données_inactifs());
+}
+
+TEST_F(DémarrageDuProgramme, LaBaseRetenueEstOuverteSansLeChoix) {
+    const QString base = créer_base_de_test(folder.file("ecole.mdb"));
+    préparer_options("0\r\n0\r\n1\r\n0\r\n" + ligne_de_base(base));
+    démarrer_par_touche();
+    EXPECT_FALSE(choix_à_l_écran());
+    EXPECT_EQ(mdi()->Panel1(), "Base de données en cours : " + base);
+    EXPECT_TRUE(menus_de_données_actifs());
+    EXPECT_EQ(feuilles().siChargée<feuille_options>()->Check3->checkState(), Qt::Checked);
+}
+
+TEST_F(DémarrageDuProgramme, UneBaseRetenueDisparueMontreLErreurPuisLOuvertureVaÀSonTerme) {
+    const QString disparue = folder.file("disparue.mdb");
+    préparer_options("0\r\n0\r\n1\r\n0\r\n" + ligne_de_base(disparue));
+    ui().expectMsgBox(vbOK);
+    démarrer_par_clic();
+    ASSERT_EQ(ui().boxes().size(), 1u);
+    const auto& boîte = ui().boxes().front();
+    EXPECT_TRUE(boîte.text.startsWith("Le logiciel a rencontré l'erreur : 3024\n\n"))
+        << boîte.text.toStdString();
+    EXPECT_EQ(boîte.buttons, vbOKOnly + vbExclamation);
+    EXPECT_EQ(boîte.title, "Norvane v2");
+    EXPECT_TRUE(menus_de_données_actifs());
+    EXPECT_EQ(mdi()->Panel1(), "Base de données en cours : " + disparue);
+    EXPECT_FALSE(choix_à_l_écran());
+}
+
+} // namespace

@@ -1,0 +1,231 @@
+#include "shell/EtatDemarrage.h"
+
+#include "shell/commandes.h"
+
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QStatusBar>
+
+namespace {
+
+class FenêtrePrincipale : public Démarrage {
+protected:
+    MDIForm1& démarrer() {
+        démarrer_par_clic();
+        return *mdi();
+    }
+    void ouvrir_une_base() {
+        const QString base = créer_base_de_test(folder.file("ecole.mdb"));
+        préparer_options("0\r\n0\r\n1\r\n0\r\n" + ligne_de_base(base));
+        démarrer();
+        ASSERT_TRUE(menus_de_données_actifs());
+    }
+};
+
+// The whole tree as the user reads it: level, control name, caption ("-" a separator).
+struct Entrée {
+    int niveau;
+    QString nom, légende;
+    bool operator==(const Entrée&) const = default;
+};
+
+void PrintTo(const Entrée& e, std::ostream* os) {
+    *os << e.niveau << " " << e.nom.toStdString() << " \"" << e.légende.toStdString() << "\"";
+}
+
+void parcourir(const QMenu* menu, int niveau, std::vector<Entrée>& entrées) {
+    for (const QAction* a : menu->actions()) {
+        entrées.push_back({niveau, a->objectName(), a->isSeparator() ? QStringLiteral("-") : a->text()});
+        if (a->menu() != nullptr)
+            parcourir(a->menu(), niveau + 1, entrées);
+    }
+}
+
+TEST_F(FenêtrePrincipale, LÉtiquetteEtLArbreDesMenusÀLaLettre) {
+    MDIForm1& fenêtre = démarrer();
+    EXPECT_EQ(fenêtre.windowTitle(), "Norvane - version 2");
+    std::vector<Entrée> lues;
+    for (const QAction* a : fenêtre.fenêtre->menuBar()->actions()) {
+        lues.push_back({0, a->objectName(), a->text()});
+        parcourir(a->menu(), 1, lues);
+    }
+    const std::vector<Entrée> attendues = {
+        {0, "menufichierindex0", "&Fichier"},
+        {1, "menufichierindex1", "&Ouvrir une base de données"},
+        {1, "menufichierindex5", "-"},
+        {1, "menufichierindex3", "&Fermer la base de données en cours"},
+        {1, "menufichierindex4", "-"},
+        {1, "menufichierindex2", "&Quitter le logiciel"},
+        {0, "menuenfantsindex0", "&Gestion"},
+        {1, "menuenfantsindex2", "Gestion du fichier des &Familles"},
+        {1, "menuenfantsindex3", "-"},
+        {1, "menuenfantsindex1", "Gestion du fichier des &Elèves"},
+        {0, "menuexploitationindex0", "&Exploitation"},
+        {1, "menuexploitationindex3", "&Traitements"},
+        {1, "menuexploitationindex2", "-"},
+        {1, "menuexploitationindex4", "Exportation des données au format Excel"},
+        {0, "menuparamètresindex0", "&Administration"},
+        {1, "menuparamètresindex1", "&Circonscription"},
+        {1, "menuparamètresindex2", "&Ecole"},
+        {1, "menuparamètresindex3", "Equipe &Pédagogique"},
+        {1, "menuparamètresindex10", "-"},
+        {1, "menuparamètresindex4", "&Documents"},
+        {1, "menuparamètresindex5", "&Champs Paramétrables"},
+        {1, "menuparamètresindex21", "-"},
+        {1, "menuparamètresindex22", "&Modification du code d'accès aux données"},
+        {1, "menuparamètresindex11", "-"},
+        {1, "menuparamètresindex20", "Gestion des &Tables"},
+        {2, "menuparamètresindex6", "Table des Adresses"},
+        {2, "menuparamètresindex7", "Table des Assurances"},
+        {2, "menuparamètresindex23", "Table des Assertions"},
+        {2, "menuparamètresindex8", "Table des CSP"},
+        {2, "menuparamètresindex19", "Table des Genres"},
+        {2, "menuparamètresindex9", "Table des Hôpitaux"},
+        {2, "menuparamètresindex13", "Table des Langues Vivantes"},
+        {2, "menuparamètresindex12", "Table des Médecins"},
+        {2, "menuparamètresindex15", "Table des Nationalités"},
+        {2, "menuparamètresindex18", "Table des Niveaux et Cycles"},
+        {2, "menuparamètresindex14", "Table des Sexes"},
+        {2, "menuparamètresindex17", "Table des Situations Familiales"},
+        {2, "menuparamètresindex16", "Table des Villes"},
+        {1, "menuparamètresindex24", "-"},
+        {1, "menuutilitairesindex0", "&Utilitaires"},
+        {2, "menuutilitairesindex1", "Initialisation de la table des familles"},
+        {2, "menuutilitairesindex2", "Initialisation de la table des élèves"},
+        {2, "menuutilitairesindex3", "Initialisation des tables connexes"},
+        {2, "menuutilitairesindex5", "-"},
+        {2, "menuutilitairesindex4", "Exportation pour la passerelle BE1d"},
+        {0, "menuoptionsindex0", "&Options"},
+        {1, "menuoptionsindex1", "&Options de démarrage"},
+        {0, "menuaideindex0", "&?"},
+        {1, "menuaideindex1", "&A propos de..."},
+    };
+    EXPECT_EQ(lues, attendues);
+}
+
+TEST_F(FenêtrePrincipale, SixPanneauxDontSeulLePremierEstÉcritParLeProgramme) {
+    MDIForm1& fenêtre = démarrer();
+    for (int i = 1; i <= 6; ++i)
+        ASSERT_NE(fenêtre.panneau(i), nullptr) << i;
+    EXPECT_EQ(fenêtre.panneau(1)->text(), "");
+    EXPECT_EQ(fenêtre.panneau(2)->text(), module1().horloge().aujourdhui().toString("dd/MM/yyyy"));
+    EXPECT_EQ(fenêtre.panneau(4)->text(), "MAJ");
+    EXPECT_EQ(fenêtre.panneau(5)->text(), "NUM");
+    EXPECT_EQ(fenêtre.panneau(6)->text(), "INSER");
+    EXPECT_EQ(fenêtre.StatusBar1->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly).size(), 6);
+}
+
+TEST_F(FenêtrePrincipale, LesQuatreMenusDeDonnéesSeulsBasculent) {
+    MDIForm1& fenêtre = démarrer();
+    EXPECT_TRUE(menus_de_données_inactifs());
+    for (const char* toujours : {"menufichierindex0", "menuoptionsindex0", "menuaideindex0"})
+        EXPECT_TRUE(fenêtre.menu(QString::fromUtf8(toujours))->isEnabled()) << toujours;
+    fenêtre.activer_menus();
+    EXPECT_TRUE(menus_de_données_actifs());
+    fenêtre.désactiver_menus();
+    EXPECT_TRUE(menus_de_données_inactifs());
+    for (const char* toujours : {"menufichierindex0", "menuoptionsindex0", "menuaideindex0"})
+        EXPECT_TRUE(fenêtre.menu(QString::fromUtf8(toujours))->isEnabled()) << toujours;
+}
+
+TEST_F(FenêtrePrincipale, UneCommandeDontLÉcranNExistePasEncoreNeFaitRienNiNeMontreRien) {
+    MDIForm1& fenêtre = démarrer();
+    fenêtre.activer_menus();
+    const size_t chargées = feuilles().chargées().size();
+    int sans_commande = 0;
+    for (const LigneDeCommande& ligne : carte_des_commandes()) {
+        if (ligne.faire)
+            continue;
+        ++sans_commande;
+        fenêtre.cliquer(QString::fromUtf8(ligne.menu));
+        EXPECT_EQ(feuilles().chargées().size(), chargées) << ligne.menu;
+    }
+    EXPECT_GT(sans_commande, 0);
+    EXPECT_TRUE(ui().boxes().empty());
+}
+
+TEST_F(FenêtrePrincipale, ChaqueEntréeDuMenuAUneLigneDansLaCarte) {
+    MDIForm1& fenêtre = démarrer();
+    for (QAction* a : fenêtre.fenêtre->findChildren<QAction*>()) {
+        if (a->isSeparator() || a->menu() != nullptr || a->objectName().isEmpty())
+            continue;
+        const bool trouvée = std::any_of(carte_des_commandes().begin(), carte_des_commandes().end(),
+                                         [&](const LigneDeCommande& l) { return a->objectName() == l.menu; });
+        EXPECT_TRUE(trouvée) << a->objectName().toStdString();
+    }
+}
+
+TEST_F(FenêtrePrincipale, FermerLaBaseSansBaseOuverteDitQuandMêmeQuElleEstFermée) {
+    MDIForm1& fenêtre = démarrer();
+    ui().expectMsgBox(vbOK);
+    fenêtre.cliquer("menufichierindex3");
+    ASSERT_EQ(ui().boxes().size(), 1u);
+    EXPECT_EQ(ui().boxes()[0].text, "La base est fermée...");
+    EXPECT_EQ(ui().boxes()[0].buttons, vbOKOnly + vbInformation);
+    EXPECT_EQ(ui().boxes()[0].title, "Norvane v2");
+    EXPECT_EQ(module1().base_en_cours, "");
+    EXPECT_TRUE(menus_de_données_inactifs());
+}
+
+TEST_F(FenêtrePrincipale, FermerLaBaseOuverteVideLÉtatEtLaBarreMaisLaisseLesÉcrans) {
+    ouvrir_une_base();
+    ui().expectMsgBox(vbOK);
+    mdi()->cliquer("menufichierindex3");
+    EXPECT_EQ(module1().base_en_cours, "");
+    EXPECT_EQ(mdi()->Panel1(), "");
+    ASSERT_NE(choix(), nullptr);
+    EXPECT_EQ(choix()->Label4->text(), "");
+    EXPECT_FALSE(choix_à_l_écran()); // loaded again by the clearing, but hidden
+    EXPECT_TRUE(menus_de_données_inactifs());
+}
+
+TEST_F(FenêtrePrincipale, NonÀLaQuestionDeSortieLaisseToutCommeAvant) {
+    ouvrir_une_base();
+    const QString base = module1().base_en_cours;
+    const QString panneau = mdi()->Panel1();
+    const size_t chargées = feuilles().chargées().size();
+    ui().expectMsgBox(vbNo);
+    mdi()->cliquer("menufichierindex2");
+    processDeletions();
+    ASSERT_EQ(ui().boxes().size(), 1u);
+    EXPECT_EQ(ui().boxes()[0].text, "Voulez-vous quitter le logiciel?");
+    EXPECT_EQ(ui().boxes()[0].buttons, vbYesNo + vbQuestion);
+    EXPECT_EQ(ui().boxes()[0].title, "Norvane v2");
+    ASSERT_NE(mdi(), nullptr);
+    EXPECT_TRUE(mdi()->isVisible());
+    EXPECT_EQ(mdi()->Panel1(), panneau);
+    EXPECT_EQ(module1().base_en_cours, base);
+    EXPECT_EQ(feuilles().chargées().size(), chargées);
+    EXPECT_TRUE(menus_de_données_actifs());
+}
+
+TEST_F(FenêtrePrincipale, FermerLaFenêtrePoseLaMêmeQuestion) {
+    MDIForm1& fenêtre = démarrer();
+    ui().expectMsgBox(vbNo);
+    fenêtre.close();
+    processDeletions();
+    ASSERT_EQ(ui().boxes().size(), 1u);
+    EXPECT_EQ(ui().boxes()[0].text, "Voulez-vous quitter le logiciel?");
+    EXPECT_NE(mdi(), nullptr);
+}
+
+TEST_F(FenêtrePrincipale, OuiÀLaQuestionDeSortieDéchargeToutLeProgramme) {
+    MDIForm1& fenêtre = démarrer();
+    ui().expectMsgBox(vbYes);
+    fenêtre.cliquer("menufichierindex2");
+    processDeletions();
+    EXPECT_EQ(mdi(), nullptr);
+    EXPECT_TRUE(feuilles().chargées().empty());
+}
+
+TEST_F(FenêtrePrincipale, OuvrirUneBaseMontreLeChoixEtVideLeCodeTapé) {
+    ouvrir_une_base();
+    feuilles().get<feuille_choix_base>().accès_tentavive->setText("ancien");
+    mdi()->cliquer("menufichierindex1");
+    ASSERT_TRUE(choix_à_l_écran());
+    EXPECT_EQ(choix()->accès_tentavive->text(), "");
+}
+
+} // namespace

@@ -1,0 +1,143 @@
+#include "platform/forms/Module1.h"
+#include "shell/MDIForm1.h"
+#include "shell/feuille_options.h"
+#include "shell/fichier_options.h"
+#include "shell/options.h"
+#include "store/feuille_choix_base.h"
+#include "support/Fixtures.h"
+
+#include <QCheckBox>
+#include <QFile>
+#include <QLabel>
+
+namespace {
+
+class FichierOptions : public WorkFolderTest {
+protected:
+    static Feuilles& feuilles() { return module1().feuilles(); }
+    static feuille_options& options() { return feuilles().get<feuille_options>(); }
+    QByteArray contenu() const {
+        QFile f(folder.file("options.ini"));
+        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+    }
+    // The main window is up, as during a run; its own load reads the file once.
+    void programme_chargé() {
+        ui().failOnUnusedAnswers = true;
+        feuilles().get<MDIForm1>();
+    }
+    static std::vector<int> cases() {
+        feuille_options& o = options();
+        return {valeur_case(o.Check1), valeur_case(o.Check2), valeur_case(o.Check3), valeur_case(o.Check4)};
+    }
+};
+
+TEST_F(FichierOptions, ÉcrireDonneCinqLignesCrLfNombresNusEtCheminEntreGuillemets) {
+    programme_chargé();
+    fixer_case(options().Check3, 1);
+    fixer_case(options().Check4, 1);
+    module1().base_en_cours = QStringLiteral("C:\\écoles\\base.mdb");
+    écrire_options();
+    EXPECT_EQ(contenu(), QByteArray("0\r\n0\r\n1\r\n1\r\n\"C:\\\xE9"
+                                    "coles\\base.mdb\"\r\n"));
+}
+
+TEST_F(FichierOptions, UnCheminAvecUneVirguleEtDesAccentsSurvitÀLÉcritureEtÀLaLecture) {
+    programme_chargé();
+    const QString chemin = QStringLiteral("/srv/Écoles/Année 2024, CM1-CM2/élèves, œuvre.mdb");
+    module1().base_en_cours = chemin;
+    fixer_case(options().Check1, 1);
+    écrire_options();
+    module1().base_en_cours.clear();
+    fixer_case(options().Check1, 0);
+    lire_options();
+    EXPECT_EQ(module1().base_en_cours, chemin);
+    EXPECT_EQ(feuilles().get<feuille_choix_base>().Label4->text(), chemin);
+    EXPECT_EQ(cases(), (std::vector<int>{1, 0, 0, 0}));
+    EXPECT_TRUE(ui().boxes().empty());
+}
+
+TEST_F(FichierOptions, UnCaractèreHorsDeLaPageDeCodeEstRemplacéPasPerdu) {
+    programme_chargé();
+    module1().base_en_cours = QStringLiteral("/bases/Łódź.mdb");
+    écrire_options();
+    EXPECT_TRUE(contenu().endsWith("\"/bases/?\xF3"
+                                   "d?.mdb\"\r\n"));
+}
+
+TEST_F(FichierOptions, UnFichierAbsentEstCrééAvecLesValeursEnPlace) {
+    programme_chargé();
+    QFile::remove(folder.file("options.ini"));
+    module1().base_en_cours = QStringLiteral("x.mdb");
+    lire_options();
+    EXPECT_EQ(contenu(), QByteArray("0\r\n0\r\n0\r\n0\r\n\"x.mdb\"\r\n"));
+}
+
+TEST_F(FichierOptions, LaLectureAccepteLesValeursSurUneLigneSéparéesParDesVirgules) {
+    folder.write("options.ini", "1,0,0,1,\"/a, b/c.mdb\"\r\n");
+    programme_chargé();
+    EXPECT_EQ(cases(), (std::vector<int>{1, 0, 0, 1}));
+    EXPECT_EQ(module1().base_en_cours, "/a, b/c.mdb");
+}
+
+TEST_F(FichierOptions, UnFichierTropCourtArrêteLaLectureEtGardeCeQuiAÉtéLu) {
+    folder.write("options.ini", "1\r\n1\r\n");
+    ui().expectMsgBox(vbOK);
+    programme_chargé();
+    ASSERT_EQ(ui().boxes().size(), 1u);
+    EXPECT_EQ(ui().boxes()[0].text,
+              "Le gestionnaire d'erreurs des données a rencontré l'erreur : 62\n\n" + error_text(62));
+    EXPECT_EQ(ui().boxes()[0].buttons, vbOKOnly + vbExclamation);
+    EXPECT_EQ(cases(), (std::vector<int>{1, 1, 0, 0}));
+    EXPECT_EQ(module1().base_en_cours, "");
+
+    // The file stays open for the rest of the run: the next reading fails in its turn.
+    ui().expectMsgBox(vbOK);
+    lire_options();
+    ASSERT_EQ(ui().boxes().size(), 2u);
+    EXPECT_TRUE(ui().boxes()[1].text.startsWith(
+        "Le gestionnaire d'erreurs des données a rencontré l'erreur : 55\n\n"));
+}
+
+TEST_F(FichierOptions, UnIndicateurQuiNEstPasUnNombreArrêteLaLecture) {
+    folder.write("options.ini", "1\r\noui\r\n1\r\n1\r\n\"/a.mdb\"\r\n");
+    ui().expectMsgBox(vbOK);
+    programme_chargé();
+    ASSERT_EQ(ui().boxes().size(), 1u);
+    EXPECT_TRUE(ui().boxes()[0].text.startsWith(
+        "Le gestionnaire d'erreurs des données a rencontré l'erreur : 13\n\n"));
+    EXPECT_EQ(cases(), (std::vector<int>{1, 0, 0, 0}));
+    EXPECT_EQ(module1().base_en_cours, "");
+}
+
+TEST(TexteOptions, LectureDesChampsDélimités) {
+    const LectureOptions l = lire_texte_options("  0 \r\n1\n\"a,b\"  ,2\r\"\"\r\n");
+    EXPECT_EQ(l.valeurs, (QStringList{"0", "1", "a,b", "2", ""}));
+    EXPECT_FALSE(l.erreur.has_value());
+    const LectureOptions courte = lire_texte_options("0\r\n0\r\n0\r\n0\r\n");
+    EXPECT_EQ(courte.valeurs.size(), 4);
+    ASSERT_TRUE(courte.erreur.has_value());
+    EXPECT_EQ(courte.erreur->number(), 62);
+}
+
+TEST(TexteOptions, ValeursDesIndicateurs) {
+    EXPECT_EQ(indicateur_lu("0"), 0);
+    EXPECT_EQ(indicateur_lu(" 1 "), 1);
+    EXPECT_EQ(indicateur_lu("2"), 2);
+    EXPECT_EQ(indicateur_lu(""), 0);
+    for (const char* refusé : {"oui", "1a", "x"}) {
+        try {
+            indicateur_lu(QString::fromUtf8(refusé));
+            ADD_FAILURE() << refusé << " accepté";
+        } catch (const VbError& e) {
+            EXPECT_EQ(e.number(), 13) << refusé;
+        }
+    }
+    try {
+        indicateur_lu("5");
+        ADD_FAILURE() << "5 accepté";
+    } catch (const VbError& e) {
+        EXPECT_EQ(e.number(), 380);
+    }
+}
+
+} // namespace

@@ -1,0 +1,257 @@
+#include "../shell/EtatDemarrage.h"
+
+#include "platform/forms/DataControl.h"
+#include "platform/forms/ListesFichiers.h"
+#include "shell/feuille_options.h"
+#include "shell/feuille_patientez.h"
+#include "shell/options.h"
+#include "store/feuille_login.h"
+#include "store/ouverture_base.h"
+
+#include <QCheckBox>
+#include <QDir>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTimer>
+
+namespace {
+
+const QString message_sélection =
+    QStringLiteral("Vous devez sélectionner la base de données sur laquelle vous souhaitez travailler...");
+const QString message_code = QStringLiteral("Erreur de code d'accès... Accès non-autorisé!");
+
+class ChoixDeLaBase : public Démarrage {
+protected:
+    feuille_choix_base& démarrer_sur_le_choix() {
+        démarrer_par_clic();
+        EXPECT_TRUE(choix_à_l_écran());
+        return *choix();
+    }
+    static void cliquer(QPushButton* bouton) { QTest::mouseClick(bouton, Qt::LeftButton); }
+    static void ouvrir(feuille_choix_base& écran) {
+        cliquer(écran.cmdMettreàjour);
+        processDeletions();
+    }
+    // The user at the access code box: types and accepts, or cancels.
+    void taper_le_code(const QString& code) {
+        ui().expectModal([code](Feuille& f) {
+            auto& login = static_cast<feuille_login&>(f);
+            QTest::keyClicks(login.accès_tentavive, code);
+            QTest::mouseClick(login.cmdMettreàjour, Qt::LeftButton);
+        });
+    }
+    void annuler_le_code() {
+        ui().expectModal(
+            [](Feuille& f) { QTest::mouseClick(static_cast<feuille_login&>(f).cmdFermer, Qt::LeftButton); });
+    }
+};
+
+TEST_F(ChoixDeLaBase, LesListesCommencentSurLeDossierCourantAvecLeMotifMdb) {
+    créer_base_de_test(folder.file("b.mdb"));
+    créer_base_de_test(folder.file("a.mdb"));
+    folder.write("basevide.mdz", "x");
+    folder.write("notes.txt", "x");
+    QDir(folder.path()).mkdir("archives");
+    feuille_choix_base& écran = démarrer_sur_le_choix();
+    EXPECT_EQ(écran.windowTitle(), "Sélection de la base de travail");
+    EXPECT_EQ(écran.File1->Pattern(), "*.mdb");
+    EXPECT_EQ(écran.File1->Path(), QDir::toNativeSeparators(folder.path()));
+    EXPECT_EQ(écran.Dir1->Path(), QDir::toNativeSeparators(folder.path()));
+    QStringList fichiers;
+    for (int i = 0; i < écran.File1->count(); ++i)
+        fichiers << écran.File1->item(i)->text();
+    EXPECT_EQ(fichiers, (QStringList{"a.mdb", "b.mdb"}));
+    EXPECT_FALSE(écran.datPrimaryRS->isVisible());
+    EXPECT_FALSE(écran.accès_actuel->isVisible());
+    EXPECT_FALSE(écran.accès_tentavive->isVisible());
+}
+
+TEST_F(ChoixDeLaBase, LesBoutonsDeMaintenanceSontPrésentsAvecLeursLégendes) {
+    feuille_choix_base& écran = démarrer_sur_le_choix();
+    const std::pair<QPushButton*, const char*> boutons[] = {
+        {écran.cmdMettreàjour, "&Ouvrir"}, {écran.cmdFermer, "&Annuler"},
+        {écran.cmdAjouter, "&Dupliquer"},  {écran.cmdSupprimer, "&Supprimer"},
+        {écran.Command2, "&Compacter"},    {écran.Command3, "C&réer"},
+        {écran.Command6, "Re&nommer"},     {écran.Command4, "Sau&vegarder"},
+        {écran.Command5, "&Restaurer"}};
+    for (const auto& [bouton, légende] : boutons) {
+        EXPECT_EQ(bouton->text(), QString::fromUtf8(légende));
+        EXPECT_FALSE(bouton->toolTip().isEmpty()) << légende;
+    }
+}
+
+TEST_F(ChoixDeLaBase, OuvrirSansRienSélectionnerDemandeDeChoisirEtLaisseLÉcran) {
+    feuille_choix_base& écran = démarrer_sur_le_choix();
+    ui().expectMsgBox(vbOK);
+    ouvrir(écran);
+    ASSERT_EQ(ui().boxes().size(), 1u);
+    EXPECT_EQ(ui().boxes()[0].text, message_sélection);
+    EXPECT_EQ(ui().boxes()[0].buttons, vbOKOnly + vbExclamation);
+    EXPECT_TRUE(choix_à_l_écran());
+    EXPECT_TRUE(menus_de_données_inactifs());
+}
+
+TEST_F(ChoixDeLaBase, UnClicSurUnFichierEnFaitDéjàLaBaseEnCours) {
+    const QString base = créer_base_de_test(folder.file("ecole.mdb"), QStringLiteral("secret"));
+    feuille_choix_base& écran = démarrer_sur_le_choix();
+    ASSERT_TRUE(écran.File1->cliquer("ecole.mdb"));
+    EXPECT_EQ(écran.Label4->text(), QDir::toNativeSeparators(base));
+    EXPECT_EQ(module1().base_en_cours, QDir::toNativeSeparators(base));
+    EXPECT_EQ(module1().chemin_choisi, QDir::toNativeSeparators(folder.path()) + QDir::separator());
+    EXPECT_EQ(écran.accès_actuel->text(), "secret");
+    // Annuler does not take it back.
+    cliquer(écran.cmdFermer);
+    processDeletions();
+    EXPECT_EQ(choix(), nullptr);
+    EXPECT_EQ(module1().base_en_cours, QDir::toNativeSeparators(base));
+}
+
+TEST_F(ChoixDeLaBase, SélectionnerPuisChangerDeDossierPuisOuvrirDemandeDeChoisir) {
+    const QString base = créer_base_de_test(folder.file("ecole.mdb"));
+    QDir(folder.path()).mkdir("autre");
+    feuille_choix_base& écran = démarrer_sur_le_choix();
+    ASSERT_TRUE(écran.File1->cliquer("ecole.mdb"));
+    écran.Dir1->setPath(folder.file("autre"));
+    EXPECT_EQ(écran.File1->Path(), QDir::toNativeSeparators(folder.file("autre")));
+    EXPECT_EQ(écran.Label4->text(), "");
+    EXPECT_EQ(module1().base_en_cours, QDir::toNativeSeparators(base));
+    ui().expectMsgBox(vbOK);
+    ouvrir(écran);
+    ASSERT_EQ(ui().boxes().size(), 1u);
+    EXPECT_EQ(ui().boxes()[0].text, message_sélection);
+    EXPECT_TRUE(choix_à_l_écran());
+}
+
+TEST_F(ChoixDeLaBase, UnDoubleClicOuvreLaBase) {
+    const QString base = créer_base_de_test(folder.file("ecole.mdb"));
+    feuille_choix_base& écran = démarrer_sur_le_choix();
+    ASSERT_TRUE(écran.File1->cliquer("ecole.mdb"));
+    emit écran.File1->DblClick();
+    processDeletions();
+    EXPECT_FALSE(choix_à_l_écran());
+    EXPECT_EQ(mdi()->Panel1(), "Base de données en cours : " + QDir::toNativeSeparators(base));
+    EXPECT_TRUE(menus_de_données_actifs());
+    EXPECT_TRUE(ui().boxes().empty());
+}
+
+TEST_F(ChoixDeLaBase, UneBaseSansCodeSOuvreSansRienDemanderEtSansAutreÉcran) {
+    const QString base = créer_base_de_test(folder.file("ecole.mdb"), QString());
+    feuille_choix_base& écran = démarrer_sur_le_choix();
+    écran.File1->cliquer("ecole.mdb");
+    ouvrir(écran);
+    EXPECT_TRUE(ui().modals().empty());
+    EXPECT_TRUE(ui().boxes().empty());
+    EXPECT_EQ(mdi()->Panel1(), "Base de données en cours : " + QDir::toNativeSeparators(base));
+    EXPECT_EQ(choix(), nullptr);
+    EXPECT_EQ(feuilles().siChargée<feuille_patientez>(), nullptr);
+    // The wait notice's hourglass came and went.
+    const auto& pointeurs = ui().pointerHistory();
+    EXPECT_NE(std::find(pointeurs.begin(), pointeurs.end(), vbHourglass), pointeurs.end());
+    EXPECT_EQ(ui().mousePointer(), vbDefault);
+}
+
+TEST_F(ChoixDeLaBase, UneTablePasseSansLigneNeDemandeRienNonPlus) {
+    créer_base_de_test(folder.file("ecole.mdb"), std::nullopt);
+    feuille_choix_base& écran = démarrer_sur_le_choix();
+    écran.File1->cliquer("ecole.mdb");
+    ouvrir(écran);
+    EXPECT_TRUE(ui().modals().empty());
+    EXPECT_TRUE(menus_de_données_actifs());
+}
+
+TEST_F(ChoixDeLaBase, LeBonCodeOuvreLaBase) {
+    const QString base = créer_base_de_test(folder.file("ecole.mdb"), QStringLiteral("Secret"));
+    feuille_choix_base& écran = démarrer_sur_le_choix();
+    écran.File1->cliquer("ecole.mdb");
+    taper_le_code("Secret");
+    ouvrir(écran);
+    EXPECT_EQ(ui().modals(), (std::vector<QString>{"feuille_login"}));
+    EXPECT_TRUE(ui().boxes().empty());
+    EXPECT_EQ(mdi()->Panel1(), "Base de données en cours : " + QDir::toNativeSeparators(base));
+    EXPECT_TRUE(menus_de_données_actifs());
+}
+
+class CodeRefusé : public ChoixDeLaBase, public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(CodeRefusé, LaisseLeChoixEtLesMenusMaisGardeLaBaseRefusée) {
+    const QString base = créer_base_de_test(folder.file("ecole.mdb"), QStringLiteral("Secret"));
+    feuille_choix_base& écran = démarrer_sur_le_choix();
+    écran.File1->cliquer("ecole.mdb");
+    const QString tapé = QString::fromUtf8(GetParam());
+    if (tapé == "(annuler)")
+        annuler_le_code();
+    else
+        taper_le_code(tapé);
+    ui().expectMsgBox(vbOK);
+    ouvrir(écran);
+    ASSERT_EQ(ui().boxes().size(), 1u);
+    EXPECT_EQ(ui().boxes()[0].text, message_code);
+    EXPECT_EQ(ui().boxes()[0].buttons, vbOKOnly + vbExclamation);
+    EXPECT_TRUE(choix_à_l_écran());
+    EXPECT_EQ(choix()->accès_tentavive->text(), "");
+    EXPECT_TRUE(menus_de_données_inactifs());
+    EXPECT_EQ(mdi()->Panel1(), "");
+    EXPECT_EQ(module1().base_en_cours, QDir::toNativeSeparators(base));
+}
+
+INSTANTIATE_TEST_SUITE_P(Codes, CodeRefusé, ::testing::Values("secret", "Secret ", "", "(annuler)"));
+
+TEST_F(ChoixDeLaBase, UnCodeRefuséQuandUneBaseEstOuverteLaisseLesMenusActifs) {
+    const QString première = créer_base_de_test(folder.file("a.mdb"));
+    créer_base_de_test(folder.file("b.mdb"), QStringLiteral("Secret"));
+    feuille_choix_base& écran = démarrer_sur_le_choix();
+    écran.File1->cliquer("a.mdb");
+    ouvrir(écran);
+    ASSERT_TRUE(menus_de_données_actifs());
+    mdi()->cliquer("menufichierindex1");
+    feuille_choix_base& encore = *choix();
+    encore.File1->cliquer("b.mdb");
+    taper_le_code("faux");
+    ui().expectMsgBox(vbOK);
+    ouvrir(encore);
+    EXPECT_EQ(ui().boxes().back().text, message_code);
+    EXPECT_TRUE(menus_de_données_actifs());
+    EXPECT_EQ(mdi()->Panel1(), "Base de données en cours : " + QDir::toNativeSeparators(première));
+    EXPECT_EQ(module1().base_en_cours, QDir::toNativeSeparators(folder.file("b.mdb")));
+}
+
+TEST_F(ChoixDeLaBase, ÀLOuvertureAuDémarrageLeBonCodeNeTrouvePasDÉcranPourLeFocus) {
+    const QString base = créer_base_de_test(folder.file("ecole.mdb"), QStringLiteral("Secret"));
+    préparer_options("0\r\n0\r\n1\r\n0\r\n" + ligne_de_base(base));
+    taper_le_code("Secret");
+    ui().expectMsgBox(vbOK);
+    démarrer_par_touche();
+    ASSERT_EQ(ui().boxes().size(), 1u);
+    EXPECT_TRUE(ui().boxes()[0].text.startsWith("Le logiciel a rencontré l'erreur : 5\n\n"));
+    EXPECT_TRUE(menus_de_données_actifs());
+    EXPECT_EQ(mdi()->Panel1(), "Base de données en cours : " + base);
+}
+
+TEST_F(ChoixDeLaBase, LaBoîteDuCodeClignoteEtMasqueLaSaisie) {
+    feuille_login& login = feuilles().get<feuille_login>();
+    EXPECT_EQ(login.windowTitle(), "");
+    EXPECT_TRUE(login.windowFlags() & Qt::FramelessWindowHint);
+    EXPECT_EQ(login.accès_tentavive->echoMode(), QLineEdit::Password);
+    EXPECT_EQ(login.lblLabels[0]->text(), "Saisissez le code d'accès");
+    EXPECT_EQ(login.lblLabels[1]->text(), "à la base de données");
+    EXPECT_EQ(login.cmdMettreàjour->text(), "A&ccepter");
+    EXPECT_EQ(login.cmdFermer->text(), "&Annuler");
+    ASSERT_EQ(login.Timer1->interval(), 300);
+    const bool avant = login.Image1->isHidden();
+    QMetaObject::invokeMethod(login.Timer1, "timeout");
+    EXPECT_NE(login.Image1->isHidden(), avant);
+    EXPECT_EQ(login.Image2->isHidden(), login.Image1->isHidden());
+    QMetaObject::invokeMethod(login.Timer1, "timeout");
+    EXPECT_EQ(login.Image1->isHidden(), avant);
+    EXPECT_EQ(login.Image2->isHidden(), avant);
+}
+
+TEST_F(ChoixDeLaBase, LesÉcransNommésParLesOptionsNeSontPasEncoreLÀEtRienNeSAffiche) {
+    const QString base = créer_base_de_test(folder.file("ecole.mdb"));
+    préparer_options("1\r\n1\r\n1\r\n1\r\n" + ligne_de_base(base));
+    démarrer_par_clic();
+    EXPECT_TRUE(ui().boxes().empty());
+    EXPECT_TRUE(menus_de_données_actifs());
+}
+
+} // namespace

@@ -1,0 +1,84 @@
+#include "support/BaseDirecte.h"
+
+#include "platform/dao/Database.h"
+#include "platform/errors/VbError.h"
+#include "support/Fixtures.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+
+namespace {
+
+// One connection to the file for the span of one helper call.
+struct Fichier {
+    sqlite3* db = nullptr;
+    explicit Fichier(const QString& chemin) {
+        if (sqlite3_open(chemin.toUtf8().constData(), &db) != SQLITE_OK)
+            ADD_FAILURE() << "ouverture impossible : " << chemin.toStdString();
+    }
+    ~Fichier() { sqlite3_close(db); }
+};
+
+} // namespace
+
+void sql_direct(const QString& chemin, const QString& sql) {
+    Fichier f(chemin);
+    char* erreur = nullptr;
+    if (sqlite3_exec(f.db, sql.toUtf8().constData(), nullptr, nullptr, &erreur) != SQLITE_OK) {
+        ADD_FAILURE() << "SQL refusé : " << sql.toStdString() << " : " << (erreur ? erreur : "");
+        sqlite3_free(erreur);
+    }
+}
+
+QStringList colonne_du_fichier(const QString& chemin, const QString& table, const QString& colonne) {
+    Fichier f(chemin);
+    QStringList valeurs;
+    sqlite3_stmt* requête = nullptr;
+    const QString sql = QStringLiteral("SELECT \"%1\" FROM \"%2\" ORDER BY rowid").arg(colonne, table);
+    if (sqlite3_prepare_v2(f.db, sql.toUtf8().constData(), -1, &requête, nullptr) != SQLITE_OK) {
+        ADD_FAILURE() << "lecture impossible : " << sql.toStdString();
+        return valeurs;
+    }
+    while (sqlite3_step(requête) == SQLITE_ROW) {
+        const auto* texte = reinterpret_cast<const char*>(sqlite3_column_text(requête, 0));
+        valeurs << (texte ? QString::fromUtf8(texte) : QStringLiteral("<null>"));
+    }
+    sqlite3_finalize(requête);
+    return valeurs;
+}
+
+void journaliser_écritures(const QString& chemin, const QStringList& tables) {
+    QString sql = QStringLiteral("CREATE TABLE IF NOT EXISTS journal (quoi TEXT);");
+    for (const QString& table : tables)
+        sql += QStringLiteral(
+                   "CREATE TRIGGER \"%1_maj\" AFTER UPDATE ON \"%1\" BEGIN INSERT INTO journal VALUES "
+                   "('maj'); END; CREATE TRIGGER \"%1_ajout\" AFTER INSERT ON \"%1\" BEGIN INSERT "
+                   "INTO journal VALUES ('ajout'); END;")
+                   .arg(table);
+    sql_direct(chemin, sql);
+}
+
+int écritures_journalisées(const QString& chemin) {
+    return static_cast<int>(
+        colonne_du_fichier(chemin, QStringLiteral("journal"), QStringLiteral("quoi")).size());
+}
+
+void exécuter_par_le_moteur(const QString& chemin, const QString& sql) {
+    try {
+        Database::open(chemin)->Execute(sql);
+    } catch (const VbError& e) {
+        ADD_FAILURE() << "le moteur refuse " << sql.toStdString() << " : " << e.description().toStdString();
+    }
+}
+
+QString copie_du_modèle(const WorkFolder& dossier) {
+    const QString chemin = dossier.file(QStringLiteral("travail.mdb"));
+    if (!QFile::copy(QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("../basevide.mdz")),
+                     chemin))
+        ADD_FAILURE() << "copie du modèle impossible vers " << chemin.toStdString();
+    QFile::setPermissions(chemin, QFile::permissions(chemin) | QFileDevice::WriteOwner);
+    return chemin;
+}
