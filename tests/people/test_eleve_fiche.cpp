@@ -418,6 +418,38 @@ TEST_F(FicheEleveSurBase, EditingATemplateWhenNoneIsLeftReportsTheMissingRecord)
     EXPECT_FALSE(module1().feuilles().get<feuille_documents>().isVisible());
 }
 
+TEST_F(FicheEleveSurBase, TheTemplateListIsOnlyReadFromThePupilScreen) {
+    ajouter_élève(base, u("000001"), u("UN"));
+    feuille_élève& f = ouvrir();
+    const QStringList avant = colonne_du_fichier(base, u("documents"), u("intitulé_bouton"));
+    ASSERT_FALSE(avant.isEmpty());
+    montrer_active(f);
+    f.SSTab1->setCurrentIndex(7);
+    f.grdDataGrid->setFocus();
+    f.grdDataGrid->setCurrentIndex(f.grdDataGrid->model()->index(0, 0));
+    touche_au_focus(Qt::Key_Delete);
+    taper_au_focus(u("x"));
+    touche_au_focus(Qt::Key_Return);
+    cliquer(*f.datPrimaryRS, u("suivant"));
+    EXPECT_EQ(colonne_du_fichier(base, u("documents"), u("intitulé_bouton")), avant);
+}
+
+TEST_F(FicheEleveSurBase, ButtonsWhoseWorkComesLaterDoNothingYet) {
+    ajouter_élève(base, u("000001"), u("UN"), u("Une"), u("000003"));
+    feuille_élève& f = ouvrir();
+    for (const char* nom :
+         {"Command3", "Command4", "Command5", "Command7", "Command8", "Command9", "Command10", "Command11",
+          "Command12", "Command14", "Command16", "documents_suite"}) {
+        SCOPED_TRACE(nom);
+        cliquer(f, u(nom));
+        EXPECT_TRUE(f.isVisible());
+        EXPECT_EQ(f.matricule->text(), u("000001"));
+        EXPECT_EQ(f.adresse_résidence->text(), QString());
+    }
+    EXPECT_TRUE(ui().boxes().empty());
+    EXPECT_EQ(module1().feuilles().chargées().size(), 2u); // the pupils and the hidden letters
+}
+
 TEST_F(FicheEleveSurBase, RefreshGoesBackToTheFirstPupilAndReportsAFailure) {
     for (const char* m : {"000001", "000002"})
         ajouter_élève(base, u(m), u("NOM") + u(m));
