@@ -1,5 +1,9 @@
 #include "people/feuille_élève.h"
 
+#include "people/ordres_élèves.h"
+#include "people/recherches_élèves.h"
+#include "people/âge.h"
+
 #include "platform/errors/ErrorBoxes.h"
 #include "platform/forms/Clignotement.h"
 #include "platform/forms/DBGrid.h"
@@ -211,6 +215,7 @@ void feuille_élève::porteur_aide_Change(int index) {
 }
 
 void feuille_élève::brancher_handlers() {
+    brancher_recherches_et_âge();
     QObject::connect(Combo1, &QComboBox::activated, this, [this] { Combo1_Click(); });
     surLostFocus(matricule, [this] { matricule_LostFocus(); });
     surLostFocus(nom_enfant, [this] { nom_enfant_LostFocus(); });
@@ -650,12 +655,12 @@ void feuille_élève::fixer_ordre(int index) {
     Combo1_Click();
 }
 
-// Points datPrimaryRS at the open base in the list's order. Until the searches give each entry its
-// own order, every entry gives the alphabetical one.
+// Points datPrimaryRS at the open base in the list's order, on the first record: nothing of the
+// former position is kept.
 void feuille_élève::Combo1_Click() {
     avec_piège(ErrorBoxKind::standard, [this] {
         datPrimaryRS->setDatabaseName(module1().base_en_cours);
-        datPrimaryRS->setRecordSource(ordre_alphabétique);
+        datPrimaryRS->setRecordSource(requête_de_l_ordre(Combo1->currentText()));
         datPrimaryRS->Refresh();
     });
 }
@@ -709,6 +714,44 @@ void feuille_élève::nom_enfant_LostFocus() {
 void feuille_élève::prénom_enfant_LostFocus() {
     SSTab1->setCurrentIndex(0);
 }
+
+void feuille_élève::brancher_recherches_et_âge() {
+    surDblClick(matricule, [this] { matricule_DblClick(); });
+    surDblClick(nom_enfant, [this] { nom_enfant_DblClick(); });
+    QObject::connect(Command2, &QPushButton::clicked, this, [this] { Command2_Click(); });
+    QObject::connect(Command13, &QPushButton::clicked, this, [this] { Command13_Click(); });
+    QObject::connect(date_naissance, &QLineEdit::textChanged, this, [this] { date_naissance_Change(); });
+    surLostFocus(référence_classe_élève, [this] { référence_classe_élève_LostFocus(); });
+}
+
+// No trap: a failure of the search goes up to the event loop, which reports it.
+void feuille_élève::matricule_DblClick() {
+    positionner_par_matricule(*datPrimaryRS, module1().interaction());
+}
+
+void feuille_élève::nom_enfant_DblClick() {
+    positionner_par_nom(*datPrimaryRS, module1().interaction());
+}
+
+void feuille_élève::Command2_Click() {
+    matricule_DblClick();
+}
+
+void feuille_élève::Command13_Click() {
+    nom_enfant_DblClick();
+}
+
+// An empty or unreadable date leaves the former pupil's age on show.
+void feuille_élève::date_naissance_Change() {
+    avec_piège(ErrorBoxKind::données, [this] {
+        if (const auto âge = âge_du_texte(date_naissance->text(), module1().horloge().aujourdhui()))
+            Label12->setText(*âge);
+    });
+}
+
+// The field stands disabled and never has the focus to lose. Were it enabled, its exit would teach the
+// family situations table the family screen's situation, not a class.
+void feuille_élève::référence_classe_élève_LostFocus() {}
 
 void feuille_élève::Command15_Click() {
     date_inscription->setText(module1().horloge().aujourdhui().toString(QStringLiteral("dd/MM/yyyy")));

@@ -142,6 +142,15 @@ public:
     // Sets the list's entry by code, which runs Combo1_Click as a pick by the user does.
     void fixer_ordre(int index);
     void Combo1_Click();
+    // The jumps to one pupil, by matricule or by the start of the surname; nothing trapped.
+    void matricule_DblClick();
+    void nom_enfant_DblClick();
+    void Command2_Click();
+    void Command13_Click();
+    // The age in Label12, at each change of the birth date's text.
+    void date_naissance_Change();
+    // Silent while référence_classe_élève stays disabled, as it always does.
+    void référence_classe_élève_LostFocus();
 
     void matricule_LostFocus();
     void nom_enfant_LostFocus();
@@ -163,6 +172,7 @@ private:
     struct Grille;
 
     void construire();
+    void brancher_recherches_et_âge();
     void construire_sources();
     QWidget* construire_bandeau();
     QWidget* construire_boutons();
