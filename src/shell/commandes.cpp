@@ -1,5 +1,6 @@
 #include "shell/commandes.h"
 
+#include "people/feuille_élève.h"
 #include "reference/feuille_sexe.h"
 #include "reports/feuille_documents.h"
 #include "shell/MDIForm1.h"
@@ -22,8 +23,8 @@ const std::vector<LigneDeCommande>& carte_des_commandes() {
         {"menufichierindex1", propre(&MDIForm1::menufichierindex1_Click)},
         {"menufichierindex3", propre(&MDIForm1::menufichierindex3_Click)},
         {"menufichierindex2", propre(&MDIForm1::menufichierindex2_Click)},
-        {"menuenfantsindex2", {}},      // feuille_famille
-        {"menuenfantsindex1", {}},      // feuille_élève
+        {"menuenfantsindex2", {}}, // feuille_famille
+        {"menuenfantsindex1", préparer<feuille_élève>(&ouvrir_table_élèves, &étapes_en_plus_élèves)},
         {"menuexploitationindex3", {}}, // feuille_traitements
         {"menuexploitationindex4", {}}, // spreadsheet export
         {"menuparamètresindex1", {}},   // feuille_inspection

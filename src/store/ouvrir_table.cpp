@@ -1,5 +1,6 @@
 #include "store/ouvrir_table.h"
 
+#include "people/feuille_élève.h"
 #include "platform/errors/ErrorBoxes.h"
 #include "reference/feuille_sexe.h"
 #include "reports/feuille_documents.h"
@@ -32,4 +33,10 @@ void ouvrir_table_passe_choix() {
 
 void ouvrir_table_sexe() {
     ouvrir_table<feuille_sexe>(QStringLiteral("SELECT * FROM sexe"));
+}
+
+void ouvrir_table_élèves() {
+    feuille_élève& élève =
+        ouvrir_table<feuille_élève>(QStringLiteral("SELECT * FROM élèves ORDER BY matricule ASC"));
+    pointer_source(*élève.Data1, QStringLiteral("SELECT * FROM paramètres"));
 }

@@ -27,3 +27,6 @@ template <class F> F& ouvrir_table(const QString& sql, SiÉchec échec = SiÉche
 void ouvrir_table_documents();
 void ouvrir_table_passe_choix();
 void ouvrir_table_sexe();
+// The pupils in matricule order, whatever the pupil screen's list says; then the captions of their
+// ten configurable fields (Data1).
+void ouvrir_table_élèves();

@@ -1,0 +1,786 @@
+#include "people/feuille_élève.h"
+
+#include "people/ordres_élèves.h"
+#include "people/recherches_élèves.h"
+#include "people/âge.h"
+
+#include "platform/errors/ErrorBoxes.h"
+#include "platform/forms/Clignotement.h"
+#include "platform/forms/DBGrid.h"
+#include "platform/forms/DataControl.h"
+#include "platform/forms/Module1.h"
+#include "platform/forms/SuiviOnglets.h"
+#include "platform/vb/Conversions.h"
+#include "reports/feuille_documents.h"
+#include "store/ouvrir_table.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace {
+
+const QString aîné = QStringLiteral("Aîné dans l'école");
+const QString ordre_des_matricules = QStringLiteral("SELECT * FROM élèves ORDER BY matricule ASC");
+const QString ordre_alphabétique =
+    QStringLiteral("SELECT * FROM élèves ORDER BY nom_élève ASC, prénom_élève ASC");
+
+ConfigurationFiche configuration_élève() {
+    ConfigurationFiche c;
+    c.nom = QStringLiteral("feuille_élève");
+    c.titre = QStringLiteral("Fiche élève");
+    c.source_de_conception = QStringLiteral("élèves");
+    c.légende = LégendePosition::numérotée;
+    c.ajout = FormeAjout::à_part;
+    c.suppression = FormeSuppression::piégée;
+    return c;
+}
+
+// The Delete key would remove a template from the list; here the list is only read.
+class SansSuppression : public QObject {
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        return event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Delete;
+    }
+};
+
+// Takes a widget out of whatever layout holds it, so that another layout can take it in.
+bool retirer_de(QLayout* disposition, QWidget* w) {
+    if (!disposition)
+        return false;
+    if (disposition->indexOf(w) >= 0) {
+        disposition->removeWidget(w);
+        return true;
+    }
+    for (int i = 0; i < disposition->count(); ++i)
+        if (retirer_de(disposition->itemAt(i)->layout(), w))
+            return true;
+    return false;
+}
+
+QString texte(const char* utf8) {
+    return QString::fromUtf8(utf8);
+}
+
+QPushButton* nouveau_bouton(QWidget* parent, const char* nom, const char* légende, const char* aide) {
+    auto* b = new QPushButton(texte(légende), parent);
+    b->setObjectName(texte(nom));
+    if (aide)
+        b->setToolTip(texte(aide));
+    return b;
+}
+
+// A box that gathers controls without a caption of its own.
+QGroupBox* cadre(QWidget* parent, const char* nom) {
+    auto* g = new QGroupBox(parent);
+    g->setObjectName(texte(nom));
+    return g;
+}
+
+// Short entries get a box about their own width, so that a code of five letters does not stretch over
+// the page; long ones take what the row gives them.
+void ajuster_largeur(QLineEdit* e, int longueur) {
+    const int lettres = longueur == 0 ? 11 : longueur;
+    const int chiffre = e->fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    if (lettres <= 12)
+        e->setFixedWidth(chiffre * (lettres + 5));
+    else
+        e->setMinimumWidth(chiffre * std::min(12 + lettres / 3, 28));
+}
+
+QPlainTextEdit* zone_de_texte(QWidget* parent) {
+    auto* z = new QPlainTextEdit(parent);
+    z->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    z->setTabChangesFocus(true);
+    z->setMinimumHeight(4 * z->fontMetrics().lineSpacing());
+    return z;
+}
+
+} // namespace
+
+// Where the fields of one group are laid out: a label and its field a pair, pairs side by side.
+struct feuille_élève::Grille {
+    QString nom;
+    QGridLayout* disposition;
+    int ligne = -1;
+    int colonne = 0;
+    int paires = 1;    // widest row of the group, in pairs
+    int restantes = 0; // pairs still to come on the current row
+};
+
+feuille_élève::feuille_élève() : FeuilleFiche(configuration_élève()) {
+    construire();
+    lier_colonnes();
+    brancher_handlers();
+}
+
+feuille_élève::~feuille_élève() = default;
+
+QWidget* feuille_élève::champ(const QString& nom) const {
+    return findChild<QWidget*>(nom);
+}
+
+// The two sources besides datPrimaryRS work out of sight: the user never moves them.
+void feuille_élève::construire_sources() {
+    Data1 = new DataControl(this);
+    Data1->setObjectName(QStringLiteral("Data1"));
+    Data1->setRecordSource(QStringLiteral("paramètres"));
+    Data1->hide();
+    Data2 = new DataControl(this);
+    Data2->setObjectName(QStringLiteral("Data2"));
+    Data2->setRecordSource(QStringLiteral("documents"));
+    Data2->hide();
+}
+
+void feuille_élève::construire() {
+    construire_sources();
+    auto* colonne = new QVBoxLayout(corps());
+    colonne->setContentsMargins(0, 0, 0, 0);
+    colonne->addWidget(construire_bandeau());
+    SSTab1 = new QTabWidget(this);
+    SSTab1->setObjectName(QStringLiteral("SSTab1"));
+    colonne->addWidget(SSTab1, 1);
+    construire_onglets();
+    construire_champs();
+    finir_disposition();
+    poser_tabulation();
+    Timer1 = minuterie_clignotante(*this, 500, [this] { Timer1_Timer(); });
+}
+
+// Every field shows its column of the current pupil; the captions of the configurable fields come
+// from the single row of paramètres.
+void feuille_élève::lier_colonnes() {
+    for (const Champ& c : champs()) {
+        if (!c.colonne)
+            continue;
+        const QString colonne = texte(c.colonne);
+        QWidget* w = champ(texte(c.nom));
+        if (auto* e = qobject_cast<QLineEdit*>(w))
+            datPrimaryRS->bind(e, colonne);
+        else if (auto* z = qobject_cast<QPlainTextEdit*>(w))
+            datPrimaryRS->bind(z, colonne);
+        else if (auto* b = qobject_cast<QCheckBox*>(w))
+            datPrimaryRS->bind(b, colonne);
+    }
+    for (int i = 0; i < 5; ++i)
+        for (QLineEdit* e : {nom_contact[i], prénom_contact[i], téléphone_contact[i]})
+            datPrimaryRS->bind(e, e->objectName());
+    for (QWidget* w : champ_paramétable) {
+        if (auto* e = qobject_cast<QLineEdit*>(w))
+            datPrimaryRS->bind(e, e->objectName());
+        else
+            datPrimaryRS->bind(static_cast<QPlainTextEdit*>(w), w->objectName());
+    }
+    Data1->Reposition = [this] { montrer_paramètres(); };
+    // The two other sources let their files go with the screen, as datPrimaryRS does.
+    avantDéchargement([this] {
+        Data1->unload();
+        Data2->unload();
+    });
+}
+
+// The first row of paramètres, when there is one, gives the captions and the help texts; the screen
+// never moves Data1. With no row, the stored defaults stay and no field gets a balloon.
+void feuille_élève::montrer_paramètres() {
+    DataRecordset& rs = Data1->Recordset();
+    if (rs.isEOF() && rs.isBOF())
+        return;
+    for (int i = 0; i < 10; ++i) {
+        const QString n = QString::number(i + 1);
+        lblLabels[i]->setText(rs.field(QStringLiteral("intitulé_champ_paramétrable") + n).toString());
+        const QString aide = rs.field(QStringLiteral("infobulle_champ_paramétrable") + n).toString();
+        if (aide != porteurs_aide[i]->text()) {
+            porteurs_aide[i]->setText(aide);
+            porteur_aide_Change(i);
+        }
+    }
+}
+
+void feuille_élève::porteur_aide_Change(int index) {
+    champ_paramétable[index]->setToolTip(porteurs_aide[index]->text());
+}
+
+void feuille_élève::brancher_handlers() {
+    brancher_recherches_et_âge();
+    QObject::connect(Combo1, &QComboBox::activated, this, [this] { Combo1_Click(); });
+    surLostFocus(matricule, [this] { matricule_LostFocus(); });
+    surLostFocus(nom_enfant, [this] { nom_enfant_LostFocus(); });
+    surLostFocus(prénom_enfant, [this] { prénom_enfant_LostFocus(); });
+    QObject::connect(Command15, &QPushButton::clicked, this, [this] { Command15_Click(); });
+    QObject::connect(Command6, &QPushButton::clicked, this, [this] { Command6_Click(); });
+    suivre_onglets(*this, *SSTab1,
+                   {
+                       {"date_inscription", 0},
+                       {"date_naissance", 0},
+                       {"lieu_naissance", 0},
+                       {"code_nationalité", 0},
+                       {"date_radiation", 0},
+                       {"établissement_accueil", 0},
+                       {"sexe", 0},
+                       {"nationalité", 0},
+                       {"cursus_allongé_élève", 1},
+                       {"saisine_ccpe_élève", 1},
+                       {"référence_classe_élève", 1},
+                       {"niveau_classe_élève", 1},
+                       {"cycle_classe_élève", 1},
+                       {"langue_vivante_élève", 1},
+                       {"nom_contact1", 2},
+                       {"nom_contact2", 2},
+                       {"nom_contact3", 2},
+                       {"nom_contact4", 2},
+                       {"nom_contact5", 2},
+                       {"prénom_contact1", 2},
+                       {"prénom_contact2", 2},
+                       {"prénom_contact3", 2},
+                       {"prénom_contact4", 2},
+                       {"prénom_contact5", 2},
+                       {"téléphone_contact1", 2},
+                       {"téléphone_contact2", 2},
+                       {"téléphone_contact3", 2},
+                       {"téléphone_contact4", 2},
+                       {"téléphone_contact5", 2},
+                       {"numéro_résidence", 3},
+                       {"adresse2_résidence", 3},
+                       {"téléphone1_résidence", 3},
+                       {"téléphone2_résidence", 3},
+                       {"adresse_résidence", 3},
+                       {"code_postal_résidence", 3},
+                       {"ville_résidence", 3},
+                       {"vaccinations", 4},
+                       {"allergies", 4},
+                       {"contre_indications", 4},
+                       {"observations_médicales", 4},
+                       {"participation_usep", 4},
+                       {"restauration_scolaire", 4},
+                       {"coopérative_scolaire", 4},
+                       {"observations_générales", 4},
+                       {"champ_paramétable1", 5},
+                       {"champ_paramétable2", 5},
+                       {"champ_paramétable3", 5},
+                       {"champ_paramétable4", 5},
+                       {"champ_paramétable5", 5},
+                       {"champ_paramétable6", 6},
+                       {"champ_paramétable7", 6},
+                       {"champ_paramétable8", 6},
+                       {"champ_paramétable9", 6},
+                       {"champ_paramétable10", 6},
+                       {"grdDataGrid", 7},
+                       {"Check1", 7},
+                       {"Command6", 7},
+                       {"documents_suite", 7},
+                   });
+}
+
+QWidget* feuille_élève::construire_bandeau() {
+    auto* bandeau = new QWidget(this);
+    auto* lignes = new QVBoxLayout(bandeau);
+    lignes->setContentsMargins(0, 0, 0, 0);
+
+    auto* haut = new QHBoxLayout;
+    auto* Frame2 = groupe(QStringLiteral("Frame2"));
+    auto* Frame12 = groupe(QStringLiteral("Frame12"));
+    haut->addWidget(Frame2, 1);
+    haut->addWidget(Frame12);
+    lignes->addLayout(haut);
+
+    auto* bas = new QHBoxLayout;
+    Combo1 = new QComboBox(bandeau);
+    Combo1->setObjectName(QStringLiteral("Combo1"));
+    for (const char* ordre : ordres)
+        Combo1->addItem(texte(ordre));
+    Combo1->setToolTip(QStringLiteral("Cliquez pour modifier l'ordre d'apparition des fiches"));
+    Combo1->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    bas->addWidget(Combo1, 0, Qt::AlignVCenter);
+    bas->addWidget(construire_boutons(), 1);
+    lignes->addLayout(bas);
+
+    Command4 = nouveau_bouton(Frame12, "Command4", "Parents",
+                              "Cliquez pour accéder à la fiche des parents de l'élève en cours");
+    return bandeau;
+}
+
+// Frame11: the navigator of datPrimaryRS, the frame's buttons and the printing of the sheet, above
+// the tabs where the eye finds them before the fields.
+QWidget* feuille_élève::construire_boutons() {
+    auto* Frame11 = cadre(this, "Frame11");
+    auto* rangée = new QHBoxLayout(Frame11);
+    Command3 = nouveau_bouton(Frame11, "Command3", "&Imprimer", "Cliquez pour imprimer la fiche");
+    datPrimaryRS->setMinimumWidth(
+        datPrimaryRS->fontMetrics().horizontalAdvance(QStringLiteral("Fiche: 0000000")) + 120);
+    for (QWidget* w : std::initializer_list<QWidget*>{datPrimaryRS, cmdAjouter, cmdSupprimer, cmdRafraîchir,
+                                                      cmdMettreàjour, cmdFermer}) {
+        retirer_de(layout(), w);
+        rangée->addWidget(w);
+    }
+    rangée->addStretch(1);
+    rangée->addWidget(Command3);
+    return Frame11;
+}
+
+void feuille_élève::construire_onglets() {
+    const char* légendes[] = {"&Identité",       "&Classe",     "&Personnes autorisées", "&Résidence",
+                              "&Santé / Divers", "Autres (&1)", "Autres (&2)",           "&Documents"};
+    for (const char* légende : légendes) {
+        auto* page = new QWidget(SSTab1);
+        new QVBoxLayout(page);
+        SSTab1->addTab(page, texte(légende));
+    }
+    construire_identité(SSTab1->widget(0));
+    auto* Frame4 = groupe(QStringLiteral("Frame4"));
+    SSTab1->widget(1)->layout()->addWidget(Frame4);
+    construire_contacts(SSTab1->widget(2));
+    construire_résidence(SSTab1->widget(3));
+    construire_santé(SSTab1->widget(4));
+    construire_paramétrables(SSTab1->widget(5), 0);
+    construire_paramétrables(SSTab1->widget(6), 5);
+    construire_documents(SSTab1->widget(7));
+    for (int i = 0; i < SSTab1->count(); ++i)
+        static_cast<QVBoxLayout*>(SSTab1->widget(i)->layout())->addStretch(1);
+}
+
+void feuille_élève::construire_identité(QWidget* page) {
+    auto* Frame3 = groupe(QStringLiteral("Frame3"));
+    auto* Frame13 = groupe(QStringLiteral("Frame13"));
+    page->layout()->addWidget(Frame3);
+    page->layout()->addWidget(Frame13);
+
+    // The picture stands on the right of the identity, its button under it.
+    photo = new QLabel(Frame3);
+    photo->setObjectName(QStringLiteral("photo"));
+    photo->setFrameShape(QFrame::Box);
+    photo->setAlignment(Qt::AlignCenter);
+    photo->setFixedSize(120, 150);
+    photo->setScaledContents(false);
+}
+
+void feuille_élève::construire_contacts(QWidget* page) {
+    auto* Frame5 = cadre(page, "Frame5");
+    page->layout()->addWidget(Frame5);
+    auto* g = new QGridLayout(Frame5);
+    const char* entêtes[] = {"Noms", "Prénoms", "Téléphones"};
+    for (int c = 0; c < 3; ++c) {
+        auto* entête = new QLabel(texte(entêtes[c]), Frame5);
+        entête->setAlignment(Qt::AlignCenter);
+        g->addWidget(entête, 0, c + 1);
+    }
+    auto ligne = [&](const QString& nom, int longueur, const char* aide) {
+        auto* e = new QLineEdit(Frame5);
+        e->setObjectName(nom);
+        e->setMaxLength(longueur);
+        e->setToolTip(texte(aide));
+        return e;
+    };
+    for (int i = 0; i < 5; ++i) {
+        const QString n = QString::number(i + 1);
+        auto* numéro = new QLabel(n, Frame5);
+        numéro->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        g->addWidget(numéro, i + 1, 0);
+        nom_contact[i] = ligne(QStringLiteral("nom_contact") + n, 30, "Nom d'une personne à contacter");
+        prénom_contact[i] =
+            ligne(QStringLiteral("prénom_contact") + n, 30, "Prénom d'une personne à contacter");
+        téléphone_contact[i] = ligne(QStringLiteral("téléphone_contact") + n, 20,
+                                     "Coordonnées téléphoniques d'une personne à contacter");
+        g->addWidget(nom_contact[i], i + 1, 1);
+        g->addWidget(prénom_contact[i], i + 1, 2);
+        g->addWidget(téléphone_contact[i], i + 1, 3);
+    }
+    g->setColumnStretch(1, 3);
+    g->setColumnStretch(2, 3);
+    g->setColumnStretch(3, 2);
+}
+
+void feuille_élève::construire_résidence(QWidget* page) {
+    auto* Frame7 = groupe(QStringLiteral("Frame7"));
+    page->layout()->addWidget(Frame7);
+    Command16 =
+        nouveau_bouton(Frame7, "Command16",
+                       "CLIQUEZ ICI si l'adresse de résidence est identique à celle du responsable légal",
+                       "Cliquez pour accepter automatiquement l'adresse du responsable légal en tant "
+                       "qu'adresse du responsable légal");
+    // The copy of the family's address comes first: it fills most of the fields below it.
+    Grille* g = grille(QStringLiteral("Frame7"));
+    g->disposition->addWidget(Command16, 0, 0, 1, -1);
+    g->ligne = 0;
+}
+
+void feuille_élève::construire_santé(QWidget* page) {
+    auto* côte_à_côte = new QHBoxLayout;
+    auto* Frame8 = groupe(QStringLiteral("Frame8"));
+    auto* Frame6 = groupe(QStringLiteral("Frame6"));
+    côte_à_côte->addWidget(Frame8, 3);
+    côte_à_côte->addWidget(Frame6, 2, Qt::AlignTop);
+    auto* pile = static_cast<QVBoxLayout*>(page->layout());
+    pile->addLayout(côte_à_côte);
+    auto* bas = new QGridLayout;
+    pile->addLayout(bas);
+    grilles_.push_back({QString(), bas});
+}
+
+void feuille_élève::construire_paramétrables(QWidget* page, int premier) {
+    auto* cadre_page = cadre(page, premier == 0 ? "Frame9" : "Frame10");
+    page->layout()->addWidget(cadre_page);
+    auto* g = new QGridLayout(cadre_page);
+    g->setColumnStretch(1, 1);
+    for (int i = premier; i < premier + 5; ++i) {
+        const QString n = QString::number(i + 1);
+        lblLabels[i] = new QLabel(QStringLiteral("champ paramétable ") + n, cadre_page);
+        lblLabels[i]->setObjectName(QStringLiteral("lblLabels") + n);
+        porteurs_aide[i] = new QLabel(QStringLiteral("infobulle"), cadre_page);
+        porteurs_aide[i]->setObjectName(QStringLiteral("Label") + QString::number(i + 2));
+        porteurs_aide[i]->hide();
+
+        const bool plusieurs_lignes = i == 4 || i == 8 || i == 9;
+        QWidget* saisie = nullptr;
+        if (plusieurs_lignes) {
+            saisie = zone_de_texte(cadre_page);
+        } else {
+            auto* e = new QLineEdit(cadre_page);
+            e->setMaxLength(50);
+            saisie = e;
+        }
+        saisie->setObjectName(QStringLiteral("champ_paramétable") + n);
+        champ_paramétable[i] = saisie;
+        lblLabels[i]->setBuddy(saisie);
+        const int ligne = i - premier;
+        g->addWidget(lblLabels[i], ligne, 0, plusieurs_lignes ? Qt::AlignTop : Qt::Alignment());
+        g->addWidget(saisie, ligne, 1);
+    }
+}
+
+void feuille_élève::construire_documents(QWidget* page) {
+    auto* Frame1 = cadre(page, "Frame1");
+    page->layout()->addWidget(Frame1);
+    auto* pile = new QVBoxLayout(Frame1);
+
+    // A list to pick from: the templates are written on their own screen, never here.
+    grdDataGrid = new DBGrid(Frame1);
+    grdDataGrid->setObjectName(QStringLiteral("grdDataGrid"));
+    grdDataGrid->addColumn(QStringLiteral("intitulé_bouton"), QStringLiteral("documents existants"));
+    grdDataGrid->setDataSource(Data2);
+    grdDataGrid->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    grdDataGrid->horizontalHeader()->setStretchLastSection(true);
+    grdDataGrid->installEventFilter(new SansSuppression(grdDataGrid));
+    pile->addWidget(grdDataGrid, 1);
+
+    Check1 = new QCheckBox(QStringLiteral("Impression directe sans prévisualisation"), Frame1);
+    Check1->setObjectName(QStringLiteral("Check1"));
+    pile->addWidget(Check1);
+    auto* boutons = new QHBoxLayout;
+    documents_suite =
+        nouveau_bouton(Frame1, "documents_suite", "Imprimer le document sélectionné",
+                       "Cliquez pour imprimer le document sélectionné dans la liste ci-dessus pour "
+                       "l'élève en cours");
+    Command6 = nouveau_bouton(Frame1, "Command6", "Modifier  le document sélectionné",
+                              "Cliquez pour modifier le document sélectionné dans la liste ci-dessus");
+    boutons->addWidget(documents_suite);
+    boutons->addWidget(Command6);
+    boutons->addStretch(1);
+    pile->addLayout(boutons);
+}
+
+QGroupBox* feuille_élève::groupe(const QString& nom) {
+    auto* g = new QGroupBox(this);
+    g->setObjectName(nom);
+    grilles_.push_back({nom, new QGridLayout(g)});
+    return g;
+}
+
+feuille_élève::Grille* feuille_élève::grille(const QString& nom) {
+    for (auto& g : grilles_)
+        if (g.nom == nom)
+            return &g;
+    return nullptr;
+}
+
+void feuille_élève::construire_champs() {
+    const auto table = champs();
+    // The widest row of each group decides how many columns its grid has.
+    for (auto& g : grilles_) {
+        int paires = 0;
+        for (const Champ& c : table) {
+            if (texte(c.groupe) != g.nom || c.invisible)
+                continue;
+            paires = c.même_ligne ? paires + 1 : 1;
+            g.paires = std::max(g.paires, paires);
+        }
+    }
+    for (std::size_t i = 0; i < table.size(); ++i) {
+        const Champ& c = table[i];
+        Grille* g = grille(texte(c.groupe));
+        QWidget* parent = g->disposition->parentWidget();
+        QWidget* w = créer(c, parent);
+        QPushButton* légende = nullptr;
+        if (c.bouton) {
+            légende = nouveau_bouton(parent, c.bouton, c.libellé, c.aide_bouton);
+            this->*c.membre_bouton = légende;
+        }
+        if (c.invisible) {
+            w->hide();
+            continue;
+        }
+        int paires_de_la_ligne = 1;
+        for (std::size_t j = i + 1; j < table.size() && table[j].même_ligne; ++j)
+            ++paires_de_la_ligne;
+        poser_champ(*g, c, w, légende, paires_de_la_ligne);
+    }
+}
+
+QWidget* feuille_élève::créer(const Champ& c, QWidget* parent) {
+    QWidget* w = std::visit(
+        [&](auto membre) -> QWidget* {
+            using Type = std::remove_pointer_t<std::remove_reference_t<decltype(this->*membre)>>;
+            Type* créé = nullptr;
+            if constexpr (std::is_same_v<Type, QPlainTextEdit>)
+                créé = zone_de_texte(parent);
+            else if constexpr (std::is_same_v<Type, QCheckBox>)
+                créé = new QCheckBox(texte(c.libellé), parent);
+            else
+                créé = new Type(parent);
+            this->*membre = créé;
+            return créé;
+        },
+        c.membre);
+    w->setObjectName(texte(c.nom));
+    if (auto* e = qobject_cast<QLineEdit*>(w)) {
+        if (c.longueur > 0)
+            e->setMaxLength(c.longueur);
+        ajuster_largeur(e, c.longueur);
+    }
+    if (auto* l = qobject_cast<QLabel*>(w)) {
+        l->setFrameShape(QFrame::Panel);
+        l->setFrameShadow(QFrame::Sunken);
+        l->setFixedWidth(l->fontMetrics().horizontalAdvance(QStringLiteral("## 99 a - 12 m - 30 j ##")));
+    }
+    if (c.infobulle)
+        w->setToolTip(texte(c.infobulle));
+    if (c.désactivé)
+        w->setEnabled(false);
+    return w;
+}
+
+// A field goes right of the previous one on its row, or starts a new row of `paires_de_la_ligne`
+// pairs; the last field of a row stretches over the columns that the row leaves free.
+void feuille_élève::poser_champ(Grille& g, const Champ& c, QWidget* w, QPushButton* légende,
+                                int paires_de_la_ligne) {
+    if (!c.même_ligne) {
+        ++g.ligne;
+        g.colonne = 0;
+        g.restantes = paires_de_la_ligne;
+    }
+    --g.restantes;
+    // The last field of a row reaches into the spare column on the right.
+    const int portée = g.restantes == 0 ? 2 + 2 * (g.paires - g.colonne / 2 - 1) : 1;
+    QWidget* étiquette = légende;
+    if (!étiquette && !qobject_cast<QCheckBox*>(w)) {
+        auto* l = new QLabel(texte(c.libellé), w->parentWidget());
+        l->setBuddy(w);
+        étiquette = l;
+    }
+    const bool haut = qobject_cast<QPlainTextEdit*>(w) != nullptr;
+    if (étiquette)
+        g.disposition->addWidget(étiquette, g.ligne, g.colonne, haut ? Qt::AlignTop : Qt::Alignment());
+    g.disposition->addWidget(w, g.ligne, g.colonne + 1, 1, portée);
+    // Only the spare column stretches, so that a label stays beside the field before it.
+    g.disposition->setColumnStretch(2 * g.paires, 1);
+    g.colonne += 2;
+}
+
+// What the table does not place: the family button beside its reference, the photo right of the
+// identity with its button under it.
+void feuille_élève::finir_disposition() {
+    grille(QStringLiteral("Frame12"))->disposition->addWidget(Command4, 0, 3);
+    référence_famille->setAlignment(Qt::AlignRight);
+    Grille& identité = *grille(QStringLiteral("Frame3"));
+    const int colonne = 2 * identité.paires;
+    identité.disposition->addWidget(photo, 0, colonne + 1, identité.ligne, 1,
+                                    Qt::AlignTop | Qt::AlignHCenter);
+    identité.disposition->addWidget(Command14, identité.ligne, colonne + 1);
+}
+
+// The Tab key walks the fields in the order the school has always typed them, then the buttons.
+void feuille_élève::poser_tabulation() {
+    QList<QWidget*> suite;
+    for (const char* nom : ordre_tabulation)
+        suite.append(champ(texte(nom)));
+    suite << Combo1 << référence_famille << Command4 << Check2 << cmdAjouter << cmdSupprimer << cmdRafraîchir
+          << cmdMettreàjour << cmdFermer << Command3 << établissement_accueil << date_radiation << Command2
+          << Command13 << Command15 << Command7 << Command5 << Command14 << Command12 << Command11
+          << Command16 << Command8 << Command9 << Command10
+          << findChild<QWidget*>(QStringLiteral("grdDataGrid")) << Check1 << Command6 << documents_suite;
+    for (qsizetype i = 1; i < suite.size(); ++i)
+        setTabOrder(suite[i - 1], suite[i]);
+    tabulation_ = suite;
+}
+
+// Qt's own walk skips the fields of hidden pages; the school's order runs through all eight pages.
+bool feuille_élève::focusNextPrevChild(bool next) {
+    const qsizetype ici = tabulation_.indexOf(focusWidget());
+    if (ici < 0)
+        return Feuille::focusNextPrevChild(next);
+    const qsizetype n = tabulation_.size();
+    for (qsizetype pas = 1; pas < n; ++pas) {
+        QWidget* w = tabulation_[((ici + (next ? pas : -pas)) % n + n) % n];
+        if (!w->isEnabled() || w->isHidden() || !(w->focusPolicy() & Qt::TabFocus))
+            continue;
+        for (int page = 0; page < SSTab1->count(); ++page)
+            if (SSTab1->widget(page)->isAncestorOf(w))
+                SSTab1->setCurrentIndex(page);
+        w->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+        return true;
+    }
+    return false;
+}
+
+void feuille_élève::Form_Load() {
+    FeuilleFiche::Form_Load();
+    fixer_ordre(0);
+}
+
+void feuille_élève::fixer_ordre(int index) {
+    Combo1->setCurrentIndex(index);
+    Combo1_Click();
+}
+
+// Points datPrimaryRS at the open base in the list's order, on the first record: nothing of the
+// former position is kept.
+void feuille_élève::Combo1_Click() {
+    avec_piège(ErrorBoxKind::standard, [this] {
+        datPrimaryRS->setDatabaseName(module1().base_en_cours);
+        datPrimaryRS->setRecordSource(requête_de_l_ordre(Combo1->currentText()));
+        datPrimaryRS->Refresh();
+    });
+}
+
+// A new pupil: a sibling of the current one or not, numbered one above the highest matricule, in the
+// alphabetical order afterwards. Nothing is written until a save or a move.
+void feuille_élève::cmdAjouter_Click() {
+    avec_piège(ErrorBoxKind::standard, [this] {
+        const int réponse = module1().interaction().MsgBox(
+            QStringLiteral(
+                "Voulez-vous ajouter une fiche dans la fratrie en cours (OUI) ou ajouter une fiche "
+                "sans référence à la fratrie en cours (NON)..."),
+            vbYesNoCancel + vbQuestion, QString::fromUtf8(titre_programme));
+        if (réponse == vbCancel)
+            return;
+        const QString fratrie = réponse == vbYes ? référence_famille->text() : QString();
+
+        fixer_ordre(0);
+        datPrimaryRS->setRecordSource(ordre_des_matricules);
+        datPrimaryRS->Refresh();
+        datPrimaryRS->Recordset().MoveLast();
+        const double suivant = CDbl(matricule->text()) + 1;
+        const QString nouveau = format_zéros(texte_du_nombre(suivant).trimmed());
+
+        datPrimaryRS->setRecordSource(ordre_alphabétique);
+        datPrimaryRS->Refresh();
+        datPrimaryRS->Recordset().AddNew();
+        matricule->setText(nouveau);
+        if (réponse == vbYes)
+            référence_famille->setText(fratrie);
+    });
+}
+
+// Unlike the frame's plain refresh, the pupil screen reports a failure.
+void feuille_élève::cmdRafraîchir_Click() {
+    avec_piège(ErrorBoxKind::standard, [this] { datPrimaryRS->Refresh(); });
+}
+
+void feuille_élève::matricule_LostFocus() {
+    avec_piège(ErrorBoxKind::standard, [this] {
+        SSTab1->setCurrentIndex(0);
+        if (!matricule->text().isEmpty())
+            matricule->setText(format_zéros(matricule->text()));
+    });
+}
+
+void feuille_élève::nom_enfant_LostFocus() {
+    SSTab1->setCurrentIndex(0);
+}
+
+void feuille_élève::prénom_enfant_LostFocus() {
+    SSTab1->setCurrentIndex(0);
+}
+
+void feuille_élève::brancher_recherches_et_âge() {
+    surDblClick(matricule, [this] { matricule_DblClick(); });
+    surDblClick(nom_enfant, [this] { nom_enfant_DblClick(); });
+    QObject::connect(Command2, &QPushButton::clicked, this, [this] { Command2_Click(); });
+    QObject::connect(Command13, &QPushButton::clicked, this, [this] { Command13_Click(); });
+    QObject::connect(date_naissance, &QLineEdit::textChanged, this, [this] { date_naissance_Change(); });
+    surLostFocus(référence_classe_élève, [this] { référence_classe_élève_LostFocus(); });
+}
+
+// No trap: a failure of the search goes up to the event loop, which reports it.
+void feuille_élève::matricule_DblClick() {
+    positionner_par_matricule(*datPrimaryRS, module1().interaction());
+}
+
+void feuille_élève::nom_enfant_DblClick() {
+    positionner_par_nom(*datPrimaryRS, module1().interaction());
+}
+
+void feuille_élève::Command2_Click() {
+    matricule_DblClick();
+}
+
+void feuille_élève::Command13_Click() {
+    nom_enfant_DblClick();
+}
+
+// An empty or unreadable date leaves the former pupil's age on show.
+void feuille_élève::date_naissance_Change() {
+    avec_piège(ErrorBoxKind::données, [this] {
+        if (const auto âge = âge_du_texte(date_naissance->text(), module1().horloge().aujourdhui()))
+            Label12->setText(*âge);
+    });
+}
+
+// The field stands disabled and never has the focus to lose. Were it enabled, its exit would teach the
+// family situations table the family screen's situation, not a class.
+void feuille_élève::référence_classe_élève_LostFocus() {}
+
+void feuille_élève::Command15_Click() {
+    date_inscription->setText(module1().horloge().aujourdhui().toString(QStringLiteral("dd/MM/yyyy")));
+}
+
+// The template picked in the list opens on its own screen, ready to be changed; a name the list no
+// longer holds opens a new template.
+void feuille_élève::Command6_Click() {
+    avec_piège(ErrorBoxKind::standard, [this] {
+        ouvrir_table_documents();
+        feuille_documents& documents = module1().feuilles().get<feuille_documents>();
+        DataRecordset& rs = documents.datPrimaryRS->Recordset();
+        rs.FindFirst(QStringLiteral("intitulé_bouton = \"") + grdDataGrid->Text() + QStringLiteral("\""));
+        rs.Edit();
+        if (rs.NoMatch())
+            rs.AddNew();
+        documents.Show();
+        documents.ZOrder();
+    });
+}
+
+// Twice a second, on every record alike: only the caption blinks, never the box's value.
+void feuille_élève::Timer1_Timer() {
+    Check2->setText(Check2->text() == aîné ? QString() : aîné);
+}
+
+void étapes_en_plus_élèves(feuille_élève& élève, bool table_vide) {
+    if (table_vide)
+        élève.matricule->setText(QStringLiteral("000001"));
+    ouvrir_table_documents();
+    pointer_source(*élève.Data2, QStringLiteral("SELECT * FROM documents"));
+}

@@ -1,0 +1,205 @@
+#pragma once
+
+#include "platform/forms/FeuilleFiche.h"
+
+#include <array>
+#include <span>
+#include <variant>
+#include <vector>
+
+class QCheckBox;
+class QComboBox;
+class QGridLayout;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+class QPushButton;
+class QTabWidget;
+class QTimer;
+
+// "Fiche élève": one pupil of the table élèves at a time, in a band of header fields above eight tabs.
+// No Q_OBJECT: moc cannot read an accented class name; connections use member pointers and lambdas,
+// and a cast to this class is a dynamic_cast.
+class feuille_élève : public FeuilleFiche {
+public:
+    feuille_élève();
+    ~feuille_élève() override;
+
+    // One bound field of the screen, as the screen's design declares it.
+    struct Champ {
+        using Membre = std::variant<QLineEdit * feuille_élève::*, QPlainTextEdit * feuille_élève::*,
+                                    QCheckBox * feuille_élève::*, QLabel * feuille_élève::*>;
+        const char* nom;     // object name of the control
+        Membre membre;       // where the screen keeps it; its type is the kind of control
+        const char* colonne; // bound column of élèves
+        const char* groupe;  // Frame that gathers it, "" for the page itself
+        const char* libellé; // caption beside it (a label, or the button named below)
+        const char* bouton;  // caption button's object name, or nullptr for a plain label
+        QPushButton* feuille_élève::*membre_bouton;
+        const char* aide_bouton; // help text of the caption button
+        int longueur;            // entry limit in characters, 0 when not limited
+        const char* infobulle;   // help text, nullptr when none
+        bool désactivé;          // fed by a lookup only: no typing, no focus
+        bool invisible;          // holds a value for the binding only
+        bool même_ligne;         // laid out beside the previous field rather than below it
+    };
+    static std::span<const Champ> champs();
+
+    // The thirteen orders of Combo1, from index 0.
+    static const std::array<const char*, 13> ordres;
+    // The Tab key's walk through the fields, before the buttons.
+    static const std::array<const char*, 46> ordre_tabulation;
+
+    // Above the tabs.
+    QComboBox* Combo1 = nullptr;
+    QLineEdit* référence_famille = nullptr;
+    QPushButton* Command4 = nullptr;
+    QLineEdit* matricule = nullptr;
+    QLineEdit* nom_enfant = nullptr;
+    QLineEdit* prénom_enfant = nullptr;
+    QPushButton* Command2 = nullptr;
+    QPushButton* Command13 = nullptr;
+    QPushButton* Command3 = nullptr;
+    QTabWidget* SSTab1 = nullptr;
+    // datPrimaryRS, the frame's buttons and grdDataGrid (on Data2) come from the frame.
+    DataControl* Data1 = nullptr; // the captions of the ten configurable fields, on paramètres
+    DataControl* Data2 = nullptr; // the letter templates, on documents
+
+    // Tab 0, "&Identité".
+    QLineEdit* date_inscription = nullptr;
+    QPushButton* Command15 = nullptr;
+    QLineEdit* date_naissance = nullptr;
+    QLabel* Label12 = nullptr;
+    QLineEdit* lieu_naissance = nullptr;
+    QLineEdit* sexe = nullptr;
+    QPushButton* Command7 = nullptr;
+    QLineEdit* nationalité = nullptr;
+    QPushButton* Command5 = nullptr;
+    QLineEdit* code_nationalité = nullptr;
+    QLineEdit* chemin_photo = nullptr;
+    QPushButton* Command14 = nullptr;
+    QLabel* photo = nullptr;
+    QCheckBox* Check2 = nullptr;
+    QLineEdit* date_radiation = nullptr;
+    QLineEdit* établissement_accueil = nullptr;
+
+    // Tab 1, "&Classe".
+    QLineEdit* référence_classe_élève = nullptr;
+    QPushButton* Command12 = nullptr;
+    QLineEdit* niveau_classe_élève = nullptr;
+    QLineEdit* cycle_classe_élève = nullptr;
+    QLineEdit* cursus_allongé_élève = nullptr;
+    QLineEdit* saisine_ccpe_élève = nullptr;
+    QLineEdit* langue_vivante_élève = nullptr;
+    QPushButton* Command11 = nullptr;
+
+    // Tab 2, "&Personnes autorisées": rows 1 to 5 at indexes 0 to 4.
+    std::array<QLineEdit*, 5> nom_contact{};
+    std::array<QLineEdit*, 5> prénom_contact{};
+    std::array<QLineEdit*, 5> téléphone_contact{};
+
+    // Tab 3, "&Résidence".
+    QPushButton* Command16 = nullptr;
+    QLineEdit* numéro_résidence = nullptr;
+    QLineEdit* adresse_résidence = nullptr;
+    QPushButton* Command8 = nullptr;
+    QLineEdit* adresse2_résidence = nullptr;
+    QLineEdit* code_postal_résidence = nullptr;
+    QPushButton* Command9 = nullptr;
+    QLineEdit* ville_résidence = nullptr;
+    QPushButton* Command10 = nullptr;
+    QLineEdit* téléphone1_résidence = nullptr;
+    QLineEdit* téléphone2_résidence = nullptr;
+
+    // Tab 4, "&Santé / Divers".
+    QLineEdit* vaccinations = nullptr;
+    QLineEdit* allergies = nullptr;
+    QLineEdit* contre_indications = nullptr;
+    QPlainTextEdit* observations_médicales = nullptr;
+    QLineEdit* participation_usep = nullptr;
+    QLineEdit* restauration_scolaire = nullptr;
+    QLineEdit* coopérative_scolaire = nullptr;
+    QPlainTextEdit* observations_générales = nullptr;
+
+    // Tabs 5 and 6: champ_paramétable1 to 10 at indexes 0 to 9, one line or several.
+    std::array<QWidget*, 10> champ_paramétable{};
+    std::array<QLabel*, 10> lblLabels{};     // captions, bound through Data1
+    std::array<QLabel*, 10> porteurs_aide{}; // Label2 to Label11, invisible, bound through Data1
+
+    // Tab 7, "&Documents".
+    QPushButton* documents_suite = nullptr;
+    QPushButton* Command6 = nullptr;
+    QCheckBox* Check1 = nullptr;
+
+    QTimer* Timer1 = nullptr;
+
+    // The widget that shows a field of the table by its object name, nullptr when none.
+    QWidget* champ(const QString& nom) const;
+
+    void Form_Load() override;
+
+    // Sets the list's entry by code, which runs Combo1_Click as a pick by the user does.
+    void fixer_ordre(int index);
+    void Combo1_Click();
+    // The jumps to one pupil, by matricule or by the start of the surname; nothing trapped.
+    void matricule_DblClick();
+    void nom_enfant_DblClick();
+    void Command2_Click();
+    void Command13_Click();
+    // The age in Label12, at each change of the birth date's text.
+    void date_naissance_Change();
+    // Silent while référence_classe_élève stays disabled, as it always does.
+    void référence_classe_élève_LostFocus();
+
+    void matricule_LostFocus();
+    void nom_enfant_LostFocus();
+    void prénom_enfant_LostFocus();
+    void Command15_Click();
+    void Command6_Click();
+    void Timer1_Timer();
+    // Label2_Change to Label11_Change: a help carrier's text becomes the help balloon of its field.
+    void porteur_aide_Change(int index);
+
+    void cmdAjouter_Click() override;
+    void cmdRafraîchir_Click() override;
+
+protected:
+    // The Tab key walks the declared order across the pages, turning to the page of the next field.
+    bool focusNextPrevChild(bool next) override;
+
+private:
+    struct Grille;
+
+    void construire();
+    void brancher_recherches_et_âge();
+    void construire_sources();
+    QWidget* construire_bandeau();
+    QWidget* construire_boutons();
+    void construire_onglets();
+    void construire_identité(QWidget* page);
+    void construire_contacts(QWidget* page);
+    void construire_résidence(QWidget* page);
+    void construire_santé(QWidget* page);
+    void construire_paramétrables(QWidget* page, int premier);
+    void construire_documents(QWidget* page);
+    void construire_champs();
+    void finir_disposition();
+    void poser_tabulation();
+    void lier_colonnes();
+    void brancher_handlers();
+    void montrer_paramètres();
+
+    QGroupBox* groupe(const QString& nom);
+    Grille* grille(const QString& nom);
+    QWidget* créer(const Champ& c, QWidget* parent);
+    void poser_champ(Grille& g, const Champ& c, QWidget* champ, QPushButton* légende, int paires_de_la_ligne);
+
+    std::vector<Grille> grilles_;
+    QList<QWidget*> tabulation_;
+};
+
+// What the command "Gestion du fichier des &Elèves" does besides the preparing rule of every record
+// screen: "000001" in the new row of an empty table, then the letter templates pointed, both on their
+// own screen and in the list of the last tab.
+void étapes_en_plus_élèves(feuille_élève& élève, bool table_vide);
