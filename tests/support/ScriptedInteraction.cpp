@@ -91,3 +91,7 @@ const ScriptedInteraction::Box& ScriptedInteraction::lastBox() const {
     }
     return boxes_.back();
 }
+
+void PrintTo(const ScriptedInteraction::Box& box, std::ostream* os) {
+    *os << '"' << box.text.toStdString() << "\" / \"" << box.title.toStdString() << "\" / " << box.buttons;
+}
