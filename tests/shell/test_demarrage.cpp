@@ -28,6 +28,13 @@ void PrintTo(const ÉtatAprèsDémarrage& é, std::ostream* os) {
 
 class DémarrageDuProgramme : public Démarrage {
 protected:
+    // The program stopped and started again in the same folder, the scripted user kept.
+    void redémarrer() {
+        module1().réinitialiser();
+        module1().setInteraction(std::shared_ptr<Interaction>(&ui(), [](Interaction*) {}));
+        processDeletions();
+        module1().chemin_application.clear();
+    }
     ÉtatAprèsDémarrage état() const {
         Module1& m = module1();
         return {options_ini(),
@@ -82,11 +89,8 @@ TEST_F(DémarrageDuProgramme, PremierLancementDansUnDossierVideParClic) {
 TEST_F(DémarrageDuProgramme, UneToucheEtUnClicMènentAuMêmeÉtat) {
     démarrer_par_clic();
     const ÉtatAprèsDémarrage par_clic = état();
-    module1().réinitialiser();
-    module1().setInteraction(std::shared_ptr<Interaction>(&ui(), [](Interaction*) {}));
-    processDeletions();
+    redémarrer();
     QFile::remove(folder.file("options.ini"));
-    module1().chemin_application.clear();
     démarrer_par_touche();
     EXPECT_EQ(état(), par_clic);
 }
@@ -99,16 +103,13 @@ TEST_F(DémarrageDuProgramme, UneToucheEtUnClicMènentAuMêmeÉtatAvecUneBaseRet
     const ÉtatAprèsDémarrage par_clic = état();
     EXPECT_EQ(par_clic.panneau1, "Base de données en cours : " + base);
     EXPECT_FALSE(par_clic.menus_inactifs);
-    module1().réinitialiser();
-    module1().setInteraction(std::shared_ptr<Interaction>(&ui(), [](Interaction*) {}));
-    processDeletions();
-    module1().chemin_application.clear();
+    redémarrer();
     démarrer_par_touche();
     EXPECT_EQ(état(), par_clic);
     EXPECT_EQ(options_ini(), texte); // the options are read, never rewritten, when the file is there
 }
 
-TEST_F(DémarrageDuProgramme, UnClicSurLeFondNuNeFaitRien) {
+TEST_F(DémarrageDuProgramme, UnClicSurLeFondNuOuUneToucheSansCaractèreNeFaitRien) {
     feuille_accueil& splash = accueil();
     const QPoint fond(3, 3); // the margin around Frame1
     ASSERT_EQ(splash.childAt(fond), nullptr);
@@ -116,14 +117,11 @@ TEST_F(DémarrageDuProgramme, UnClicSurLeFondNuNeFaitRien) {
     processDeletions();
     EXPECT_NE(feuilles().siChargée<feuille_accueil>(), nullptr);
     EXPECT_EQ(mdi(), nullptr);
-    EXPECT_FALSE(QFile::exists(folder.file("options.ini")));
-}
-
-TEST_F(DémarrageDuProgramme, UneToucheSansCaractèreNeFaitRien) {
     QTest::keyClick(&accueil(), Qt::Key_Shift);
     processDeletions();
     EXPECT_NE(feuilles().siChargée<feuille_accueil>(), nullptr);
     EXPECT_EQ(mdi(), nullptr);
+    EXPECT_FALSE(QFile::exists(folder.file("options.ini")));
 }
 
 class ClicSurUnContrôle : public Démarrage, public ::testing::WithParamInterface<const char*> {};
@@ -168,12 +166,9 @@ TEST_F(DémarrageDuProgramme, UneBaseRetenueDisparueMontreLErreurPuisLOuvertureV
     préparer_options("0\r\n0\r\n1\r\n0\r\n" + ligne_de_base(disparue));
     ui().expectMsgBox(vbOK);
     démarrer_par_clic();
-    ASSERT_EQ(ui().boxes().size(), 1u);
-    const auto& boîte = ui().boxes().front();
-    EXPECT_TRUE(boîte.text.startsWith("Le logiciel a rencontré l'erreur : 3024\n\n"))
-        << boîte.text.toStdString();
-    EXPECT_EQ(boîte.buttons, vbOKOnly + vbExclamation);
-    EXPECT_EQ(boîte.title, "Norvane v2");
+    ASSERT_TRUE(une_boîte(ui(), "Le logiciel a rencontré l'erreur : 3024\n\n"));
+    EXPECT_EQ(ui().lastBox(),
+              ScriptedInteraction::Box::titled(ui().lastBox().text, vbOKOnly + vbExclamation));
     EXPECT_TRUE(menus_de_données_actifs());
     EXPECT_EQ(mdi()->Panel1(), "Base de données en cours : " + disparue);
     EXPECT_FALSE(choix_à_l_écran());
