@@ -109,6 +109,15 @@ public:
         cur = position;
     }
 
+    // MoveFirst and MoveLast: the first live row from that end, or 3021 with the edit kept.
+    void moveToEnd(long position, int step) {
+        const long p = seek(position, step);
+        if (p < 0)
+            throw VbError(3021);
+        dropEdit();
+        standOn(p);
+    }
+
     void requireRow() const {
         if (at != At::Row)
             throw VbError(3021);
@@ -476,20 +485,12 @@ EditMode Recordset::editMode() const {
 
 void Recordset::MoveFirst() {
     d->db();
-    const long p = d->seek(0, 1);
-    if (p < 0)
-        throw VbError(3021);
-    d->dropEdit();
-    d->standOn(p);
+    d->moveToEnd(0, 1);
 }
 
 void Recordset::MoveLast() {
     d->db();
-    const long p = d->seek(static_cast<long>(d->keys.size()) - 1, -1);
-    if (p < 0)
-        throw VbError(3021);
-    d->dropEdit();
-    d->standOn(p);
+    d->moveToEnd(static_cast<long>(d->keys.size()) - 1, -1);
 }
 
 void Recordset::MoveNext() {
