@@ -72,30 +72,20 @@ TEST_F(DémarrageDuProgramme, LeMessageClignoteEntreJaunePâleEtBleu) {
     EXPECT_EQ(ForeColor(*splash.Label1), 0xFF0000u);
 }
 
-TEST_F(DémarrageDuProgramme, PremierLancementDansUnDossierVideParClic) {
-    démarrer_par_clic();
-    EXPECT_EQ(options_ini(), QByteArray("0\r\n0\r\n0\r\n0\r\n\"\"\r\n"));
-    const ÉtatAprèsDémarrage é = état();
-    EXPECT_FALSE(é.accueil_chargée);
-    EXPECT_TRUE(é.mdi_visible);
-    EXPECT_TRUE(é.choix_visible);
-    EXPECT_EQ(é.label4, "");
-    EXPECT_EQ(é.panneau1, "");
-    EXPECT_TRUE(é.menus_inactifs);
-    EXPECT_EQ(é.chemin_application, QDir::toNativeSeparators(folder.path()) + QDir::separator());
-    EXPECT_TRUE(ui().boxes().empty());
-}
-
-TEST_F(DémarrageDuProgramme, UneToucheEtUnClicMènentAuMêmeÉtat) {
+TEST_F(DémarrageDuProgramme, PremierLancementDansUnDossierVideParClicOuParTouche) {
     démarrer_par_clic();
     const ÉtatAprèsDémarrage par_clic = état();
+    EXPECT_EQ(par_clic, (ÉtatAprèsDémarrage{"0\r\n0\r\n0\r\n0\r\n\"\"\r\n", "",
+                                            QDir::toNativeSeparators(folder.path()) + QDir::separator(), "",
+                                            "", false, true, true, true}));
+    EXPECT_TRUE(ui().boxes().empty());
     redémarrer();
     QFile::remove(folder.file("options.ini"));
     démarrer_par_touche();
     EXPECT_EQ(état(), par_clic);
 }
 
-TEST_F(DémarrageDuProgramme, UneToucheEtUnClicMènentAuMêmeÉtatAvecUneBaseRetenue) {
+TEST_F(DémarrageDuProgramme, LaBaseRetenueEstOuverteSansLeChoixParClicOuParTouche) {
     const QString base = créer_base_de_test(folder.file("ecole.mdb"));
     const QByteArray texte = "0\r\n0\r\n1\r\n0\r\n" + ligne_de_base(base);
     préparer_options(texte);
@@ -107,6 +97,8 @@ TEST_F(DémarrageDuProgramme, UneToucheEtUnClicMènentAuMêmeÉtatAvecUneBaseRet
     démarrer_par_touche();
     EXPECT_EQ(état(), par_clic);
     EXPECT_EQ(options_ini(), texte); // the options are read, never rewritten, when the file is there
+    EXPECT_FALSE(choix_à_l_écran());
+    EXPECT_EQ(feuilles().siChargée<feuille_options>()->Check3->checkState(), Qt::Checked);
 }
 
 TEST_F(DémarrageDuProgramme, UnClicSurLeFondNuOuUneToucheSansCaractèreNeFaitRien) {
@@ -149,16 +141,6 @@ TEST_F(DémarrageDuProgramme, Check3DécochéAvecUnCheminMontreCeCheminSansLOuvr
     EXPECT_EQ(module1().base_en_cours, base);
     EXPECT_EQ(mdi()->Panel1(), "");
     EXPECT_TRUE(menus_de_données_inactifs());
-}
-
-TEST_F(DémarrageDuProgramme, LaBaseRetenueEstOuverteSansLeChoix) {
-    const QString base = créer_base_de_test(folder.file("ecole.mdb"));
-    préparer_options("0\r\n0\r\n1\r\n0\r\n" + ligne_de_base(base));
-    démarrer_par_touche();
-    EXPECT_FALSE(choix_à_l_écran());
-    EXPECT_EQ(mdi()->Panel1(), "Base de données en cours : " + base);
-    EXPECT_TRUE(menus_de_données_actifs());
-    EXPECT_EQ(feuilles().siChargée<feuille_options>()->Check3->checkState(), Qt::Checked);
 }
 
 TEST_F(DémarrageDuProgramme, UneBaseRetenueDisparueMontreLErreurPuisLOuvertureVaÀSonTerme) {

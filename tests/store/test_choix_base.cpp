@@ -87,13 +87,25 @@ TEST_F(ChoixDeLaBase, LesBoutonsDeMaintenanceSontPrésentsAvecLeursLégendes) {
     }
 }
 
-TEST_F(ChoixDeLaBase, OuvrirSansRienSélectionnerDemandeDeChoisirEtLaisseLÉcran) {
+TEST_F(ChoixDeLaBase, OuvrirSansRienSélectionnerOuAprèsUnChangementDeDossierDemandeDeChoisir) {
+    const QString base = créer_base_de_test(folder.file("ecole.mdb"));
+    QDir(folder.path()).mkdir("autre");
     feuille_choix_base& écran = démarrer_sur_le_choix();
     ui().expectMsgBox(vbOK);
     ouvrir(écran);
     EXPECT_EQ(ui().boxes(), std::vector{Box::titled(message_sélection, vbOKOnly + vbExclamation)});
     EXPECT_TRUE(choix_à_l_écran());
     EXPECT_TRUE(menus_de_données_inactifs());
+
+    ASSERT_TRUE(écran.File1->cliquer("ecole.mdb"));
+    écran.Dir1->setPath(folder.file("autre"));
+    EXPECT_EQ(écran.File1->Path(), QDir::toNativeSeparators(folder.file("autre")));
+    EXPECT_EQ(écran.Label4->text(), "");
+    EXPECT_EQ(module1().base_en_cours, QDir::toNativeSeparators(base));
+    ui().expectMsgBox(vbOK);
+    ouvrir(écran);
+    EXPECT_EQ(ui().boxes(), std::vector(2, Box::titled(message_sélection, vbOKOnly + vbExclamation)));
+    EXPECT_TRUE(choix_à_l_écran());
 }
 
 TEST_F(ChoixDeLaBase, UnClicSurUnFichierEnFaitDéjàLaBaseEnCours) {
@@ -111,25 +123,12 @@ TEST_F(ChoixDeLaBase, UnClicSurUnFichierEnFaitDéjàLaBaseEnCours) {
     EXPECT_EQ(module1().base_en_cours, QDir::toNativeSeparators(base));
 }
 
-TEST_F(ChoixDeLaBase, SélectionnerPuisChangerDeDossierPuisOuvrirDemandeDeChoisir) {
-    const QString base = créer_base_de_test(folder.file("ecole.mdb"));
-    QDir(folder.path()).mkdir("autre");
+TEST_F(ChoixDeLaBase, UnDoubleClicOuvreLaBaseDExempleQuiNAPasDeCode) {
+    const QString base = folder.file("exemple.mdb");
+    ASSERT_TRUE(QFile::copy(template_path(), base));
     feuille_choix_base& écran = démarrer_sur_le_choix();
-    ASSERT_TRUE(écran.File1->cliquer("ecole.mdb"));
-    écran.Dir1->setPath(folder.file("autre"));
-    EXPECT_EQ(écran.File1->Path(), QDir::toNativeSeparators(folder.file("autre")));
-    EXPECT_EQ(écran.Label4->text(), "");
-    EXPECT_EQ(module1().base_en_cours, QDir::toNativeSeparators(base));
-    ui().expectMsgBox(vbOK);
-    ouvrir(écran);
-    EXPECT_EQ(ui().boxes(), std::vector{Box::titled(message_sélection, vbOKOnly + vbExclamation)});
-    EXPECT_TRUE(choix_à_l_écran());
-}
-
-TEST_F(ChoixDeLaBase, UnDoubleClicOuvreLaBase) {
-    const QString base = créer_base_de_test(folder.file("ecole.mdb"));
-    feuille_choix_base& écran = démarrer_sur_le_choix();
-    ASSERT_TRUE(écran.File1->cliquer("ecole.mdb"));
+    ASSERT_TRUE(écran.File1->cliquer("exemple.mdb"));
+    EXPECT_EQ(écran.accès_actuel->text(), "");
     emit écran.File1->DblClick();
     processDeletions();
     EXPECT_FALSE(choix_à_l_écran());
@@ -156,9 +155,8 @@ TEST_F(ChoixDeLaBase, UneBaseSansCodeSOuvreSansRienDemanderEtSansAutreÉcran) {
 
 TEST_F(ChoixDeLaBase, UneTablePasseSansLigneNeDemandeRienNonPlus) {
     créer_base_de_test(folder.file("ecole.mdb"), std::nullopt);
-    feuille_choix_base& écran = démarrer_sur_le_choix();
-    écran.File1->cliquer("ecole.mdb");
-    ouvrir(écran);
+    démarrer_sur_le_choix().File1->cliquer("ecole.mdb");
+    ouvrir(*choix());
     EXPECT_TRUE(ui().modals().empty());
     EXPECT_TRUE(menus_de_données_actifs());
 }
@@ -226,17 +224,6 @@ TEST_F(ChoixDeLaBase, ÀLOuvertureAuDémarrageLeBonCodeNeTrouvePasDÉcranPourLeF
     EXPECT_TRUE(une_boîte(ui(), "Le logiciel a rencontré l'erreur : 5\n\n"));
     EXPECT_TRUE(menus_de_données_actifs());
     EXPECT_EQ(mdi()->Panel1(), "Base de données en cours : " + base);
-}
-
-TEST_F(ChoixDeLaBase, LaBaseDExempleChoisieSOuvreEtLaBarreLeDit) {
-    ASSERT_TRUE(QFile::copy(template_path(), folder.file("exemple.mdb")));
-    feuille_choix_base& écran = démarrer_sur_le_choix();
-    ASSERT_TRUE(écran.File1->cliquer("exemple.mdb"));
-    EXPECT_EQ(écran.accès_actuel->text(), ""); // the template carries no code
-    ouvrir(écran);
-    EXPECT_TRUE(ui().boxes().empty());
-    EXPECT_EQ(mdi()->Panel1(), barre_pour(folder.file("exemple.mdb")));
-    EXPECT_TRUE(menus_de_données_actifs());
 }
 
 TEST_F(ChoixDeLaBase, LaBoîteDuCodeClignoteEtMasqueLaSaisie) {
