@@ -44,25 +44,6 @@ TEST_F(SqlTexts, PupilOrdersOpenOnTheWholeTableInTheirOrder) {
     }
 }
 
-TEST_F(SqlTexts, AlphabeticalOrdersSortOnFirstNameAfterSurname) {
-    for (const char* sql : {"SELECT * FROM élèves ORDER BY nom_élève ASC, prénom_élève ASC",
-                            "SELECT * FROM élèves ORDER BY nom_élève DESC, prénom_élève DESC"}) {
-        auto rs = db->OpenRecordset(sql);
-        QStringList names;
-        for (rs->MoveFirst(); !rs->isEOF(); rs->MoveNext())
-            names << rs->field("nom_élève").toString() + u'|' + rs->field("prénom_élève").toString();
-        EXPECT_EQ(names.size(), 60);
-        for (int i = 1; i < names.size(); ++i) {
-            const int c =
-                french_key(names[i - 1].section('|', 0, 0)).compare(french_key(names[i].section('|', 0, 0)));
-            if (QString(sql).contains("DESC"))
-                EXPECT_GE(c, 0) << sql;
-            else
-                EXPECT_LE(c, 0) << sql;
-        }
-    }
-}
-
 TEST_F(SqlTexts, FamilyOrdersOpen) {
     for (const char* sql :
          {"SELECT * FROM familles ORDER BY nom_responsable_légal ASC, prénom_responsable_légal ASC",

@@ -18,28 +18,16 @@
 
 namespace {
 
-class FicheTest : public WorkFolderTest {
+class FicheTest : public ÉcransEssaiTest {
 protected:
-    void SetUp() override {
-        WorkFolderTest::SetUp();
-        base = créer_base_essai(folder);
-    }
-
     template <class F = feuille_essai> F& ouvrir() {
-        F& f = module1().feuilles().get<F>();
-        f.datPrimaryRS->setDatabaseName(base);
-        f.datPrimaryRS->setRecordSource(QStringLiteral("SELECT * FROM fiches"));
-        f.datPrimaryRS->Refresh();
-        montrer_active(f);
-        return f;
+        return ouvrir_sur<F>(QStringLiteral("SELECT * FROM fiches"));
     }
 
     QStringList noms() const {
         return colonne_du_fichier(base, QStringLiteral("fiches"), QStringLiteral("nom"));
     }
     QString légende(FeuilleFiche& f) const { return f.datPrimaryRS->Caption(); }
-
-    QString base;
 };
 
 // A screen whose data errors are shown and whose caption is the bare position.

@@ -15,20 +15,10 @@
 
 namespace {
 
-class GrilleTest : public WorkFolderTest {
+class GrilleTest : public ÉcransEssaiTest {
 protected:
-    void SetUp() override {
-        WorkFolderTest::SetUp();
-        base = créer_base_essai(folder);
-    }
-
     feuille_grille_essai& ouvrir() {
-        auto& f = module1().feuilles().get<feuille_grille_essai>();
-        f.datPrimaryRS->setDatabaseName(base);
-        f.datPrimaryRS->setRecordSource(QStringLiteral("SELECT * FROM valeurs"));
-        f.datPrimaryRS->Refresh();
-        montrer_active(f);
-        return f;
+        return ouvrir_sur<feuille_grille_essai>(QStringLiteral("SELECT * FROM valeurs"));
     }
 
     QStringList détails() const { return colonne_du_fichier(base, "valeurs", "détails"); }
@@ -48,8 +38,6 @@ protected:
             éditeur->selectAll();
         return éditeur;
     }
-
-    QString base;
 };
 
 } // namespace
