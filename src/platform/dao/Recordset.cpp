@@ -118,6 +118,14 @@ public:
         standOn(p);
     }
 
+    // A move to a row known by its place: 3167 when it has been deleted since, the edit kept.
+    void moveTo(long position) {
+        if (!load(position))
+            throw VbError(3167);
+        dropEdit();
+        standOn(position);
+    }
+
     void requireRow() const {
         if (at != At::Row)
             throw VbError(3021);
@@ -542,11 +550,7 @@ void Recordset::setAbsolutePosition(int position) {
     d->db();
     if (position < 0 || position >= d->liveCount())
         throw VbError(3001);
-    const long p = d->positionOfLive(position);
-    if (!d->load(p))
-        throw VbError(3167);
-    d->dropEdit();
-    d->standOn(p);
+    d->moveTo(d->positionOfLive(position));
 }
 
 int Recordset::RecordCount() const {
@@ -568,10 +572,7 @@ void Recordset::setBookmark(const QByteArray& bookmark) {
     const long p = bookmark.size() == sizeof(qint64) ? d->positionOfKey(key) : -1;
     if (p < 0)
         throw VbError(3159);
-    if (!d->load(p))
-        throw VbError(3167);
-    d->dropEdit();
-    d->standOn(p);
+    d->moveTo(p);
 }
 
 QByteArray Recordset::LastModified() const {
