@@ -3,6 +3,7 @@
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPolygonF>
 #include <QRadialGradient>
 #include <functional>
 
@@ -17,6 +18,11 @@ QPixmap toile(const QSize& taille, const QSizeF& repère, const std::function<vo
     p.scale(taille.width() / repère.width(), taille.height() / repère.height());
     dessiner(p);
     return image;
+}
+
+// A filled shape through its corners, with the current brush.
+void polygone(QPainter& p, std::initializer_list<QPointF> sommets) {
+    p.drawPolygon(QPolygonF(QList<QPointF>(sommets)));
 }
 
 void ciel_et_sol(QPainter& p) {
@@ -39,12 +45,7 @@ void ciel_et_sol(QPainter& p) {
     herbe.setColorAt(1, QColor(0x5e, 0x9b, 0x3a));
     p.fillRect(QRectF(0, 70, 160, 30), herbe);
     p.setBrush(QColor(0xd9, 0xc8, 0xa6));
-    QPainterPath allée;
-    allée.moveTo(72, 100);
-    allée.lineTo(76, 80);
-    allée.lineTo(84, 80);
-    allée.lineTo(92, 100);
-    p.drawPath(allée);
+    polygone(p, {{72, 100}, {76, 80}, {84, 80}, {92, 100}});
 }
 
 void arbre(QPainter& p, QPointF pied, double h) {
@@ -79,29 +80,13 @@ void école(QPainter& p) {
     p.setBrush(pierre);
     p.drawRect(QRectF(30, 78, 100, 3));
     p.setBrush(toit);
-    QPainterPath ailes;
-    ailes.moveTo(26, 51);
-    ailes.lineTo(40, 42);
-    ailes.lineTo(120, 42);
-    ailes.lineTo(134, 51);
-    ailes.closeSubpath();
-    p.drawPath(ailes);
-    QPainterPath fronton;
-    fronton.moveTo(58, 37);
-    fronton.lineTo(80, 22);
-    fronton.lineTo(102, 37);
-    fronton.closeSubpath();
-    p.drawPath(fronton);
+    polygone(p, {{26, 51}, {40, 42}, {120, 42}, {134, 51}});
+    polygone(p, {{58, 37}, {80, 22}, {102, 37}});
     // The bell turret and its flag.
     p.setBrush(mur);
     p.drawRect(QRectF(76, 14, 8, 10));
     p.setBrush(toit);
-    QPainterPath clocher;
-    clocher.moveTo(74, 15);
-    clocher.lineTo(80, 8);
-    clocher.lineTo(86, 15);
-    clocher.closeSubpath();
-    p.drawPath(clocher);
+    polygone(p, {{74, 15}, {80, 8}, {86, 15}});
     p.setPen(QPen(QColor(0x55, 0x55, 0x55), 0.8));
     p.drawLine(QPointF(80, 8), QPointF(80, 1.5));
     p.setPen(Qt::NoPen);
@@ -165,19 +150,9 @@ void cahier(QPainter& p) {
     p.setBrush(QColor(0xb0, 0xb0, 0xb0));
     p.drawRect(QRectF(-31, -5, 3, 10));
     p.setBrush(QColor(0xf1, 0xd9, 0xb5));
-    QPainterPath pointe;
-    pointe.moveTo(16, -5);
-    pointe.lineTo(28, 0);
-    pointe.lineTo(16, 5);
-    pointe.closeSubpath();
-    p.drawPath(pointe);
+    polygone(p, {{16, -5}, {28, 0}, {16, 5}});
     p.setBrush(QColor(0x33, 0x33, 0x33));
-    QPainterPath mine;
-    mine.moveTo(24, -1.7);
-    mine.lineTo(28, 0);
-    mine.lineTo(24, 1.7);
-    mine.closeSubpath();
-    p.drawPath(mine);
+    polygone(p, {{24, -1.7}, {28, 0}, {24, 1.7}});
     p.restore();
 }
 

@@ -91,6 +91,6 @@ void ouvrir_base_choisie() {
 void fermer_base() {
     en_silence([] {
         if (feuille_choix_base* choix = module1().feuilles().siChargée<feuille_choix_base>())
-            choix->datPrimaryRS->unload();
+            choix->datPrimaryRS->closeDatabase();
     });
 }

@@ -41,26 +41,18 @@ protected:
         processDeletions();
     }
 
-    QByteArray options_ini() const {
-        QFile f(folder.file(QStringLiteral("options.ini")));
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("(absent)");
-    }
+    QByteArray options_ini() const { return contentOf(folder.file(QStringLiteral("options.ini"))); }
     void préparer_options(const QByteArray& texte) const {
         folder.write(QStringLiteral("options.ini"), texte);
     }
     static QByteArray ligne_de_base(const QString& chemin) { return "\"" + chemin.toUtf8() + "\"\r\n"; }
 
-    static bool menus_de_données_actifs() {
+    static bool menus_de_données_actifs() { return menus_de_données_tous(true); }
+    static bool menus_de_données_inactifs() { return menus_de_données_tous(false); }
+    static bool menus_de_données_tous(bool actifs) {
         for (const char* nom :
              {"menuenfantsindex0", "menuparamètresindex0", "menuutilitairesindex0", "menuexploitationindex0"})
-            if (!mdi()->menu(QString::fromUtf8(nom))->isEnabled())
-                return false;
-        return true;
-    }
-    static bool menus_de_données_inactifs() {
-        for (const char* nom :
-             {"menuenfantsindex0", "menuparamètresindex0", "menuutilitairesindex0", "menuexploitationindex0"})
-            if (mdi()->menu(QString::fromUtf8(nom))->isEnabled())
+            if (mdi()->menu(QString::fromUtf8(nom))->isEnabled() != actifs)
                 return false;
         return true;
     }

@@ -60,9 +60,7 @@ TEST_F(RègleDePréparation, UneSourceQuiNAPuÊtrePointéeÉchoueDansLaCommandeE
     MDIForm1& fenêtre = ouvert_sur(QString()); // no table sexe in this file
     ui().expectMsgBox(vbOK);
     fenêtre.cliquer("menuparamètresindex14");
-    ASSERT_EQ(ui().boxes().size(), 1u);
-    EXPECT_TRUE(ui().boxes()[0].text.startsWith("Le logiciel a rencontré l'erreur : "))
-        << ui().boxes()[0].text.toStdString();
+    EXPECT_TRUE(une_boîte(ui(), "Le logiciel a rencontré l'erreur : "));
     ASSERT_NE(sexes(), nullptr); // loaded by the pointing, hidden
     EXPECT_FALSE(sexes()->conteneur().isVisible());
 }

@@ -28,6 +28,13 @@ void PrintTo(const ÉtatAprèsDémarrage& é, std::ostream* os) {
 
 class DémarrageDuProgramme : public Démarrage {
 protected:
+    // The program stopped and started again in the same folder, the scripted user kept.
+    void redémarrer() {
+        module1().réinitialiser();
+        module1().setInteraction(std::shared_ptr<Interaction>(&ui(), [](Interaction*) {}));
+        processDeletions();
+        module1().chemin_application.clear();
+    }
     ÉtatAprèsDémarrage état() const {
         Module1& m = module1();
         return {options_ini(),
@@ -65,33 +72,20 @@ TEST_F(DémarrageDuProgramme, LeMessageClignoteEntreJaunePâleEtBleu) {
     EXPECT_EQ(ForeColor(*splash.Label1), 0xFF0000u);
 }
 
-TEST_F(DémarrageDuProgramme, PremierLancementDansUnDossierVideParClic) {
-    démarrer_par_clic();
-    EXPECT_EQ(options_ini(), QByteArray("0\r\n0\r\n0\r\n0\r\n\"\"\r\n"));
-    const ÉtatAprèsDémarrage é = état();
-    EXPECT_FALSE(é.accueil_chargée);
-    EXPECT_TRUE(é.mdi_visible);
-    EXPECT_TRUE(é.choix_visible);
-    EXPECT_EQ(é.label4, "");
-    EXPECT_EQ(é.panneau1, "");
-    EXPECT_TRUE(é.menus_inactifs);
-    EXPECT_EQ(é.chemin_application, QDir::toNativeSeparators(folder.path()) + QDir::separator());
-    EXPECT_TRUE(ui().boxes().empty());
-}
-
-TEST_F(DémarrageDuProgramme, UneToucheEtUnClicMènentAuMêmeÉtat) {
+TEST_F(DémarrageDuProgramme, PremierLancementDansUnDossierVideParClicOuParTouche) {
     démarrer_par_clic();
     const ÉtatAprèsDémarrage par_clic = état();
-    module1().réinitialiser();
-    module1().setInteraction(std::shared_ptr<Interaction>(&ui(), [](Interaction*) {}));
-    processDeletions();
+    EXPECT_EQ(par_clic, (ÉtatAprèsDémarrage{"0\r\n0\r\n0\r\n0\r\n\"\"\r\n", "",
+                                            QDir::toNativeSeparators(folder.path()) + QDir::separator(), "",
+                                            "", false, true, true, true}));
+    EXPECT_TRUE(ui().boxes().empty());
+    redémarrer();
     QFile::remove(folder.file("options.ini"));
-    module1().chemin_application.clear();
     démarrer_par_touche();
     EXPECT_EQ(état(), par_clic);
 }
 
-TEST_F(DémarrageDuProgramme, UneToucheEtUnClicMènentAuMêmeÉtatAvecUneBaseRetenue) {
+TEST_F(DémarrageDuProgramme, LaBaseRetenueEstOuverteSansLeChoixParClicOuParTouche) {
     const QString base = créer_base_de_test(folder.file("ecole.mdb"));
     const QByteArray texte = "0\r\n0\r\n1\r\n0\r\n" + ligne_de_base(base);
     préparer_options(texte);
@@ -99,16 +93,15 @@ TEST_F(DémarrageDuProgramme, UneToucheEtUnClicMènentAuMêmeÉtatAvecUneBaseRet
     const ÉtatAprèsDémarrage par_clic = état();
     EXPECT_EQ(par_clic.panneau1, "Base de données en cours : " + base);
     EXPECT_FALSE(par_clic.menus_inactifs);
-    module1().réinitialiser();
-    module1().setInteraction(std::shared_ptr<Interaction>(&ui(), [](Interaction*) {}));
-    processDeletions();
-    module1().chemin_application.clear();
+    redémarrer();
     démarrer_par_touche();
     EXPECT_EQ(état(), par_clic);
     EXPECT_EQ(options_ini(), texte); // the options are read, never rewritten, when the file is there
+    EXPECT_FALSE(choix_à_l_écran());
+    EXPECT_EQ(feuilles().siChargée<feuille_options>()->Check3->checkState(), Qt::Checked);
 }
 
-TEST_F(DémarrageDuProgramme, UnClicSurLeFondNuNeFaitRien) {
+TEST_F(DémarrageDuProgramme, UnClicSurLeFondNuOuUneToucheSansCaractèreNeFaitRien) {
     feuille_accueil& splash = accueil();
     const QPoint fond(3, 3); // the margin around Frame1
     ASSERT_EQ(splash.childAt(fond), nullptr);
@@ -116,14 +109,11 @@ TEST_F(DémarrageDuProgramme, UnClicSurLeFondNuNeFaitRien) {
     processDeletions();
     EXPECT_NE(feuilles().siChargée<feuille_accueil>(), nullptr);
     EXPECT_EQ(mdi(), nullptr);
-    EXPECT_FALSE(QFile::exists(folder.file("options.ini")));
-}
-
-TEST_F(DémarrageDuProgramme, UneToucheSansCaractèreNeFaitRien) {
     QTest::keyClick(&accueil(), Qt::Key_Shift);
     processDeletions();
     EXPECT_NE(feuilles().siChargée<feuille_accueil>(), nullptr);
     EXPECT_EQ(mdi(), nullptr);
+    EXPECT_FALSE(QFile::exists(folder.file("options.ini")));
 }
 
 class ClicSurUnContrôle : public Démarrage, public ::testing::WithParamInterface<const char*> {};
@@ -153,27 +143,14 @@ TEST_F(DémarrageDuProgramme, Check3DécochéAvecUnCheminMontreCeCheminSansLOuvr
     EXPECT_TRUE(menus_de_données_inactifs());
 }
 
-TEST_F(DémarrageDuProgramme, LaBaseRetenueEstOuverteSansLeChoix) {
-    const QString base = créer_base_de_test(folder.file("ecole.mdb"));
-    préparer_options("0\r\n0\r\n1\r\n0\r\n" + ligne_de_base(base));
-    démarrer_par_touche();
-    EXPECT_FALSE(choix_à_l_écran());
-    EXPECT_EQ(mdi()->Panel1(), "Base de données en cours : " + base);
-    EXPECT_TRUE(menus_de_données_actifs());
-    EXPECT_EQ(feuilles().siChargée<feuille_options>()->Check3->checkState(), Qt::Checked);
-}
-
 TEST_F(DémarrageDuProgramme, UneBaseRetenueDisparueMontreLErreurPuisLOuvertureVaÀSonTerme) {
     const QString disparue = folder.file("disparue.mdb");
     préparer_options("0\r\n0\r\n1\r\n0\r\n" + ligne_de_base(disparue));
     ui().expectMsgBox(vbOK);
     démarrer_par_clic();
-    ASSERT_EQ(ui().boxes().size(), 1u);
-    const auto& boîte = ui().boxes().front();
-    EXPECT_TRUE(boîte.text.startsWith("Le logiciel a rencontré l'erreur : 3024\n\n"))
-        << boîte.text.toStdString();
-    EXPECT_EQ(boîte.buttons, vbOKOnly + vbExclamation);
-    EXPECT_EQ(boîte.title, "Norvane v2");
+    ASSERT_TRUE(une_boîte(ui(), "Le logiciel a rencontré l'erreur : 3024\n\n"));
+    EXPECT_EQ(ui().lastBox(),
+              ScriptedInteraction::Box::titled(ui().lastBox().text, vbOKOnly + vbExclamation));
     EXPECT_TRUE(menus_de_données_actifs());
     EXPECT_EQ(mdi()->Panel1(), "Base de données en cours : " + disparue);
     EXPECT_FALSE(choix_à_l_écran());

@@ -10,6 +10,9 @@
 
 namespace {
 
+using Box = ScriptedInteraction::Box;
+const Box question_de_sortie = Box::titled("Voulez-vous quitter le logiciel?", vbYesNo + vbQuestion);
+
 class FenêtrePrincipale : public Démarrage {
 protected:
     MDIForm1& démarrer() {
@@ -119,15 +122,17 @@ TEST_F(FenêtrePrincipale, SixPanneauxDontSeulLePremierEstÉcritParLeProgramme) 
 
 TEST_F(FenêtrePrincipale, LesQuatreMenusDeDonnéesSeulsBasculent) {
     MDIForm1& fenêtre = démarrer();
+    auto toujours_actifs = [&] {
+        for (const char* nom : {"menufichierindex0", "menuoptionsindex0", "menuaideindex0"})
+            EXPECT_TRUE(fenêtre.menu(QString::fromUtf8(nom))->isEnabled()) << nom;
+    };
     EXPECT_TRUE(menus_de_données_inactifs());
-    for (const char* toujours : {"menufichierindex0", "menuoptionsindex0", "menuaideindex0"})
-        EXPECT_TRUE(fenêtre.menu(QString::fromUtf8(toujours))->isEnabled()) << toujours;
+    toujours_actifs();
     fenêtre.activer_menus();
     EXPECT_TRUE(menus_de_données_actifs());
     fenêtre.désactiver_menus();
     EXPECT_TRUE(menus_de_données_inactifs());
-    for (const char* toujours : {"menufichierindex0", "menuoptionsindex0", "menuaideindex0"})
-        EXPECT_TRUE(fenêtre.menu(QString::fromUtf8(toujours))->isEnabled()) << toujours;
+    toujours_actifs();
 }
 
 TEST_F(FenêtrePrincipale, UneCommandeDontLÉcranNExistePasEncoreNeFaitRienNiNeMontreRien) {
@@ -161,10 +166,7 @@ TEST_F(FenêtrePrincipale, FermerLaBaseSansBaseOuverteDitQuandMêmeQuElleEstFerm
     MDIForm1& fenêtre = démarrer();
     ui().expectMsgBox(vbOK);
     fenêtre.cliquer("menufichierindex3");
-    ASSERT_EQ(ui().boxes().size(), 1u);
-    EXPECT_EQ(ui().boxes()[0].text, "La base est fermée...");
-    EXPECT_EQ(ui().boxes()[0].buttons, vbOKOnly + vbInformation);
-    EXPECT_EQ(ui().boxes()[0].title, "Norvane v2");
+    EXPECT_EQ(ui().boxes(), std::vector{Box::titled("La base est fermée...", vbOKOnly + vbInformation)});
     EXPECT_EQ(module1().base_en_cours, "");
     EXPECT_TRUE(menus_de_données_inactifs());
 }
@@ -181,7 +183,7 @@ TEST_F(FenêtrePrincipale, FermerLaBaseOuverteVideLÉtatEtLaBarreMaisLaisseLesÉ
     EXPECT_TRUE(menus_de_données_inactifs());
 }
 
-TEST_F(FenêtrePrincipale, NonÀLaQuestionDeSortieLaisseToutCommeAvant) {
+TEST_F(FenêtrePrincipale, NonÀLaQuestionDeSortieParLeMenuOuLaFenêtreLaisseToutCommeAvant) {
     ouvrir_une_base();
     const QString base = module1().base_en_cours;
     const QString panneau = mdi()->Panel1();
@@ -189,25 +191,18 @@ TEST_F(FenêtrePrincipale, NonÀLaQuestionDeSortieLaisseToutCommeAvant) {
     ui().expectMsgBox(vbNo);
     mdi()->cliquer("menufichierindex2");
     processDeletions();
-    ASSERT_EQ(ui().boxes().size(), 1u);
-    EXPECT_EQ(ui().boxes()[0].text, "Voulez-vous quitter le logiciel?");
-    EXPECT_EQ(ui().boxes()[0].buttons, vbYesNo + vbQuestion);
-    EXPECT_EQ(ui().boxes()[0].title, "Norvane v2");
+    EXPECT_EQ(ui().boxes(), std::vector{question_de_sortie});
     ASSERT_NE(mdi(), nullptr);
     EXPECT_TRUE(mdi()->isVisible());
     EXPECT_EQ(mdi()->Panel1(), panneau);
     EXPECT_EQ(module1().base_en_cours, base);
     EXPECT_EQ(feuilles().chargées().size(), chargées);
     EXPECT_TRUE(menus_de_données_actifs());
-}
 
-TEST_F(FenêtrePrincipale, FermerLaFenêtrePoseLaMêmeQuestion) {
-    MDIForm1& fenêtre = démarrer();
     ui().expectMsgBox(vbNo);
-    fenêtre.close();
+    mdi()->close();
     processDeletions();
-    ASSERT_EQ(ui().boxes().size(), 1u);
-    EXPECT_EQ(ui().boxes()[0].text, "Voulez-vous quitter le logiciel?");
+    EXPECT_EQ(ui().boxes(), std::vector(2, question_de_sortie)) << "closing the window asks the same";
     EXPECT_NE(mdi(), nullptr);
 }
 

@@ -16,10 +16,7 @@ class FichierOptions : public WorkFolderTest {
 protected:
     static Feuilles& feuilles() { return module1().feuilles(); }
     static feuille_options& options() { return feuilles().get<feuille_options>(); }
-    QByteArray contenu() const {
-        QFile f(folder.file("options.ini"));
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-    }
+    QByteArray contenu() const { return contentOf(folder.file("options.ini")); }
     // The main window is up, as during a run; its own load reads the file once.
     void programme_chargé() {
         ui().failOnUnusedAnswers = true;
@@ -83,10 +80,10 @@ TEST_F(FichierOptions, UnFichierTropCourtArrêteLaLectureEtGardeCeQuiAÉtéLu) {
     folder.write("options.ini", "1\r\n1\r\n");
     ui().expectMsgBox(vbOK);
     programme_chargé();
-    ASSERT_EQ(ui().boxes().size(), 1u);
-    EXPECT_EQ(ui().boxes()[0].text,
-              "Le gestionnaire d'erreurs des données a rencontré l'erreur : 62\n\n" + error_text(62));
-    EXPECT_EQ(ui().boxes()[0].buttons, vbOKOnly + vbExclamation);
+    EXPECT_EQ(ui().boxes(),
+              std::vector{ScriptedInteraction::Box::titled(
+                  "Le gestionnaire d'erreurs des données a rencontré l'erreur : 62\n\n" + error_text(62),
+                  vbOKOnly + vbExclamation)});
     EXPECT_EQ(cases(), (std::vector<int>{1, 1, 0, 0}));
     EXPECT_EQ(module1().base_en_cours, "");
 
@@ -102,9 +99,7 @@ TEST_F(FichierOptions, UnIndicateurQuiNEstPasUnNombreArrêteLaLecture) {
     folder.write("options.ini", "1\r\noui\r\n1\r\n1\r\n\"/a.mdb\"\r\n");
     ui().expectMsgBox(vbOK);
     programme_chargé();
-    ASSERT_EQ(ui().boxes().size(), 1u);
-    EXPECT_TRUE(ui().boxes()[0].text.startsWith(
-        "Le gestionnaire d'erreurs des données a rencontré l'erreur : 13\n\n"));
+    EXPECT_TRUE(une_boîte(ui(), "Le gestionnaire d'erreurs des données a rencontré l'erreur : 13\n\n"));
     EXPECT_EQ(cases(), (std::vector<int>{1, 0, 0, 0}));
     EXPECT_EQ(module1().base_en_cours, "");
 }
@@ -124,20 +119,9 @@ TEST(TexteOptions, ValeursDesIndicateurs) {
     EXPECT_EQ(indicateur_lu(" 1 "), 1);
     EXPECT_EQ(indicateur_lu("2"), 2);
     EXPECT_EQ(indicateur_lu(""), 0);
-    for (const char* refusé : {"oui", "1a", "x"}) {
-        try {
-            indicateur_lu(QString::fromUtf8(refusé));
-            ADD_FAILURE() << refusé << " accepté";
-        } catch (const VbError& e) {
-            EXPECT_EQ(e.number(), 13) << refusé;
-        }
-    }
-    try {
-        indicateur_lu("5");
-        ADD_FAILURE() << "5 accepté";
-    } catch (const VbError& e) {
-        EXPECT_EQ(e.number(), 380);
-    }
+    for (const char* refusé : {"oui", "1a", "x"})
+        EXPECT_EQ(error_of([&] { indicateur_lu(QString::fromUtf8(refusé)); }), 13) << refusé;
+    EXPECT_EQ(error_of([&] { indicateur_lu("5"); }), 380);
 }
 
 } // namespace

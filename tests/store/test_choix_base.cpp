@@ -20,6 +20,12 @@ namespace {
 const QString message_sélection =
     QStringLiteral("Vous devez sélectionner la base de données sur laquelle vous souhaitez travailler...");
 const QString message_code = QStringLiteral("Erreur de code d'accès... Accès non-autorisé!");
+using Box = ScriptedInteraction::Box;
+
+// The status bar once `base` is open.
+QString barre_pour(const QString& base) {
+    return "Base de données en cours : " + QDir::toNativeSeparators(base);
+}
 
 class ChoixDeLaBase : public Démarrage {
 protected:
@@ -81,15 +87,25 @@ TEST_F(ChoixDeLaBase, LesBoutonsDeMaintenanceSontPrésentsAvecLeursLégendes) {
     }
 }
 
-TEST_F(ChoixDeLaBase, OuvrirSansRienSélectionnerDemandeDeChoisirEtLaisseLÉcran) {
+TEST_F(ChoixDeLaBase, OuvrirSansRienSélectionnerOuAprèsUnChangementDeDossierDemandeDeChoisir) {
+    const QString base = créer_base_de_test(folder.file("ecole.mdb"));
+    QDir(folder.path()).mkdir("autre");
     feuille_choix_base& écran = démarrer_sur_le_choix();
     ui().expectMsgBox(vbOK);
     ouvrir(écran);
-    ASSERT_EQ(ui().boxes().size(), 1u);
-    EXPECT_EQ(ui().boxes()[0].text, message_sélection);
-    EXPECT_EQ(ui().boxes()[0].buttons, vbOKOnly + vbExclamation);
+    EXPECT_EQ(ui().boxes(), std::vector{Box::titled(message_sélection, vbOKOnly + vbExclamation)});
     EXPECT_TRUE(choix_à_l_écran());
     EXPECT_TRUE(menus_de_données_inactifs());
+
+    ASSERT_TRUE(écran.File1->cliquer("ecole.mdb"));
+    écran.Dir1->setPath(folder.file("autre"));
+    EXPECT_EQ(écran.File1->Path(), QDir::toNativeSeparators(folder.file("autre")));
+    EXPECT_EQ(écran.Label4->text(), "");
+    EXPECT_EQ(module1().base_en_cours, QDir::toNativeSeparators(base));
+    ui().expectMsgBox(vbOK);
+    ouvrir(écran);
+    EXPECT_EQ(ui().boxes(), std::vector(2, Box::titled(message_sélection, vbOKOnly + vbExclamation)));
+    EXPECT_TRUE(choix_à_l_écran());
 }
 
 TEST_F(ChoixDeLaBase, UnClicSurUnFichierEnFaitDéjàLaBaseEnCours) {
@@ -107,30 +123,16 @@ TEST_F(ChoixDeLaBase, UnClicSurUnFichierEnFaitDéjàLaBaseEnCours) {
     EXPECT_EQ(module1().base_en_cours, QDir::toNativeSeparators(base));
 }
 
-TEST_F(ChoixDeLaBase, SélectionnerPuisChangerDeDossierPuisOuvrirDemandeDeChoisir) {
-    const QString base = créer_base_de_test(folder.file("ecole.mdb"));
-    QDir(folder.path()).mkdir("autre");
+TEST_F(ChoixDeLaBase, UnDoubleClicOuvreLaBaseDExempleQuiNAPasDeCode) {
+    const QString base = folder.file("exemple.mdb");
+    ASSERT_TRUE(QFile::copy(template_path(), base));
     feuille_choix_base& écran = démarrer_sur_le_choix();
-    ASSERT_TRUE(écran.File1->cliquer("ecole.mdb"));
-    écran.Dir1->setPath(folder.file("autre"));
-    EXPECT_EQ(écran.File1->Path(), QDir::toNativeSeparators(folder.file("autre")));
-    EXPECT_EQ(écran.Label4->text(), "");
-    EXPECT_EQ(module1().base_en_cours, QDir::toNativeSeparators(base));
-    ui().expectMsgBox(vbOK);
-    ouvrir(écran);
-    ASSERT_EQ(ui().boxes().size(), 1u);
-    EXPECT_EQ(ui().boxes()[0].text, message_sélection);
-    EXPECT_TRUE(choix_à_l_écran());
-}
-
-TEST_F(ChoixDeLaBase, UnDoubleClicOuvreLaBase) {
-    const QString base = créer_base_de_test(folder.file("ecole.mdb"));
-    feuille_choix_base& écran = démarrer_sur_le_choix();
-    ASSERT_TRUE(écran.File1->cliquer("ecole.mdb"));
+    ASSERT_TRUE(écran.File1->cliquer("exemple.mdb"));
+    EXPECT_EQ(écran.accès_actuel->text(), "");
     emit écran.File1->DblClick();
     processDeletions();
     EXPECT_FALSE(choix_à_l_écran());
-    EXPECT_EQ(mdi()->Panel1(), "Base de données en cours : " + QDir::toNativeSeparators(base));
+    EXPECT_EQ(mdi()->Panel1(), barre_pour(base));
     EXPECT_TRUE(menus_de_données_actifs());
     EXPECT_TRUE(ui().boxes().empty());
 }
@@ -142,7 +144,7 @@ TEST_F(ChoixDeLaBase, UneBaseSansCodeSOuvreSansRienDemanderEtSansAutreÉcran) {
     ouvrir(écran);
     EXPECT_TRUE(ui().modals().empty());
     EXPECT_TRUE(ui().boxes().empty());
-    EXPECT_EQ(mdi()->Panel1(), "Base de données en cours : " + QDir::toNativeSeparators(base));
+    EXPECT_EQ(mdi()->Panel1(), barre_pour(base));
     EXPECT_EQ(choix(), nullptr);
     EXPECT_EQ(feuilles().siChargée<feuille_patientez>(), nullptr);
     // The wait notice's hourglass came and went.
@@ -153,9 +155,8 @@ TEST_F(ChoixDeLaBase, UneBaseSansCodeSOuvreSansRienDemanderEtSansAutreÉcran) {
 
 TEST_F(ChoixDeLaBase, UneTablePasseSansLigneNeDemandeRienNonPlus) {
     créer_base_de_test(folder.file("ecole.mdb"), std::nullopt);
-    feuille_choix_base& écran = démarrer_sur_le_choix();
-    écran.File1->cliquer("ecole.mdb");
-    ouvrir(écran);
+    démarrer_sur_le_choix().File1->cliquer("ecole.mdb");
+    ouvrir(*choix());
     EXPECT_TRUE(ui().modals().empty());
     EXPECT_TRUE(menus_de_données_actifs());
 }
@@ -168,7 +169,7 @@ TEST_F(ChoixDeLaBase, LeBonCodeOuvreLaBase) {
     ouvrir(écran);
     EXPECT_EQ(ui().modals(), (std::vector<QString>{"feuille_login"}));
     EXPECT_TRUE(ui().boxes().empty());
-    EXPECT_EQ(mdi()->Panel1(), "Base de données en cours : " + QDir::toNativeSeparators(base));
+    EXPECT_EQ(mdi()->Panel1(), barre_pour(base));
     EXPECT_TRUE(menus_de_données_actifs());
 }
 
@@ -185,9 +186,7 @@ TEST_P(CodeRefusé, LaisseLeChoixEtLesMenusMaisGardeLaBaseRefusée) {
         taper_le_code(tapé);
     ui().expectMsgBox(vbOK);
     ouvrir(écran);
-    ASSERT_EQ(ui().boxes().size(), 1u);
-    EXPECT_EQ(ui().boxes()[0].text, message_code);
-    EXPECT_EQ(ui().boxes()[0].buttons, vbOKOnly + vbExclamation);
+    EXPECT_EQ(ui().boxes(), std::vector{Box::titled(message_code, vbOKOnly + vbExclamation)});
     EXPECT_TRUE(choix_à_l_écran());
     EXPECT_EQ(choix()->accès_tentavive->text(), "");
     EXPECT_TRUE(menus_de_données_inactifs());
@@ -212,7 +211,7 @@ TEST_F(ChoixDeLaBase, UnCodeRefuséQuandUneBaseEstOuverteLaisseLesMenusActifs) {
     ouvrir(encore);
     EXPECT_EQ(ui().boxes().back().text, message_code);
     EXPECT_TRUE(menus_de_données_actifs());
-    EXPECT_EQ(mdi()->Panel1(), "Base de données en cours : " + QDir::toNativeSeparators(première));
+    EXPECT_EQ(mdi()->Panel1(), barre_pour(première));
     EXPECT_EQ(module1().base_en_cours, QDir::toNativeSeparators(folder.file("b.mdb")));
 }
 
@@ -222,22 +221,9 @@ TEST_F(ChoixDeLaBase, ÀLOuvertureAuDémarrageLeBonCodeNeTrouvePasDÉcranPourLeF
     taper_le_code("Secret");
     ui().expectMsgBox(vbOK);
     démarrer_par_touche();
-    ASSERT_EQ(ui().boxes().size(), 1u);
-    EXPECT_TRUE(ui().boxes()[0].text.startsWith("Le logiciel a rencontré l'erreur : 5\n\n"));
+    EXPECT_TRUE(une_boîte(ui(), "Le logiciel a rencontré l'erreur : 5\n\n"));
     EXPECT_TRUE(menus_de_données_actifs());
     EXPECT_EQ(mdi()->Panel1(), "Base de données en cours : " + base);
-}
-
-TEST_F(ChoixDeLaBase, LaBaseDExempleChoisieSOuvreEtLaBarreLeDit) {
-    ASSERT_TRUE(QFile::copy(template_path(), folder.file("exemple.mdb")));
-    feuille_choix_base& écran = démarrer_sur_le_choix();
-    ASSERT_TRUE(écran.File1->cliquer("exemple.mdb"));
-    EXPECT_EQ(écran.accès_actuel->text(), ""); // the template carries no code
-    ouvrir(écran);
-    EXPECT_TRUE(ui().boxes().empty());
-    EXPECT_EQ(mdi()->Panel1(),
-              "Base de données en cours : " + QDir::toNativeSeparators(folder.file("exemple.mdb")));
-    EXPECT_TRUE(menus_de_données_actifs());
 }
 
 TEST_F(ChoixDeLaBase, LaBoîteDuCodeClignoteEtMasqueLaSaisie) {

@@ -30,8 +30,7 @@ TEST_F(PointageDesSources, LaTableDuCodeDuChoixMontreLaBoîteStandard) {
     module1().base_en_cours = folder.file("disparue.mdb");
     ui().expectMsgBox(vbOK);
     ouvrir_table_passe_choix();
-    ASSERT_EQ(ui().boxes().size(), 1u);
-    EXPECT_TRUE(ui().boxes()[0].text.startsWith("Le logiciel a rencontré l'erreur : 3024\n\n"));
+    EXPECT_TRUE(une_boîte(ui(), "Le logiciel a rencontré l'erreur : 3024\n\n"));
     EXPECT_EQ(feuilles().get<feuille_choix_base>().accès_actuel->text(), "");
 }
 
@@ -40,8 +39,7 @@ TEST_F(PointageDesSources, UnFichierQuiNEstPasUneBaseDonneSonErreurAuClic) {
     démarrer_par_clic();
     ui().expectMsgBox(vbOK);
     ASSERT_TRUE(choix()->File1->cliquer("abîmée.mdb"));
-    ASSERT_EQ(ui().boxes().size(), 1u);
-    EXPECT_TRUE(ui().boxes()[0].text.startsWith("Le logiciel a rencontré l'erreur : 3343\n\n"));
+    EXPECT_TRUE(une_boîte(ui(), "Le logiciel a rencontré l'erreur : 3343\n\n"));
     // Taken as selected all the same: the failure will show in the screens.
     EXPECT_EQ(module1().base_en_cours, QDir::toNativeSeparators(folder.file("abîmée.mdb")));
     EXPECT_EQ(choix()->Label4->text(), module1().base_en_cours);

@@ -1,5 +1,6 @@
 #include "support/Fixtures.h"
 
+#include "platform/errors/VbError.h"
 #include "platform/forms/Module1.h"
 
 #include <QCoreApplication>
@@ -16,6 +17,28 @@ ScriptedSession::ScriptedSession() : ui_(std::make_shared<ScriptedInteraction>()
 ScriptedSession::~ScriptedSession() {
     module1().réinitialiser(); // the last owner of the scripted user is now ui_, which reports unused answers
     processDeletions();
+}
+
+int error_of(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const VbError& e) {
+        return e.number();
+    }
+    return 0;
+}
+
+::testing::AssertionResult une_boîte(const ScriptedInteraction& ui, const QString& début) {
+    if (ui.boxes().size() != 1)
+        return ::testing::AssertionFailure() << ui.boxes().size() << " boîte(s) au lieu d'une";
+    if (!ui.boxes().front().text.startsWith(début))
+        return ::testing::AssertionFailure() << "« " << ui.boxes().front().text.toStdString() << " »";
+    return ::testing::AssertionSuccess();
+}
+
+QByteArray contentOf(const QString& path) {
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<absent>");
 }
 
 void processDeletions() {

@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <QTemporaryDir>
+#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 
@@ -21,6 +22,16 @@ public:
 private:
     std::shared_ptr<ScriptedInteraction> ui_;
 };
+
+// The number of the VbError that `action` raises, or 0 when it succeeds.
+int error_of(const std::function<void()>& action);
+
+// Whether the program showed exactly one box so far and its text begins with `début` (an error box
+// whose description names a file, say).
+::testing::AssertionResult une_boîte(const ScriptedInteraction& ui, const QString& début);
+
+// A file's bytes, or "<absent>" when it cannot be read.
+QByteArray contentOf(const QString& path);
 
 // Runs the deferred destruction of unloaded screens.
 void processDeletions();

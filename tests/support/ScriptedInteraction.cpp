@@ -3,6 +3,7 @@
 #include "platform/forms/Feuille.h"
 
 #include <gtest/gtest.h>
+#include <optional>
 
 namespace {
 
@@ -18,6 +19,15 @@ int first_button(int buttons) {
     default:
         return vbOK;
     }
+}
+
+// The next queued answer, taken off its queue; none when the queue is empty.
+template <class T> std::optional<T> prendre(std::deque<T>& file) {
+    if (file.empty())
+        return std::nullopt;
+    T suivante = std::move(file.front());
+    file.pop_front();
+    return suivante;
 }
 
 } // namespace
@@ -44,38 +54,29 @@ ScriptedInteraction& ScriptedInteraction::expectModal(std::function<void(Feuille
 
 int ScriptedInteraction::MsgBox(const QString& prompt, int buttons, const QString& title) {
     boxes_.push_back({prompt, title, buttons});
-    if (msg_answers_.empty()) {
-        ADD_FAILURE() << "Boîte inattendue : « " << prompt.toStdString() << " » (" << title.toStdString()
-                      << ", " << buttons << ")";
-        return first_button(buttons);
-    }
-    const int answer = msg_answers_.front();
-    msg_answers_.pop_front();
-    return answer;
+    if (const auto answer = prendre(msg_answers_))
+        return *answer;
+    ADD_FAILURE() << "Boîte inattendue : « " << prompt.toStdString() << " » (" << title.toStdString() << ", "
+                  << buttons << ")";
+    return first_button(buttons);
 }
 
 QString ScriptedInteraction::InputBox(const QString& prompt, const QString& title,
                                       const QString& defaultValue) {
     inputs_.push_back({prompt, title, defaultValue});
-    if (input_answers_.empty()) {
-        ADD_FAILURE() << "Boîte de saisie inattendue : « " << prompt.toStdString() << " »";
-        return QString();
-    }
-    QString answer = input_answers_.front();
-    input_answers_.pop_front();
-    return answer;
+    if (auto answer = prendre(input_answers_))
+        return *answer;
+    ADD_FAILURE() << "Boîte de saisie inattendue : « " << prompt.toStdString() << " »";
+    return QString();
 }
 
 void ScriptedInteraction::showModal(Feuille& feuille) {
     modals_.push_back(feuille.objectName());
     feuille.Show();
-    if (modal_users_.empty()) {
+    if (const auto user = prendre(modal_users_))
+        (*user)(feuille);
+    else
         ADD_FAILURE() << "Écran modal inattendu : " << feuille.objectName().toStdString();
-        return;
-    }
-    auto user = std::move(modal_users_.front());
-    modal_users_.pop_front();
-    user(feuille);
 }
 
 void ScriptedInteraction::setMousePointer(int pointer) {
@@ -90,4 +91,8 @@ const ScriptedInteraction::Box& ScriptedInteraction::lastBox() const {
         return none;
     }
     return boxes_.back();
+}
+
+void PrintTo(const ScriptedInteraction::Box& box, std::ostream* os) {
+    *os << '"' << box.text.toStdString() << "\" / \"" << box.title.toStdString() << "\" / " << box.buttons;
 }

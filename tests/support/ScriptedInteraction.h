@@ -5,6 +5,7 @@
 #include <QString>
 #include <deque>
 #include <functional>
+#include <ostream>
 #include <vector>
 
 // The user, as a test plays it: every box the program shows is recorded and answered from a queue of
@@ -15,6 +16,11 @@ public:
         QString text;
         QString title;
         int buttons = 0; // buttons | icon, as the program asked
+        bool operator==(const Box&) const = default;
+        // A box with the program's title, as the error and question boxes have it.
+        static Box titled(const QString& text, int buttons) {
+            return {text, QStringLiteral("Norvane v2"), buttons};
+        }
     };
     struct Input {
         QString prompt;
@@ -59,3 +65,6 @@ private:
     std::vector<int> pointer_history_;
     int pointer_ = vbDefault;
 };
+
+// Shows a box as text, title and buttons when an assertion on boxes fails.
+void PrintTo(const ScriptedInteraction::Box& box, std::ostream* os);

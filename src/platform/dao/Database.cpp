@@ -31,9 +31,14 @@ std::shared_ptr<Database> Database::open(const QString& path) {
     return std::shared_ptr<Database>(new Database(path, std::move(connection)));
 }
 
-int Database::Execute(const QString& jetSql) {
+dao::Connection& Database::connection() const {
     if (!isOpen())
         throw VbError(3420);
+    return *connection_;
+}
+
+int Database::Execute(const QString& jetSql) {
+    dao::Connection& connection = this->connection();
     QString sql;
     try {
         sql = dao::translate_statement(jetSql);
@@ -42,35 +47,28 @@ int Database::Execute(const QString& jetSql) {
     }
     if (first_word(jetSql) == u"select")
         throw VbError(3065);
-    dao::Connection::WriteScope scope(*connection_);
-    connection_->run(sql);
-    const int changed = connection_->changes();
+    dao::Connection::WriteScope scope(connection);
+    connection.run(sql);
+    const int changed = connection.changes();
     scope.commit();
     return changed;
 }
 
 std::unique_ptr<Recordset> Database::OpenRecordset(const QString& tableOrSelect) {
-    if (!isOpen())
-        throw VbError(3420);
+    connection();
     return std::make_unique<Recordset>(connection_, tableOrSelect);
 }
 
 void Database::BeginTrans() {
-    if (!isOpen())
-        throw VbError(3420);
-    connection_->beginTransaction();
+    connection().beginTransaction();
 }
 
 void Database::CommitTrans() {
-    if (!isOpen())
-        throw VbError(3420);
-    connection_->commitTransaction();
+    connection().commitTransaction();
 }
 
 void Database::Rollback() {
-    if (!isOpen())
-        throw VbError(3420);
-    connection_->rollbackTransaction();
+    connection().rollbackTransaction();
 }
 
 void Database::Close() {
@@ -84,9 +82,7 @@ bool Database::isOpen() const {
 }
 
 QStringList Database::tableNames() const {
-    if (!isOpen())
-        throw VbError(3420);
-    return connection_->tableNames();
+    return connection().tableNames();
 }
 
 void CompactDatabase(const QString& source, const QString& target) {

@@ -47,6 +47,8 @@ public:
 
 private:
     Database(QString path, std::shared_ptr<dao::Connection> connection);
+    // The open connection; 3420 once the database is closed.
+    dao::Connection& connection() const;
 
     QString path_;
     std::shared_ptr<dao::Connection> connection_;

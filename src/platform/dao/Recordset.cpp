@@ -109,6 +109,23 @@ public:
         cur = position;
     }
 
+    // MoveFirst and MoveLast: the first live row from that end, or 3021 with the edit kept.
+    void moveToEnd(long position, int step) {
+        const long p = seek(position, step);
+        if (p < 0)
+            throw VbError(3021);
+        dropEdit();
+        standOn(p);
+    }
+
+    // A move to a row known by its place: 3167 when it has been deleted since, the edit kept.
+    void moveTo(long position) {
+        if (!load(position))
+            throw VbError(3167);
+        dropEdit();
+        standOn(position);
+    }
+
     void requireRow() const {
         if (at != At::Row)
             throw VbError(3021);
@@ -476,20 +493,12 @@ EditMode Recordset::editMode() const {
 
 void Recordset::MoveFirst() {
     d->db();
-    const long p = d->seek(0, 1);
-    if (p < 0)
-        throw VbError(3021);
-    d->dropEdit();
-    d->standOn(p);
+    d->moveToEnd(0, 1);
 }
 
 void Recordset::MoveLast() {
     d->db();
-    const long p = d->seek(static_cast<long>(d->keys.size()) - 1, -1);
-    if (p < 0)
-        throw VbError(3021);
-    d->dropEdit();
-    d->standOn(p);
+    d->moveToEnd(static_cast<long>(d->keys.size()) - 1, -1);
 }
 
 void Recordset::MoveNext() {
@@ -541,11 +550,7 @@ void Recordset::setAbsolutePosition(int position) {
     d->db();
     if (position < 0 || position >= d->liveCount())
         throw VbError(3001);
-    const long p = d->positionOfLive(position);
-    if (!d->load(p))
-        throw VbError(3167);
-    d->dropEdit();
-    d->standOn(p);
+    d->moveTo(d->positionOfLive(position));
 }
 
 int Recordset::RecordCount() const {
@@ -567,10 +572,7 @@ void Recordset::setBookmark(const QByteArray& bookmark) {
     const long p = bookmark.size() == sizeof(qint64) ? d->positionOfKey(key) : -1;
     if (p < 0)
         throw VbError(3159);
-    if (!d->load(p))
-        throw VbError(3167);
-    d->dropEdit();
-    d->standOn(p);
+    d->moveTo(p);
 }
 
 QByteArray Recordset::LastModified() const {

@@ -1,5 +1,6 @@
 #include "platform/files/Files.h"
 
+#include "platform/dao/FileLock.h"
 #include "platform/errors/VbError.h"
 
 #include <QDir>
@@ -8,7 +9,6 @@
 #include <QRegularExpression>
 #include <cerrno>
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -251,24 +251,7 @@ void Name(const QString& ancien, const QString& nouveau) {
 }
 
 bool fichier_verrouillé(const QString& chemin) {
-    const Descripteur fd(::open(natif(chemin).constData(), O_RDONLY | O_CLOEXEC));
-    if (fd.fd() < 0)
-        return false;
     // A lock belongs to an open file description, so this also sees a lock of this very process.
-    if (::flock(fd.fd(), LOCK_EX | LOCK_NB) == 0) {
-        ::flock(fd.fd(), LOCK_UN);
-        return false;
-    }
-    return errno == EWOULDBLOCK;
-}
-
-VerrouPartagé::VerrouPartagé(const QString& chemin) {
-    Descripteur fd(::open(natif(chemin).constData(), O_RDONLY | O_CLOEXEC));
-    if (fd.fd() >= 0 && ::flock(fd.fd(), LOCK_SH | LOCK_NB) == 0)
-        fd_ = fd.libérer();
-}
-
-VerrouPartagé::~VerrouPartagé() {
-    if (fd_ >= 0)
-        ::close(fd_);
+    dao::FileLock essai;
+    return essai.acquire(chemin, dao::FileLock::Mode::Exclusive) == dao::FileLock::Result::InUse;
 }

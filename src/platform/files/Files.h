@@ -28,20 +28,6 @@ void RmDir(const QString& chemin);
 void Name(const QString& ancien, const QString& nouveau);
 
 // Whether an open database of this program, or of another running copy, holds the file. Every open
-// database holds a shared lock (VerrouPartagé) on its file, and Kill and FileCopy are refused with 70
-// while one does.
+// database holds a shared dao::FileLock on its file, and Kill and FileCopy are refused with 70 while
+// one does.
 bool fichier_verrouillé(const QString& chemin);
-
-// A shared advisory lock on a file for as long as the object lives.
-class VerrouPartagé {
-public:
-    explicit VerrouPartagé(const QString& chemin);
-    ~VerrouPartagé();
-    VerrouPartagé(const VerrouPartagé&) = delete;
-    VerrouPartagé& operator=(const VerrouPartagé&) = delete;
-
-    bool tenu() const { return fd_ >= 0; }
-
-private:
-    int fd_ = -1;
-};

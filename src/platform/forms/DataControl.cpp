@@ -119,7 +119,7 @@ DataRecordset& DataControl::Recordset() {
 void DataControl::Refresh() {
     if (recordset_ && !leaveRow(vbDataActionClose))
         return;
-    closeRecordset();
+    closeDatabase();
     database_ = Database::open(databaseName_);
     recordset_ = database_->OpenRecordset(recordSource_);
     showCurrentRow();
@@ -146,11 +146,11 @@ bool DataControl::unload() {
         return true;
     if (!runOutsideCode([this] { leaveRow(vbDataActionUnload); }))
         return false; // the row set stays open, the edit on screen
-    closeRecordset();
+    closeDatabase();
     return true;
 }
 
-void DataControl::closeRecordset() {
+void DataControl::closeDatabase() {
     recordset_.reset();
     if (database_)
         database_->Close();

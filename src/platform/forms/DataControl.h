@@ -113,6 +113,9 @@ public:
     // the file released. A failed write goes to the Error event and keeps everything as it was:
     // false then, so the screen can stay with its edit rather than lose it.
     bool unload();
+    // Closes the row set and the file at once, writing nothing, as closing the Database object under
+    // a data control does. The next Refresh opens them again.
+    void closeDatabase();
     // The number of the last failure met by the control itself (navigator, grid, unload); 0 if none.
     int lastError() const { return lastError_; }
 
@@ -157,7 +160,6 @@ private:
     void firePositionChange();
     void markChanged();
     void addBinding(QWidget* control, const QString& column);
-    void closeRecordset();
 
     QString databaseName_;
     QString recordSource_;

@@ -85,51 +85,43 @@ FeuilleFiche::FeuilleFiche(ConfigurationFiche configuration)
 
 FeuilleFiche::~FeuilleFiche() = default;
 
-QPushButton* FeuilleFiche::bouton(const char* nom, const QString& légende, const QString& infobulle) {
-    auto* b = new QPushButton(légende, this);
-    b->setObjectName(QString::fromUtf8(nom));
-    b->setToolTip(infobulle);
-    b->setAutoDefault(false);
-    return b;
-}
-
 void FeuilleFiche::construireBoutons(QVBoxLayout* disposition) {
     auto* rangée = new QHBoxLayout;
+    // A button of the row, whose click runs the screen's own handler.
+    const auto ajouter = [&](const char* nom, const QString& légende, const QString& infobulle,
+                             void (FeuilleFiche::*clic)()) {
+        auto* b = new QPushButton(légende, this);
+        b->setObjectName(QString::fromUtf8(nom));
+        b->setToolTip(infobulle);
+        b->setAutoDefault(false);
+        connect(b, &QPushButton::clicked, this, [this, clic] { (this->*clic)(); });
+        rangée->addWidget(b);
+        return b;
+    };
     if (configuration_.bouton_accepter != BoutonAccepter::aucun) {
-        bouton_accepter =
-            bouton("bouton_accepter", QStringLiteral("Accepter"),
-                   QStringLiteral("Cliquez pour accepter ces données et les insérer dans la fiche "
-                                  "d'origine"));
+        bouton_accepter = ajouter("bouton_accepter", QStringLiteral("Accepter"),
+                                  QStringLiteral("Cliquez pour accepter ces données et les insérer dans la "
+                                                 "fiche d'origine"),
+                                  &FeuilleFiche::bouton_accepter_Click);
         bouton_accepter->setVisible(configuration_.bouton_accepter != BoutonAccepter::caché);
-        connect(bouton_accepter, &QPushButton::clicked, this, [this] { bouton_accepter_Click(); });
-        rangée->addWidget(bouton_accepter);
     }
-    if (configuration_.ajout != FormeAjout::aucune) {
-        cmdAjouter = bouton("cmdAjouter", QStringLiteral("&Ajouter"),
-                            QStringLiteral("Cliquez pour créer une nouvelle fiche de saisie"));
-        connect(cmdAjouter, &QPushButton::clicked, this, [this] { cmdAjouter_Click(); });
-        rangée->addWidget(cmdAjouter);
-    }
-    if (configuration_.suppression != FormeSuppression::aucune) {
-        cmdSupprimer = bouton("cmdSupprimer", QStringLiteral("&Supprimer"),
-                              QStringLiteral("Cliquez pour supprimer la fiche en cours"));
-        connect(cmdSupprimer, &QPushButton::clicked, this, [this] { cmdSupprimer_Click(); });
-        rangée->addWidget(cmdSupprimer);
-    }
-    if (configuration_.rafraîchissement) {
-        cmdRafraîchir = bouton("cmdRafraîchir", QStringLiteral("&Rafraîchir"),
-                               infobulle_rafraîchir(configuration_.infobulle_rafraîchir));
-        connect(cmdRafraîchir, &QPushButton::clicked, this, [this] { cmdRafraîchir_Click(); });
-        rangée->addWidget(cmdRafraîchir);
-    }
-    cmdMettreàjour = bouton("cmdMettreàjour", QStringLiteral("&Valider"),
-                            QStringLiteral("Cliquez pour enregistrer les renseignements en cours"));
-    connect(cmdMettreàjour, &QPushButton::clicked, this, [this] { cmdMettreàjour_Click(); });
-    rangée->addWidget(cmdMettreàjour);
-    cmdFermer =
-        bouton("cmdFermer", QStringLiteral("&Fermer"), QStringLiteral("Cliquez pour fermer cette fenêtre"));
-    connect(cmdFermer, &QPushButton::clicked, this, [this] { cmdFermer_Click(); });
-    rangée->addWidget(cmdFermer);
+    if (configuration_.ajout != FormeAjout::aucune)
+        cmdAjouter = ajouter("cmdAjouter", QStringLiteral("&Ajouter"),
+                             QStringLiteral("Cliquez pour créer une nouvelle fiche de saisie"),
+                             &FeuilleFiche::cmdAjouter_Click);
+    if (configuration_.suppression != FormeSuppression::aucune)
+        cmdSupprimer = ajouter("cmdSupprimer", QStringLiteral("&Supprimer"),
+                               QStringLiteral("Cliquez pour supprimer la fiche en cours"),
+                               &FeuilleFiche::cmdSupprimer_Click);
+    if (configuration_.rafraîchissement)
+        cmdRafraîchir = ajouter("cmdRafraîchir", QStringLiteral("&Rafraîchir"),
+                                infobulle_rafraîchir(configuration_.infobulle_rafraîchir),
+                                &FeuilleFiche::cmdRafraîchir_Click);
+    cmdMettreàjour = ajouter("cmdMettreàjour", QStringLiteral("&Valider"),
+                             QStringLiteral("Cliquez pour enregistrer les renseignements en cours"),
+                             &FeuilleFiche::cmdMettreàjour_Click);
+    cmdFermer = ajouter("cmdFermer", QStringLiteral("&Fermer"),
+                        QStringLiteral("Cliquez pour fermer cette fenêtre"), &FeuilleFiche::cmdFermer_Click);
     disposition->addLayout(rangée);
 }
 

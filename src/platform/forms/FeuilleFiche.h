@@ -130,7 +130,6 @@ protected:
 private:
     void construireBoutons(QVBoxLayout* disposition);
     void construireToucheParDéfaut();
-    QPushButton* bouton(const char* nom, const QString& légende, const QString& infobulle);
 
     ConfigurationFiche configuration_;
     QWidget* corps_ = nullptr;

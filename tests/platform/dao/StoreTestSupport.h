@@ -3,6 +3,7 @@
 #include "platform/dao/Database.h"
 #include "platform/dao/Recordset.h"
 #include "platform/errors/VbError.h"
+#include "support/Fixtures.h"
 #include "support/TemplateBase.h"
 
 #include <QStringList>
@@ -20,14 +21,12 @@ inline QString french_key(const QString& text) {
     return out;
 }
 
-// The Jet number an action fails with, or 0 when it succeeds.
-inline int error_of(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const VbError& e) {
-        return e.number();
-    }
-    return 0;
+// The twenty-one tables of the template, by their names.
+inline QStringList template_tables() {
+    return QString("adresses assertions assurances csp documents école équipe familles genres hôpitaux "
+                   "inspection langues_vivantes médecins nationalités niveaux paramètres passe sexe "
+                   "situations_familiales villes élèves")
+        .split(' ');
 }
 
 // A test on a fresh copy of the template, opened.

@@ -1,6 +1,7 @@
 // Opening files that are missing, damaged or held, compaction, and the locks that other copies see.
 #include "platform/dao/StoreTestSupport.h"
 
+#include "platform/dao/FileLock.h"
 #include "platform/files/Files.h"
 
 #include <QCryptographicHash>
@@ -34,7 +35,7 @@ TEST(OpeningFiles, AMissingFileIs3024AndAMissingFolder3044) {
     }
 }
 
-TEST(OpeningFiles, RandomBytesNamedMdbAre3343AndStayUntouched) {
+TEST(OpeningFiles, WhatIsNoBaseIs3343AndStaysUntouched) {
     TemplateBase base;
     QByteArray noise(64 * 1024, '\0');
     QRandomGenerator generator(42);
@@ -42,31 +43,22 @@ TEST(OpeningFiles, RandomBytesNamedMdbAre3343AndStayUntouched) {
         c = static_cast<char>(generator.bounded(256));
     const QString path = base.file("abîmée.mdb");
     QFile f(path);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write(noise);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly) && f.write(noise) == noise.size());
     f.close();
+    QFile(base.file("vide.mdb")).open(QIODevice::WriteOnly);
+    QDir(base.folder()).mkdir("dossier.mdb");
     const QStringList before = files_in(base.folder());
-    EXPECT_EQ(error_of([&] { Database::open(path); }), 3343);
+    for (const char* name : {"abîmée.mdb", "vide.mdb", "dossier.mdb"})
+        EXPECT_EQ(error_of([&] { Database::open(base.file(name)); }), 3343) << name;
     EXPECT_EQ(digest(path), QCryptographicHash::hash(noise, QCryptographicHash::Sha256));
     EXPECT_EQ(files_in(base.folder()), before);
     EXPECT_FALSE(fichier_verrouillé(path));
-}
 
-TEST(OpeningFiles, AnEmptyFileAndAFolderAreNoBases) {
-    TemplateBase base;
-    QFile(base.file("vide.mdb")).open(QIODevice::WriteOnly);
-    EXPECT_EQ(error_of([&] { Database::open(base.file("vide.mdb")); }), 3343);
-    QDir(base.folder()).mkdir("dossier.mdb");
-    EXPECT_EQ(error_of([&] { Database::open(base.file("dossier.mdb")); }), 3343);
-}
-
-TEST(OpeningFiles, ABaseWithADamagedBodyIsReported3343) {
-    TemplateBase base;
-    QFile f(base.path());
-    ASSERT_TRUE(f.open(QIODevice::ReadWrite));
-    f.seek(100);
-    f.write(QByteArray(8000, '\x5a')); // the first pages, table list included
-    f.close();
+    QFile body(base.path());
+    ASSERT_TRUE(body.open(QIODevice::ReadWrite));
+    body.seek(100);
+    body.write(QByteArray(8000, '\x5a')); // the first pages, table list included
+    body.close();
     EXPECT_EQ(error_of([&] { Database::open(base.path())->OpenRecordset("élèves"); }), 3343);
 }
 
@@ -77,8 +69,9 @@ TEST(OpeningFiles, AnyExtensionOpens) {
     EXPECT_EQ(db->path(), base.path());
 }
 
-TEST(Sharing, SeveralDatabasesOnOneFileWorkSideBySide) {
+TEST(Sharing, SeveralDatabasesOnOneFileWorkSideBySideAndLeaveNoLockFile) {
     TemplateBase base;
+    const QStringList before = files_in(base.folder());
     auto first = Database::open(base.path());
     auto second = Database::open(base.path());
     auto rs = first->OpenRecordset("villes");
@@ -92,6 +85,12 @@ TEST(Sharing, SeveralDatabasesOnOneFileWorkSideBySide) {
     seen->Update();
     rs->Requery();
     EXPECT_EQ(rs->field("code_postal").toString(), "69500");
+    first->Execute("DELETE * FROM villes");
+    rs.reset();
+    seen.reset();
+    first.reset();
+    second.reset();
+    EXPECT_EQ(files_in(base.folder()), before);
 }
 
 TEST(Sharing, AnOpenDatabaseBlocksCompactionKillAndCopyUntilClosed) {
@@ -148,20 +147,6 @@ TEST(Sharing, AnotherRunningCopyHoldsTheFileToo) {
         close(fd);
 }
 
-TEST(Sharing, NoLockFileIsLeftBehind) {
-    TemplateBase base;
-    const QStringList before = files_in(base.folder());
-    {
-        auto db = Database::open(base.path());
-        auto rs = db->OpenRecordset("villes");
-        rs->AddNew();
-        rs->setField("détails", "Lyon");
-        rs->Update();
-        db->Execute("DELETE * FROM villes");
-    }
-    EXPECT_EQ(files_in(base.folder()), before);
-}
-
 TEST(Compaction, MakesACompleteValidCopyNoLargerThanTheSource) {
     TemplateBase base;
     {
@@ -205,12 +190,6 @@ TEST(Compaction, RefusesAnExistingTargetAMissingSourceAndANonBase) {
     EXPECT_FALSE(QFile::exists(base.file("c.mdb")));
 }
 
-} // namespace
-
-#include "platform/dao/FileLock.h"
-
-namespace {
-
 TEST(Sharing, WhileAFileIsHeldForCompactionNobodyOpensIt) {
     TemplateBase base;
     dao::FileLock compaction;
@@ -219,10 +198,6 @@ TEST(Sharing, WhileAFileIsHeldForCompactionNobodyOpensIt) {
     compaction.release();
     EXPECT_EQ(error_of([&] { Database::open(base.path()); }), 0);
 }
-
-} // namespace
-
-namespace {
 
 TEST(Sharing, AWriterWaitsForAnotherThenGivesUpWithTheLockedError) {
     TemplateBase base;

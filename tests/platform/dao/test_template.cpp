@@ -18,27 +18,7 @@ protected:
 TEST_F(Template, HasTheTwentyOneTables) {
     QStringList tables = db->tableNames();
     tables.sort();
-    QStringList expected = {"adresses",
-                            "assertions",
-                            "assurances",
-                            "csp",
-                            "documents",
-                            "école",
-                            "équipe",
-                            "familles",
-                            "genres",
-                            "hôpitaux",
-                            "inspection",
-                            "langues_vivantes",
-                            "médecins",
-                            "nationalités",
-                            "niveaux",
-                            "paramètres",
-                            "passe",
-                            "sexe",
-                            "situations_familiales",
-                            "villes",
-                            "élèves"};
+    QStringList expected = template_tables();
     expected.sort();
     EXPECT_EQ(tables, expected);
 }

@@ -1,4 +1,4 @@
-#include "platform/errors/VbError.h"
+#include "platform/dao/FileLock.h"
 #include "platform/files/Files.h"
 #include "support/Fixtures.h"
 
@@ -6,7 +6,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <fcntl.h>
-#include <functional>
 #include <gtest/gtest.h>
 #include <linux/fs.h>
 #include <sys/ioctl.h>
@@ -14,21 +13,6 @@
 #include <unistd.h>
 
 namespace {
-
-// The number of the VbError that `operation` raises, or -1 when it raises none.
-int errorOf(const std::function<void()>& operation) {
-    try {
-        operation();
-    } catch (const VbError& e) {
-        return e.number();
-    }
-    return -1;
-}
-
-QByteArray contentOf(const QString& path) {
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<absent>");
-}
 
 void makeReadOnly(const QString& path) {
     ::chmod(QFile::encodeName(path).constData(), 0444);
@@ -60,88 +44,83 @@ private:
 class Files : public ::testing::Test {
 protected:
     WorkFolder folder;
+    QString f(const char* name) const { return folder.file(QString::fromUtf8(name)); }
+    QString mkdir(const char* name) const {
+        QDir(folder.path()).mkpath(QString::fromUtf8(name));
+        return f(name);
+    }
+    // A shared lock as an open database holds on its file.
+    static dao::FileLock held(const QString& path) {
+        dao::FileLock lock;
+        EXPECT_EQ(lock.acquire(path, dao::FileLock::Mode::Shared), dao::FileLock::Result::Held);
+        return lock;
+    }
 };
 
 } // namespace
 
-TEST_F(Files, DirNamesAnExistingFile) {
-    const QString path = folder.write(QStringLiteral("options.ini"), "0\r\n");
-    EXPECT_EQ(Dir(path), QStringLiteral("options.ini"));
+TEST_F(Files, DirNamesAFileWithItsAccentsAndCommasReadOnlyOrNot) {
+    EXPECT_EQ(Dir(folder.write("options.ini", "0\r\n")), "options.ini");
+    EXPECT_EQ(Dir(folder.write("école, année 2024.mdb", "x")), "école, année 2024.mdb");
+    const QString readOnly = folder.write("lecture.mdb", "x");
+    makeReadOnly(readOnly);
+    EXPECT_EQ(Dir(readOnly), "lecture.mdb");
 }
 
-TEST_F(Files, DirIsEmptyForWhatIsNotThere) {
-    EXPECT_EQ(Dir(folder.file(QStringLiteral("absent.mdb"))), QString());
-    EXPECT_EQ(Dir(folder.file(QStringLiteral("nulle_part/absent.mdb"))), QString());
-    EXPECT_EQ(Dir(QString()), QString());
-}
-
-TEST_F(Files, DirDoesNotSeeFoldersNorHiddenFiles) {
-    QDir(folder.path()).mkdir(QStringLiteral("sous_dossier"));
-    const QString hidden = folder.write(QStringLiteral(".cachée.mdb"), "x");
-    EXPECT_EQ(Dir(folder.file(QStringLiteral("sous_dossier"))), QString());
-    EXPECT_EQ(Dir(hidden), QString());
-    EXPECT_EQ(Dir(folder.file(QStringLiteral("*.mdb"))), QString());
-}
-
-TEST_F(Files, DirSeesReadOnlyFiles) {
-    const QString path = folder.write(QStringLiteral("lecture.mdb"), "x");
-    makeReadOnly(path);
-    EXPECT_EQ(Dir(path), QStringLiteral("lecture.mdb"));
+TEST_F(Files, DirIsEmptyForWhatIsNotThereFoldersAndHiddenFiles) {
+    const QString hidden = folder.write(".cachée.mdb", "x");
+    for (const QString& path :
+         {f("absent.mdb"), f("nulle_part/absent.mdb"), QString(), mkdir("sous_dossier"), hidden, f("*.mdb")})
+        EXPECT_EQ(Dir(path), QString()) << path.toStdString();
 }
 
 TEST_F(Files, DirWithWildcardsGivesTheFirstMatchInNameOrder) {
-    folder.write(QStringLiteral("b.mdb"), "x");
-    folder.write(QStringLiteral("a.mdb"), "x");
-    folder.write(QStringLiteral("c.txt"), "x");
-    EXPECT_EQ(Dir(folder.file(QStringLiteral("*.mdb"))), QStringLiteral("a.mdb"));
-    EXPECT_EQ(Dir(folder.file(QStringLiteral("?.txt"))), QStringLiteral("c.txt"));
-    EXPECT_EQ(Dir(folder.file(QStringLiteral("*.rpt"))), QString());
+    for (const char* name : {"b.mdb", "a.mdb", "c.txt"})
+        folder.write(name, "x");
+    EXPECT_EQ(Dir(f("*.mdb")), "a.mdb");
+    EXPECT_EQ(Dir(f("?.txt")), "c.txt");
+    EXPECT_EQ(Dir(f("*.rpt")), QString());
 }
 
 TEST_F(Files, StarDotStarIsEveryFileAndBracketsAreNoWildcards) {
-    folder.write(QStringLiteral("sans_extension"), "x");
-    EXPECT_EQ(Dir(folder.file(QStringLiteral("*.*"))), QStringLiteral("sans_extension"));
-    folder.write(QStringLiteral("[a].mdb"), "x");
-    EXPECT_EQ(Dir(folder.file(QStringLiteral("[a]*"))), QStringLiteral("[a].mdb"));
-    EXPECT_EQ(Dir(folder.file(QStringLiteral("a*"))), QString());
+    folder.write("sans_extension", "x");
+    EXPECT_EQ(Dir(f("*.*")), "sans_extension");
+    folder.write("[a].mdb", "x");
+    EXPECT_EQ(Dir(f("[a]*")), "[a].mdb");
+    EXPECT_EQ(Dir(f("a*")), QString());
 }
 
-TEST_F(Files, DirKeepsAccentsAndCommasOfNames) {
-    const QString path = folder.write(QString::fromUtf8("école, année 2024.mdb"), "x");
-    EXPECT_EQ(Dir(path), QString::fromUtf8("école, année 2024.mdb"));
-}
-
-TEST_F(Files, KillRemovesTheFile) {
-    const QString path = folder.write(QStringLiteral("cible.mdb"), "x");
+TEST_F(Files, KillRemovesTheFileOrEveryWildcardMatch) {
+    const QString path = folder.write("cible.mdb", "x");
     Kill(path);
     EXPECT_FALSE(QFileInfo::exists(path));
+    folder.write("a.cpg", "x");
+    folder.write("b.cpg", "x");
+    const QString kept = folder.write("c.mdb", "x");
+    Kill(f("*.cpg"));
+    EXPECT_EQ(Dir(f("*.cpg")), QString());
+    EXPECT_TRUE(QFileInfo::exists(kept));
+    EXPECT_EQ(error_of([&] { Kill(f("*.cpg")); }), 53);
 }
 
-TEST_F(Files, KillMissingFileIs53AndMissingFolderIs76) {
-    EXPECT_EQ(errorOf([&] { Kill(folder.file(QStringLiteral("absent.mdb"))); }), 53);
-    EXPECT_EQ(errorOf([&] { Kill(folder.file(QStringLiteral("absent/absent.mdb"))); }), 76);
+TEST_F(Files, KillRefusalsLeaveTheFileInPlace) {
+    EXPECT_EQ(error_of([&] { Kill(f("absent.mdb")); }), 53);
+    EXPECT_EQ(error_of([&] { Kill(f("absent/absent.mdb")); }), 76);
+    const QString dossier = mkdir("dossier");
+    EXPECT_EQ(error_of([&] { Kill(dossier); }), 53); // the runtime looks for files only
+    EXPECT_TRUE(QFileInfo(dossier).isDir());
+    const QString readOnly = folder.write("protégée.mdb", "garde");
+    makeReadOnly(readOnly);
+    EXPECT_EQ(error_of([&] { Kill(readOnly); }), 75);
+    EXPECT_EQ(contentOf(readOnly), "garde");
 }
 
-TEST_F(Files, KillOfAFolderIsFileNotFound) {
-    QDir(folder.path()).mkdir(QStringLiteral("dossier"));
-    EXPECT_EQ(errorOf([&] { Kill(folder.file(QStringLiteral("dossier"))); }), 53);
-    EXPECT_TRUE(QFileInfo(folder.file(QStringLiteral("dossier"))).isDir());
-}
-
-TEST_F(Files, KillOfAReadOnlyFileIs75AndTheFileStays) {
-    const QString path = folder.write(QStringLiteral("protégée.mdb"), "garde");
-    makeReadOnly(path);
-    EXPECT_EQ(errorOf([&] { Kill(path); }), 75);
-    EXPECT_EQ(contentOf(path), "garde");
-}
-
-TEST_F(Files, KillOfAFileHeldByAnOpenDatabaseIs70) {
-    const QString path = folder.write(QStringLiteral("ouverte.mdb"), "en cours");
+TEST_F(Files, KillOfAFileHeldByAnOpenDatabaseIs70UntilItIsReleased) {
+    const QString path = folder.write("ouverte.mdb", "en cours");
     {
-        const VerrouPartagé held(path);
-        ASSERT_TRUE(held.tenu());
+        const dao::FileLock lock = held(path);
         EXPECT_TRUE(fichier_verrouillé(path));
-        EXPECT_EQ(errorOf([&] { Kill(path); }), 70);
+        EXPECT_EQ(error_of([&] { Kill(path); }), 70);
         EXPECT_EQ(contentOf(path), "en cours");
     }
     EXPECT_FALSE(fichier_verrouillé(path));
@@ -150,117 +129,75 @@ TEST_F(Files, KillOfAFileHeldByAnOpenDatabaseIs70) {
 }
 
 TEST_F(Files, KillOfAFileTheSystemRefusesIs70) {
-    const QString path = folder.write(QStringLiteral("immuable.mdb"), "x");
+    const QString path = folder.write("immuable.mdb", "x");
     const ImmutableFile immutable(path);
     if (!immutable.applied())
         GTEST_SKIP() << "immutable attribute not available on this file system";
-    EXPECT_EQ(errorOf([&] { Kill(path); }), 70);
+    EXPECT_EQ(error_of([&] { Kill(path); }), 70);
     EXPECT_TRUE(QFileInfo::exists(path));
 }
 
-TEST_F(Files, KillWithWildcardRemovesEveryMatch) {
-    folder.write(QStringLiteral("a.cpg"), "x");
-    folder.write(QStringLiteral("b.cpg"), "x");
-    const QString kept = folder.write(QStringLiteral("c.mdb"), "x");
-    Kill(folder.file(QStringLiteral("*.cpg")));
-    EXPECT_EQ(Dir(folder.file(QStringLiteral("*.cpg"))), QString());
-    EXPECT_TRUE(QFileInfo::exists(kept));
-    EXPECT_EQ(errorOf([&] { Kill(folder.file(QStringLiteral("*.cpg"))); }), 53);
-}
-
-TEST_F(Files, FileCopyCopiesAndReplaces) {
-    const QString source = folder.write(QStringLiteral("base.mdb"), QByteArray(200000, 'n'));
-    const QString target = folder.write(QStringLiteral("copie.mdb"), "ancienne copie plus longue");
+TEST_F(Files, FileCopyReplacesTheTargetAndLeavesNothingAside) {
+    const QString source = folder.write("base.mdb", QByteArray(200000, 'n'));
+    const QString target = folder.write("copie.mdb", "ancienne copie plus longue");
     FileCopy(source, target);
     EXPECT_EQ(contentOf(target), QByteArray(200000, 'n'));
     EXPECT_EQ(contentOf(source), QByteArray(200000, 'n'));
-}
-
-TEST_F(Files, FileCopyOfAReadOnlyTemplateGivesABaseTheUserCanWrite) {
-    const QString model = folder.write(QStringLiteral("basevide.mdz"), "modèle");
-    makeReadOnly(model);
-    const QString base = folder.file(QStringLiteral("nouvelle.mdb"));
-    FileCopy(model, base);
-    EXPECT_EQ(contentOf(base), "modèle");
-    EXPECT_TRUE(QFileInfo(base).permissions() & QFileDevice::WriteOwner);
-    Kill(base);
-}
-
-TEST_F(Files, FileCopyLeavesNothingAside) {
-    const QString source = folder.write(QStringLiteral("base.mdb"), "x");
-    FileCopy(source, folder.file(QStringLiteral("copie.mdb")));
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
 }
 
-TEST_F(Files, FileCopyMissingSourceIs53AndMissingFoldersAre76) {
-    const QString source = folder.write(QStringLiteral("base.mdb"), "x");
-    EXPECT_EQ(errorOf([&] {
-                  FileCopy(folder.file(QStringLiteral("absent.mdb")), folder.file(QStringLiteral("c.mdb")));
-              }),
-              53);
-    EXPECT_EQ(errorOf([&] {
-                  FileCopy(folder.file(QStringLiteral("non/absent.mdb")),
-                           folder.file(QStringLiteral("c.mdb")));
-              }),
-              76);
-    EXPECT_EQ(errorOf([&] { FileCopy(source, folder.file(QStringLiteral("non/c.mdb"))); }), 76);
+TEST_F(Files, FileCopyOfAReadOnlyTemplateGivesABaseTheUserCanWrite) {
+    const QString model = folder.write("basevide.mdz", "modèle");
+    makeReadOnly(model);
+    FileCopy(model, f("nouvelle.mdb"));
+    EXPECT_EQ(contentOf(f("nouvelle.mdb")), "modèle");
+    EXPECT_TRUE(QFileInfo(f("nouvelle.mdb")).permissions() & QFileDevice::WriteOwner);
+    Kill(f("nouvelle.mdb"));
+}
+
+TEST_F(Files, FileCopyFailuresWriteNothing) {
+    const QString source = folder.write("base.mdb", "nouveau");
+    EXPECT_EQ(error_of([&] { FileCopy(f("absent.mdb"), f("c.mdb")); }), 53);
+    EXPECT_EQ(error_of([&] { FileCopy(f("non/absent.mdb"), f("c.mdb")); }), 76);
+    EXPECT_EQ(error_of([&] { FileCopy(source, f("non/c.mdb")); }), 76);
+    EXPECT_EQ(error_of([&] { FileCopy(mkdir("dossier"), f("c.mdb")); }), 75);
+    EXPECT_FALSE(QFileInfo::exists(f("c.mdb")));
 }
 
 TEST_F(Files, FileCopyOverAHeldOrReadOnlyTargetIsRefusedAndTheTargetStays) {
-    const QString source = folder.write(QStringLiteral("base.mdb"), "nouveau");
-    const QString held = folder.write(QStringLiteral("tenue.mdb"), "ancien");
-    const QString readOnly = folder.write(QStringLiteral("lecture.mdb"), "ancien");
+    const QString source = folder.write("base.mdb", "nouveau");
+    const QString target = folder.write("tenue.mdb", "ancien");
+    const QString readOnly = folder.write("lecture.mdb", "ancien");
     makeReadOnly(readOnly);
     {
-        const VerrouPartagé lock(held);
-        EXPECT_EQ(errorOf([&] { FileCopy(source, held); }), 70);
+        const dao::FileLock lock = held(target);
+        EXPECT_EQ(error_of([&] { FileCopy(source, target); }), 70);
     }
-    EXPECT_EQ(errorOf([&] { FileCopy(source, readOnly); }), 75);
-    EXPECT_EQ(contentOf(held), "ancien");
+    EXPECT_EQ(error_of([&] { FileCopy(source, readOnly); }), 75);
+    EXPECT_EQ(contentOf(target), "ancien");
     EXPECT_EQ(contentOf(readOnly), "ancien");
 }
 
-TEST_F(Files, FileCopyOfAHeldSourceIs70) {
-    const QString source = folder.write(QStringLiteral("base.mdb"), "x");
-    const VerrouPartagé lock(source);
-    EXPECT_EQ(errorOf([&] { FileCopy(source, folder.file(QStringLiteral("copie.mdb"))); }), 70);
-    EXPECT_FALSE(QFileInfo::exists(folder.file(QStringLiteral("copie.mdb"))));
-}
-
-TEST_F(Files, FileCopyOfAFolderIs75) {
-    QDir(folder.path()).mkdir(QStringLiteral("dossier"));
-    EXPECT_EQ(
-        errorOf([&] { FileCopy(folder.file(QStringLiteral("dossier")), folder.file(QStringLiteral("c"))); }),
-        75);
-}
-
-TEST_F(Files, MkDirMakesOneFolder) {
-    MkDir(folder.file(QStringLiteral("sauvegardes")));
-    EXPECT_TRUE(QFileInfo(folder.file(QStringLiteral("sauvegardes"))).isDir());
-}
-
-TEST_F(Files, MkDirOnATakenNameIs75AndWithoutParentIs76) {
-    QDir(folder.path()).mkdir(QStringLiteral("là"));
-    folder.write(QStringLiteral("fichier"), "x");
-    EXPECT_EQ(errorOf([&] { MkDir(folder.file(QStringLiteral("là"))); }), 75);
-    EXPECT_EQ(errorOf([&] { MkDir(folder.file(QStringLiteral("fichier"))); }), 75);
-    EXPECT_EQ(errorOf([&] { MkDir(folder.file(QStringLiteral("a/b"))); }), 76);
-}
-
-TEST_F(Files, RmDirRemovesOnlyAnEmptyFolder) {
-    QDir(folder.path()).mkpath(QStringLiteral("plein/dedans"));
-    EXPECT_EQ(errorOf([&] { RmDir(folder.file(QStringLiteral("plein"))); }), 75);
-    RmDir(folder.file(QStringLiteral("plein/dedans")));
-    EXPECT_FALSE(QFileInfo::exists(folder.file(QStringLiteral("plein/dedans"))));
-    EXPECT_EQ(errorOf([&] { RmDir(folder.file(QStringLiteral("absent"))); }), 76);
+TEST_F(Files, MkDirMakesOneFolderAndRmDirRemovesOnlyAnEmptyOne) {
+    MkDir(f("sauvegardes"));
+    EXPECT_TRUE(QFileInfo(f("sauvegardes")).isDir());
+    folder.write("fichier", "x");
+    EXPECT_EQ(error_of([&] { MkDir(f("sauvegardes")); }), 75);
+    EXPECT_EQ(error_of([&] { MkDir(f("fichier")); }), 75);
+    EXPECT_EQ(error_of([&] { MkDir(f("a/b")); }), 76);
+    mkdir("plein/dedans");
+    EXPECT_EQ(error_of([&] { RmDir(f("plein")); }), 75);
+    RmDir(f("plein/dedans"));
+    EXPECT_FALSE(QFileInfo::exists(f("plein/dedans")));
+    EXPECT_EQ(error_of([&] { RmDir(f("absent")); }), 76);
 }
 
 TEST_F(Files, NameRenamesButNeverOverAnExistingFile) {
-    const QString old = folder.write(QStringLiteral("ancien.mdb"), "contenu");
-    const QString taken = folder.write(QStringLiteral("pris.mdb"), "autre");
-    EXPECT_EQ(errorOf([&] { Name(old, taken); }), 58);
+    const QString old = folder.write("ancien.mdb", "contenu");
+    const QString taken = folder.write("pris.mdb", "autre");
+    EXPECT_EQ(error_of([&] { Name(old, taken); }), 58);
     EXPECT_EQ(contentOf(taken), "autre");
-    Name(old, folder.file(QStringLiteral("nouveau.mdb")));
-    EXPECT_EQ(contentOf(folder.file(QStringLiteral("nouveau.mdb"))), "contenu");
-    EXPECT_EQ(errorOf([&] { Name(old, folder.file(QStringLiteral("x.mdb"))); }), 53);
+    Name(old, f("nouveau.mdb"));
+    EXPECT_EQ(contentOf(f("nouveau.mdb")), "contenu");
+    EXPECT_EQ(error_of([&] { Name(old, f("x.mdb")); }), 53);
 }

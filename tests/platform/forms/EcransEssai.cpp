@@ -22,11 +22,8 @@ QString créer_base_essai(const WorkFolder& dossier) {
         INSERT INTO valeurs VALUES ('A', 'Ananas');
         INSERT INTO valeurs VALUES ('B', 'Banane');
         INSERT INTO valeurs VALUES ('C', 'Cerise');
-        CREATE TABLE journal (quoi TEXT);
-        CREATE TRIGGER fiches_maj AFTER UPDATE ON fiches BEGIN INSERT INTO journal VALUES ('maj'); END;
-        CREATE TRIGGER fiches_ajout AFTER INSERT ON fiches BEGIN INSERT INTO journal VALUES ('ajout'); END;
-        CREATE TRIGGER valeurs_maj AFTER UPDATE ON valeurs BEGIN INSERT INTO journal VALUES ('maj'); END;
     )"));
+    journaliser_écritures(chemin, {QStringLiteral("fiches"), QStringLiteral("valeurs")});
     return chemin;
 }
 
@@ -38,46 +35,39 @@ ConfigurationFiche feuille_essai::configuration_par_défaut() {
     return c;
 }
 
+namespace {
+
+// A control named after its column, laid out on its page and bound to that column.
+template <class W> W* lié(DataControl& données, QWidget* page, const char* nom, const char* colonne) {
+    auto* w = new W(page);
+    w->setObjectName(QString::fromUtf8(nom));
+    page->layout()->addWidget(w);
+    données.bind(w, QString::fromUtf8(colonne));
+    return w;
+}
+
+} // namespace
+
 feuille_essai::feuille_essai(ConfigurationFiche configuration) : FeuilleFiche(std::move(configuration)) {
     auto* disposition = new QVBoxLayout(corps());
     SSTab1 = new QTabWidget(corps());
     SSTab1->setObjectName(QStringLiteral("SSTab1"));
-    auto* page0 = new QWidget;
-    auto* page1 = new QWidget;
-    SSTab1->addTab(page0, QStringLiteral("&Identité"));
-    SSTab1->addTab(page1, QStringLiteral("&Notes"));
+    auto* identité = new QWidget;
+    auto* suite = new QWidget;
+    new QVBoxLayout(identité);
+    new QVBoxLayout(suite);
+    SSTab1->addTab(identité, QStringLiteral("&Identité"));
+    SSTab1->addTab(suite, QStringLiteral("&Notes"));
     disposition->addWidget(SSTab1);
 
-    auto* identité = new QVBoxLayout(page0);
-    nom = new QLineEdit(page0);
-    nom->setObjectName(QStringLiteral("nom"));
+    nom = lié<QLineEdit>(*datPrimaryRS, identité, "nom", "nom");
     nom->setMaxLength(30);
-    naissance = new QLineEdit(page0);
-    naissance->setObjectName(QStringLiteral("naissance"));
-    actif = new QCheckBox(QStringLiteral("actif"), page0);
-    actif->setObjectName(QStringLiteral("actif"));
-    identité->addWidget(nom);
-    identité->addWidget(naissance);
-    identité->addWidget(actif);
-
-    auto* suite = new QVBoxLayout(page1);
-    notes = new QPlainTextEdit(page1);
-    notes->setObjectName(QStringLiteral("notes"));
+    naissance = lié<QLineEdit>(*datPrimaryRS, identité, "naissance", "naissance");
+    actif = lié<QCheckBox>(*datPrimaryRS, identité, "actif", "actif");
+    notes = lié<QPlainTextEdit>(*datPrimaryRS, suite, "notes", "notes");
     notes->setTabChangesFocus(true);
-    libellé = new QLabel(page1);
-    libellé->setObjectName(QStringLiteral("libellé"));
-    suite->addWidget(notes);
-    suite->addWidget(libellé);
-    naissance_affichée = new QLabel(page1);
-    naissance_affichée->setObjectName(QStringLiteral("naissance_affichée"));
-    suite->addWidget(naissance_affichée);
-
-    datPrimaryRS->bind(nom, QStringLiteral("nom"));
-    datPrimaryRS->bind(naissance, QStringLiteral("naissance"));
-    datPrimaryRS->bind(actif, QStringLiteral("actif"));
-    datPrimaryRS->bind(notes, QStringLiteral("notes"));
-    datPrimaryRS->bind(libellé, QStringLiteral("libellé"));
-    datPrimaryRS->bind(naissance_affichée, QStringLiteral("naissance"));
+    libellé = lié<QLabel>(*datPrimaryRS, suite, "libellé", "libellé");
+    naissance_affichée = lié<QLabel>(*datPrimaryRS, suite, "naissance_affichée", "naissance");
 }
 
 void feuille_essai::datPrimaryRS_Validate(int& Action, bool& Save) {

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "platform/forms/DataControl.h"
 #include "platform/forms/FeuilleFiche.h"
+#include "platform/forms/Module1.h"
 #include "support/BaseDirecte.h"
 #include "support/Fixtures.h"
+#include "support/PiloteEcran.h"
 
 #include <QString>
 #include <QStringList>
@@ -49,4 +52,23 @@ public:
     // What each accept read from the grid's current cell.
     QStringList acceptés;
     void bouton_accepter_Click() override;
+};
+
+// The scripted program on the test file, with screens pointed at its tables, shown and active.
+class ÉcransEssaiTest : public WorkFolderTest {
+protected:
+    void SetUp() override {
+        WorkFolderTest::SetUp();
+        base = créer_base_essai(folder);
+    }
+    template <class F> F& ouvrir_sur(const QString& source) {
+        F& f = module1().feuilles().get<F>();
+        f.datPrimaryRS->setDatabaseName(base);
+        f.datPrimaryRS->setRecordSource(source);
+        f.datPrimaryRS->Refresh();
+        montrer_active(f);
+        return f;
+    }
+
+    QString base;
 };

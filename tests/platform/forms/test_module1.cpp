@@ -6,16 +6,6 @@
 #include <limits>
 #include <type_traits>
 
-TEST(Module1, StartsEmptyWithZeroAndTheRealDialogs) {
-    module1().réinitialiser();
-    EXPECT_TRUE(module1().base_en_cours.isEmpty());
-    EXPECT_TRUE(module1().chemin_application.isEmpty());
-    EXPECT_TRUE(module1().chemin_choisi.isEmpty());
-    EXPECT_TRUE(module1().chemin_image_choisie.isEmpty());
-    EXPECT_EQ(module1().origine_appel, 0);
-    EXPECT_NE(dynamic_cast<QtInteraction*>(&module1().interaction()), nullptr);
-}
-
 TEST(Module1, CallerOriginIsASigned16BitInteger) {
     static_assert(std::is_same_v<decltype(Module1::origine_appel), int16_t>);
     module1().origine_appel = std::numeric_limits<int16_t>::max();
@@ -24,6 +14,7 @@ TEST(Module1, CallerOriginIsASigned16BitInteger) {
     module1().réinitialiser();
 }
 
+// The start state: empty paths, 0, the real clock and the real dialogs.
 TEST(Module1, ResetBringsBackTheStartState) {
     module1().base_en_cours = QStringLiteral("/bases/école.mdb");
     module1().chemin_application = QStringLiteral("/travail/");

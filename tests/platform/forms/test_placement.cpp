@@ -12,30 +12,24 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
-TEST(Placement, CentredIs500TwipsAboveTheMiddle) {
-    const PositionTwips p = position_centrée(15360, 11520, 6000, 4000);
-    EXPECT_DOUBLE_EQ(p.top, 3260);
-    EXPECT_DOUBLE_EQ(p.left, 4680);
-}
-
-TEST(Placement, HighIs1500AboveAnd1000LeftOfTheMiddle) {
-    const PositionTwips p = position_centrée_haute(15360, 11520, 6000, 4000);
-    EXPECT_DOUBLE_EQ(p.top, 2260);
-    EXPECT_DOUBLE_EQ(p.left, 3680);
-}
-
-TEST(Placement, HalvesAreKeptInFloatingPoint) {
-    const PositionTwips p = position_centrée(15361, 11521, 6000, 4000);
-    EXPECT_DOUBLE_EQ(p.top, 3260.5);
-    EXPECT_DOUBLE_EQ(p.left, 4680.5);
-}
-
-TEST(Placement, ATallScreenGetsANegativeTopAndIsNotClipped) {
-    const PositionTwips p = position_centrée(15360, 11520, 20000, 12000);
-    EXPECT_DOUBLE_EQ(p.top, -740);
-    EXPECT_DOUBLE_EQ(p.left, -2320);
-    const PositionTwips h = position_centrée_haute(15360, 11520, 6000, 11520);
-    EXPECT_DOUBLE_EQ(h.top, -1500);
+// Centred: 500 twips above the middle; high: 1500 above and 1000 left of it. Halves stay, and a
+// screen taller than the display gets a negative top rather than being clipped.
+TEST(Placement, PositionsInTwips) {
+    const struct {
+        PositionTwips (*place)(double, double, double, double);
+        double écran_l, écran_h, l, h, top, left;
+    } cas[] = {
+        {position_centrée, 15360, 11520, 6000, 4000, 3260, 4680},
+        {position_centrée_haute, 15360, 11520, 6000, 4000, 2260, 3680},
+        {position_centrée, 15361, 11521, 6000, 4000, 3260.5, 4680.5},
+        {position_centrée, 15360, 11520, 20000, 12000, -740, -2320},
+        {position_centrée_haute, 15360, 11520, 6000, 11520, -1500, 3680},
+    };
+    for (const auto& c : cas) {
+        const PositionTwips p = c.place(c.écran_l, c.écran_h, c.l, c.h);
+        EXPECT_DOUBLE_EQ(p.top, c.top) << c.l << "x" << c.h;
+        EXPECT_DOUBLE_EQ(p.left, c.left) << c.l << "x" << c.h;
+    }
 }
 
 TEST(Placement, FifteenTwipsToAPixel) {
@@ -57,27 +51,21 @@ class PlacingAScreen : public ScriptedTest {};
 
 } // namespace
 
-TEST_F(PlacingAScreen, CentrerFeuilleMeasuresTheWholeDisplay) {
+TEST_F(PlacingAScreen, CentrerFeuilleMeasuresTheWholeDisplayAndTheHighOneIsHigherAndFurtherLeft) {
     auto& f = module1().feuilles().get<feuille_placée>();
-    centrer_feuille(f);
     const QSize screen = QGuiApplication::primaryScreen()->geometry().size();
     const QSize own = f.frameGeometry().size();
-    const PositionTwips p = position_centrée(en_twips(screen.width()), en_twips(screen.height()),
-                                             en_twips(own.width()), en_twips(own.height()));
-    EXPECT_EQ(f.pos(), QPoint(en_pixels(p.left), en_pixels(p.top)));
-    EXPECT_NEAR(f.y(), (screen.height() - own.height()) / 2.0 - 500 / twips_par_pixel, 0.5);
-}
-
-TEST_F(PlacingAScreen, CentrerFeuilleHauteIsHigherAndFurtherLeft) {
-    auto& f = module1().feuilles().get<feuille_placée>();
+    auto attendue = [&](auto place) {
+        const PositionTwips p = place(en_twips(screen.width()), en_twips(screen.height()),
+                                      en_twips(own.width()), en_twips(own.height()));
+        return QPoint(en_pixels(p.left), en_pixels(p.top));
+    };
     centrer_feuille(f);
+    EXPECT_EQ(f.pos(), attendue(position_centrée));
+    EXPECT_NEAR(f.y(), (screen.height() - own.height()) / 2.0 - 500 / twips_par_pixel, 0.5);
     const QPoint centred = f.pos();
     centrer_feuille_haute(f);
-    const QSize screen = QGuiApplication::primaryScreen()->geometry().size();
-    const QSize own = f.frameGeometry().size();
-    const PositionTwips p = position_centrée_haute(en_twips(screen.width()), en_twips(screen.height()),
-                                                   en_twips(own.width()), en_twips(own.height()));
-    EXPECT_EQ(f.pos(), QPoint(en_pixels(p.left), en_pixels(p.top)));
+    EXPECT_EQ(f.pos(), attendue(position_centrée_haute));
     EXPECT_NEAR(centred.x() - f.x(), 1000 / twips_par_pixel, 1);
     EXPECT_NEAR(centred.y() - f.y(), 1000 / twips_par_pixel, 1);
 }

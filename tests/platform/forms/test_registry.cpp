@@ -74,7 +74,7 @@ protected:
 
 } // namespace
 
-TEST_F(Registry, FirstTouchLoadsHiddenAndRunsFormLoadOnce) {
+TEST_F(Registry, FirstTouchLoadsHiddenAndRunsFormLoadOnceShowAndHideKeepItLoaded) {
     EXPECT_FALSE(feuilles().isLoaded<feuille_options_essai>());
     EXPECT_EQ(feuilles().siChargée<feuille_options_essai>(), nullptr);
     auto& f = feuilles().get<feuille_options_essai>();
@@ -84,6 +84,11 @@ TEST_F(Registry, FirstTouchLoadsHiddenAndRunsFormLoadOnce) {
     EXPECT_EQ(&feuilles().get<feuille_options_essai>(), &f);
     EXPECT_EQ(f.loads, 1);
     EXPECT_EQ(feuilles().siChargée<feuille_options_essai>(), &f);
+    f.Show();
+    EXPECT_TRUE(f.isVisible());
+    f.Hide();
+    EXPECT_FALSE(f.isVisible());
+    EXPECT_TRUE(feuilles().isLoaded<feuille_options_essai>()) << "a hidden screen stays loaded";
 }
 
 TEST_F(Registry, UnloadRunsItsEventsInOrderAndTheNextTouchBringsBackTheDefaults) {
@@ -105,7 +110,7 @@ TEST_F(Registry, UnloadRunsItsEventsInOrderAndTheNextTouchBringsBackTheDefaults)
     EXPECT_EQ(again.loads, 1);
 }
 
-TEST_F(Registry, CancelInQueryUnloadKeepsTheScreenUntouched) {
+TEST_F(Registry, CancelInQueryUnloadOrFormUnloadKeepsTheScreen) {
     auto& f = feuilles().get<feuille_options_essai>();
     f.refuseQuery = 1;
     f.Label4->setText(QStringLiteral("gardé"));
@@ -115,10 +120,9 @@ TEST_F(Registry, CancelInQueryUnloadKeepsTheScreenUntouched) {
     processDeletions();
     ASSERT_TRUE(feuilles().isLoaded<feuille_options_essai>());
     EXPECT_EQ(feuilles().get<feuille_options_essai>().Label4->text(), QStringLiteral("gardé"));
-}
 
-TEST_F(Registry, CancelInFormUnloadKeepsTheScreenButTheWriteStaysDone) {
-    auto& f = feuilles().get<feuille_options_essai>();
+    // Cancelled in Form_Unload, the screen stays too but the write is done.
+    f.refuseQuery = 0;
     f.refuseUnload = 1;
     journal.clear();
     EXPECT_FALSE(f.Unload());
@@ -127,18 +131,20 @@ TEST_F(Registry, CancelInFormUnloadKeepsTheScreenButTheWriteStaysDone) {
     EXPECT_EQ(&feuilles().get<feuille_options_essai>(), &f);
 }
 
-TEST_F(Registry, AScreenMayUnloadItselfFromItsOwnHandler) {
+TEST_F(Registry, AScreenMayUnloadItselfFromItsOwnHandlerOrByClosingItsWindow) {
     auto& f = feuilles().get<feuille_options_essai>();
     f.Show();
     f.cmdFermer->click();
     EXPECT_FALSE(feuilles().isLoaded<feuille_options_essai>());
     processDeletions();
     EXPECT_EQ(feuilles().get<feuille_options_essai>().loads, 1);
-}
 
-TEST_F(Registry, UnloadOfAScreenNeverLoadedIsHarmless) {
-    EXPECT_TRUE(feuilles().unload<feuille_options_essai>());
-    EXPECT_TRUE(journal.isEmpty());
+    // Closing a top-level screen's window is an unload too.
+    auto& again = feuilles().get<feuille_options_essai>();
+    again.Show();
+    journal.clear();
+    again.close();
+    EXPECT_EQ(journal, (QStringList{"Form_QueryUnload", "écriture", "Form_Unload"}));
     EXPECT_FALSE(feuilles().isLoaded<feuille_options_essai>());
 }
 
@@ -147,15 +153,6 @@ TEST_F(Registry, AFormLoadMayTouchOtherScreensAndItself) {
     EXPECT_EQ(caller.lu, QStringLiteral("chargée"));
     EXPECT_TRUE(feuilles().isLoaded<feuille_options_essai>());
     EXPECT_EQ(feuilles().chargées().size(), 2u);
-}
-
-TEST_F(Registry, ShowMakesTheScreenVisibleAndHideKeepsItLoaded) {
-    auto& f = feuilles().get<feuille_options_essai>();
-    f.Show();
-    EXPECT_TRUE(f.isVisible());
-    f.Hide();
-    EXPECT_FALSE(f.isVisible());
-    EXPECT_TRUE(feuilles().isLoaded<feuille_options_essai>());
 }
 
 TEST_F(Registry, ChildScreensGoIntoTheMainWindowAreaAndTopLevelOnesDoNot) {
@@ -204,25 +201,19 @@ TEST_F(Registry, ClosingTheSubWindowIsAnUnloadAndMayBeRefused) {
     feuilles().toutDétruire();
 }
 
-TEST_F(Registry, ClosingATopLevelScreenIsAnUnload) {
-    auto& f = feuilles().get<feuille_options_essai>();
-    f.Show();
-    journal.clear();
-    f.close();
-    EXPECT_EQ(journal, (QStringList{"Form_QueryUnload", "écriture", "Form_Unload"}));
-    EXPECT_FALSE(feuilles().isLoaded<feuille_options_essai>());
-}
-
-TEST_F(Registry, ResetDestroysEveryScreenWithoutTheirEvents) {
+TEST_F(Registry, ResetDestroysEveryScreenWithoutTheirEventsAndUnloadingNothingIsHarmless) {
     QPointer<Feuille> f(&feuilles().get<feuille_options_essai>());
     journal.clear();
     module1().réinitialiser();
     EXPECT_TRUE(f.isNull());
     EXPECT_TRUE(journal.isEmpty());
     EXPECT_TRUE(module1().feuilles().chargées().empty());
+    EXPECT_TRUE(feuilles().unload<feuille_options_essai>()) << "unloading a screen not loaded is harmless";
+    EXPECT_TRUE(journal.isEmpty());
+    EXPECT_FALSE(feuilles().isLoaded<feuille_options_essai>());
 }
 
-TEST_F(Registry, AScreenDestroyedBehindTheRegistryIsLoadedAfresh) {
+TEST_F(Registry, AScreenDestroyedBehindTheRegistryInOrOutOfTheAreaIsLoadedAfresh) {
     QMdiArea area;
     feuilles().setMdiArea(&area);
     feuilles().get<feuille_options_essai>();
@@ -230,10 +221,17 @@ TEST_F(Registry, AScreenDestroyedBehindTheRegistryIsLoadedAfresh) {
     area.closeAllSubWindows();
     qDeleteAll(area.subWindowList());
     EXPECT_FALSE(feuilles().isLoaded<feuille_options_essai>());
-    EXPECT_EQ(feuilles().get<feuille_options_essai>().loads, 1);
+    auto& f = feuilles().get<feuille_options_essai>();
+    EXPECT_EQ(f.loads, 1);
+
+    f.Check3->setChecked(true);
+    f.deleteLater();
+    processDeletions();
+    EXPECT_FALSE(feuilles().isLoaded<feuille_options_essai>());
+    EXPECT_FALSE(feuilles().get<feuille_options_essai>().Check3->isChecked());
 }
 
-TEST_F(Registry, UnloadingEverythingAsksEveryScreenFirstThenUnloadsTheLastLoadedFirst) {
+TEST_F(Registry, UnloadingEverythingAsksEveryScreenFirstThenUnloadsTheLastLoadedFirstUntilOneCancels) {
     auto& options = feuilles().get<feuille_options_essai>();
     feuilles().get<feuille_login_essai>();
     options.refuseQuery = 1;
@@ -247,22 +245,11 @@ TEST_F(Registry, UnloadingEverythingAsksEveryScreenFirstThenUnloadsTheLastLoaded
     EXPECT_TRUE(feuilles().toutDécharger());
     EXPECT_EQ(journal, (QStringList{"Form_QueryUnload", "écriture", "Form_Unload"}));
     EXPECT_TRUE(feuilles().chargées().empty());
-}
 
-TEST_F(Registry, UnloadingEverythingStopsAtAFormUnloadThatCancels) {
-    auto& options = feuilles().get<feuille_options_essai>();
+    // A Form_Unload that cancels stops it, the screens loaded after it already gone.
+    feuilles().get<feuille_options_essai>().refuseUnload = 1;
     feuilles().get<feuille_login_essai>();
-    options.refuseUnload = 1;
     EXPECT_FALSE(feuilles().toutDécharger());
     EXPECT_FALSE(feuilles().isLoaded<feuille_login_essai>());
     EXPECT_TRUE(feuilles().isLoaded<feuille_options_essai>());
-}
-
-TEST_F(Registry, ATopLevelScreenDeletedBehindTheRegistryIsLoadedAfresh) {
-    auto& f = feuilles().get<feuille_options_essai>();
-    f.Check3->setChecked(true);
-    f.deleteLater();
-    processDeletions();
-    EXPECT_FALSE(feuilles().isLoaded<feuille_options_essai>());
-    EXPECT_FALSE(feuilles().get<feuille_options_essai>().Check3->isChecked());
 }

@@ -52,25 +52,17 @@ TEST(QtInteraction, YesNoBoxHasFrenchButtonsAndReturnsTheVbCode) {
     EXPECT_EQ(buttons, (QStringList{QStringLiteral("&Non"), QStringLiteral("&Oui")}));
 }
 
-TEST(QtInteraction, IconFollowsTheCode) {
+TEST(QtInteraction, IconFollowsTheCodeAndTextIsShownAsTypedEvenWithAngleBrackets) {
     QtInteraction ui;
     QMessageBox::Icon icon = QMessageBox::NoIcon;
-    whenDialogUp([&](QWidget& d) {
-        icon = static_cast<QMessageBox&>(d).icon();
-        clickButton(d, QStringLiteral("OK"));
-    });
-    EXPECT_EQ(ui.MsgBox(QStringLiteral("x"), vbExclamation), vbOK);
-    EXPECT_EQ(icon, QMessageBox::Warning);
-}
-
-TEST(QtInteraction, TextIsShownAsTypedEvenWithAngleBrackets) {
-    QtInteraction ui;
     Qt::TextFormat format = Qt::AutoText;
     whenDialogUp([&](QWidget& d) {
+        icon = static_cast<QMessageBox&>(d).icon();
         format = static_cast<QMessageBox&>(d).textFormat();
         clickButton(d, QStringLiteral("OK"));
     });
-    ui.MsgBox(QStringLiteral("<b>/bases/a<b>.mdb</b>"));
+    EXPECT_EQ(ui.MsgBox(QStringLiteral("<b>/bases/a<b>.mdb</b>"), vbExclamation), vbOK);
+    EXPECT_EQ(icon, QMessageBox::Warning);
     EXPECT_EQ(format, Qt::PlainText);
 }
 
@@ -80,7 +72,7 @@ TEST(QtInteraction, CancelOfOkCancelReturnsCancel) {
     EXPECT_EQ(ui.MsgBox(QStringLiteral("x"), vbOKCancel + vbInformation), vbCancel);
 }
 
-TEST(QtInteraction, InputBoxReturnsTheTypedText) {
+TEST(QtInteraction, InputBoxReturnsTheTypedTextOrEmptyOnCancel) {
     QtInteraction ui;
     QString shownDefault;
     whenDialogUp([&](QWidget& d) {
@@ -92,10 +84,7 @@ TEST(QtInteraction, InputBoxReturnsTheTypedText) {
     EXPECT_EQ(ui.InputBox(QStringLiteral("Nom"), QStringLiteral("Norvane v2"), QStringLiteral("base")),
               QString::fromUtf8("école"));
     EXPECT_EQ(shownDefault, QStringLiteral("base"));
-}
 
-TEST(QtInteraction, InputBoxCancelReturnsEmpty) {
-    QtInteraction ui;
     whenDialogUp([](QWidget& d) {
         d.findChild<QLineEdit*>()->setText(QStringLiteral("tapé"));
         clickButton(d, QStringLiteral("Annuler"));
