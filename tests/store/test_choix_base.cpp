@@ -161,6 +161,25 @@ TEST_F(ChoixDeLaBase, UneTablePasseSansLigneNeDemandeRienNonPlus) {
     EXPECT_TRUE(menus_de_données_actifs());
 }
 
+// The code shown is that of the file last read: a file that cannot be read has none, even just after
+// a file that had one.
+TEST_F(ChoixDeLaBase, UnFichierIllisibleAprèsUnFichierÀCodeNeDemandeAucunCode) {
+    créer_base_de_test(folder.file("a.mdb"), QStringLiteral("Secret"));
+    const QString abîmée = folder.write("b.mdb", QByteArray(4096, '\x5A'));
+    feuille_choix_base& écran = démarrer_sur_le_choix();
+    ASSERT_TRUE(écran.File1->cliquer("a.mdb"));
+    ASSERT_EQ(écran.accès_actuel->text(), "Secret");
+    ui().expectMsgBox(vbOK);
+    ASSERT_TRUE(écran.File1->cliquer("b.mdb"));
+    EXPECT_TRUE(une_boîte(ui(), "Le logiciel a rencontré l'erreur : 3343\n\n"));
+    EXPECT_EQ(écran.accès_actuel->text(), "");
+    ui().expectMsgBox(vbOK); // the same failure, met again by the opening's own reading
+    ouvrir(écran);
+    EXPECT_TRUE(ui().modals().empty());
+    EXPECT_TRUE(menus_de_données_actifs());
+    EXPECT_EQ(mdi()->Panel1(), barre_pour(abîmée));
+}
+
 TEST_F(ChoixDeLaBase, LeBonCodeOuvreLaBase) {
     const QString base = créer_base_de_test(folder.file("ecole.mdb"), QStringLiteral("Secret"));
     feuille_choix_base& écran = démarrer_sur_le_choix();

@@ -120,8 +120,15 @@ void DataControl::Refresh() {
     if (recordset_ && !leaveRow(vbDataActionClose))
         return;
     closeDatabase();
-    database_ = Database::open(databaseName_);
-    recordset_ = database_->OpenRecordset(recordSource_);
+    try {
+        database_ = Database::open(databaseName_);
+        recordset_ = database_->OpenRecordset(recordSource_);
+    } catch (...) {
+        // No row set, no row: the bound controls must not go on showing the file read before.
+        closeDatabase();
+        showCurrentRow();
+        throw;
+    }
     showCurrentRow();
     emit reopened();
     firePositionChange();
