@@ -1,5 +1,6 @@
 #include "store/ouverture_base.h"
 
+#include "people/feuille_élève.h"
 #include "platform/errors/ErrorBoxes.h"
 #include "platform/forms/DataControl.h"
 #include "platform/forms/Module1.h"
@@ -26,10 +27,17 @@ struct ÉcranAprèsOuverture {
     std::function<void()> montrer;
 };
 
+// Shows screen F, loading it first if need be, and gives it the focus.
+template <class F> void montrer_avec_le_focus() {
+    F& écran = module1().feuilles().get<F>();
+    écran.Show();
+    écran.setFocus();
+}
+
 const std::vector<ÉcranAprèsOuverture>& écrans_après_ouverture() {
     static const std::vector<ÉcranAprèsOuverture> écrans = {
         {&feuille_options::Check1, {}}, // feuille_famille
-        {&feuille_options::Check2, {}}, // feuille_élève
+        {&feuille_options::Check2, montrer_avec_le_focus<feuille_élève>},
         {&feuille_options::Check4, {}}, // feuille_traitements
     };
     return écrans;

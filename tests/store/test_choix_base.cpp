@@ -1,5 +1,6 @@
 #include "../shell/EtatDemarrage.h"
 
+#include "people/feuille_élève.h"
 #include "platform/forms/DataControl.h"
 #include "platform/forms/ListesFichiers.h"
 #include "shell/feuille_options.h"
@@ -12,6 +13,8 @@
 #include <QCheckBox>
 #include <QDir>
 #include <QLineEdit>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QPushButton>
 #include <QTimer>
 
@@ -264,12 +267,53 @@ TEST_F(ChoixDeLaBase, LaBoîteDuCodeClignoteEtMasqueLaSaisie) {
     EXPECT_EQ(login.Image2->isHidden(), avant);
 }
 
-TEST_F(ChoixDeLaBase, LesÉcransNommésParLesOptionsNeSontPasEncoreLÀEtRienNeSAffiche) {
-    const QString base = créer_base_de_test(folder.file("ecole.mdb"));
+// The pupil screen named by the options is only shown: it points itself at the base as it loads, and
+// its two other data sources stay as the screen stores them.
+TEST_F(ChoixDeLaBase, LOptionDesÉlèvesMontreLÉcranDesÉlèvesSurLaBaseOuverte) {
+    const QString base = folder.file("ecole.mdb");
+    ASSERT_TRUE(QFile::copy(template_path(), base));
     préparer_options("1\r\n1\r\n1\r\n1\r\n" + ligne_de_base(base));
     démarrer_par_clic();
     EXPECT_TRUE(ui().boxes().empty());
     EXPECT_TRUE(menus_de_données_actifs());
+    feuille_élève* élève = feuilles().siChargée<feuille_élève>();
+    ASSERT_NE(élève, nullptr);
+    EXPECT_TRUE(élève->conteneur().isVisible());
+    EXPECT_EQ(mdi()->zone->activeSubWindow(), &élève->conteneur());
+    EXPECT_EQ(élève->datPrimaryRS->DatabaseName(), base);
+    EXPECT_TRUE(élève->datPrimaryRS->isOpen());
+    EXPECT_EQ(élève->Data1->DatabaseName(), "");
+    EXPECT_EQ(élève->Data2->DatabaseName(), "");
+}
+
+TEST_F(ChoixDeLaBase, UnÉcranDesÉlèvesDéjàOuvertResteSurSonFichierÀLOuvertureDUneAutreBase) {
+    const QString première = folder.file("a.mdb");
+    ASSERT_TRUE(QFile::copy(template_path(), première));
+    ASSERT_TRUE(QFile::copy(template_path(), folder.file("b.mdb")));
+    préparer_options("0\r\n1\r\n1\r\n0\r\n" + ligne_de_base(première));
+    démarrer_par_clic();
+    ASSERT_NE(feuilles().siChargée<feuille_élève>(), nullptr);
+    mdi()->cliquer("menufichierindex1");
+    choix()->File1->cliquer("b.mdb");
+    ouvrir(*choix());
+    EXPECT_EQ(mdi()->Panel1(), barre_pour(folder.file("b.mdb")));
+    feuille_élève* élève = feuilles().siChargée<feuille_élève>();
+    ASSERT_NE(élève, nullptr);
+    EXPECT_TRUE(élève->conteneur().isVisible());
+    EXPECT_EQ(élève->datPrimaryRS->DatabaseName(), première);
+    EXPECT_TRUE(ui().boxes().empty());
+}
+
+TEST_F(ChoixDeLaBase, SansOptionCochéeLOuvertureNeMontreAucunÉcran) {
+    const QString base = folder.file("ecole.mdb");
+    ASSERT_TRUE(QFile::copy(template_path(), base));
+    préparer_options("0\r\n0\r\n1\r\n0\r\n" + ligne_de_base(base));
+    démarrer_par_clic();
+    EXPECT_TRUE(menus_de_données_actifs());
+    EXPECT_EQ(feuilles().siChargée<feuille_élève>(), nullptr);
+    EXPECT_TRUE(mdi()->zone->subWindowList().isEmpty() ||
+                std::none_of(mdi()->zone->subWindowList().begin(), mdi()->zone->subWindowList().end(),
+                             [](const QWidget* w) { return w->isVisible(); }));
 }
 
 } // namespace
