@@ -7,10 +7,14 @@
 
 #include <QCheckBox>
 #include <QHBoxLayout>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
+#include <QPixmap>
 #include <QPlainTextEdit>
 #include <QPointer>
+#include <QPolygonF>
 #include <QToolButton>
 
 namespace {
@@ -20,6 +24,33 @@ void show_engine_error(const VbError& error) {
     Interaction& ui = module1().interaction();
     ui.MsgBox(error.description(), vbExclamation + vbOKOnly, QString::fromUtf8(titre_programme));
     ui.setMousePointer(vbDefault);
+}
+
+constexpr int navigation_icon_side = 12;
+
+// A navigator arrow: a triangle pointing the way, and for the two ends a bar against its tip, so that
+// "first" reads |< and "last" >|. Drawn pointing left, then mirrored for the right.
+QIcon navigation_icon(Qt::ArrowType direction, bool toTheEnd, const QColor& ink) {
+    constexpr int scale = 4; // drawn large, so it stays sharp on a dense display
+    const qreal s = navigation_icon_side;
+    QImage image(QSize(navigation_icon_side, navigation_icon_side) * scale,
+                 QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    {
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.scale(scale, scale);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(ink);
+        const qreal tip = toTheEnd ? 4.0 : 3.0;
+        const qreal base = toTheEnd ? 10.0 : 9.0;
+        painter.drawPolygon(QPolygonF{QPointF(tip, s / 2), QPointF(base, 2.0), QPointF(base, s - 2.0)});
+        if (toTheEnd)
+            painter.drawRect(QRectF(2.0, 2.0, 1.5, s - 4.0));
+    }
+    if (direction == Qt::RightArrow)
+        image = image.mirrored(true, false);
+    return QIcon(QPixmap::fromImage(image));
 }
 
 } // namespace
@@ -75,9 +106,9 @@ DataControl::DataControl(QWidget* parent) : QWidget(parent) {
     auto arrow = [this, layout](const char* name, Qt::ArrowType type, bool bar, void (DataControl::*move)()) {
         auto* button = new QToolButton(this);
         button->setObjectName(QString::fromUtf8(name));
-        button->setArrowType(type);
-        button->setText(bar ? QStringLiteral("|") : QString());
-        button->setToolButtonStyle(bar ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
+        button->setIcon(navigation_icon(type, bar, palette().color(QPalette::ButtonText)));
+        button->setIconSize(QSize(navigation_icon_side, navigation_icon_side));
+        button->setToolButtonStyle(Qt::ToolButtonIconOnly);
         // Taking the focus on a click hands a cell being typed in over to its row before the move.
         button->setFocusPolicy(Qt::ClickFocus);
         connect(button, &QToolButton::clicked, this, move);
