@@ -111,6 +111,15 @@ TEST_F(ChoixDeLaBase, OuvrirSansRienSélectionnerOuAprèsUnChangementDeDossierDe
     EXPECT_TRUE(choix_à_l_écran());
 }
 
+TEST_F(ChoixDeLaBase, ReprendreLeMêmeLecteurGardeLeDossierEtLaSélection) {
+    const QString base = créer_base_de_test(folder.file("ecole.mdb"));
+    feuille_choix_base& écran = démarrer_sur_le_choix();
+    ASSERT_TRUE(écran.File1->cliquer("ecole.mdb"));
+    emit écran.Drive1->activated(écran.Drive1->currentIndex());
+    EXPECT_EQ(écran.Label4->text(), QDir::toNativeSeparators(base));
+    EXPECT_EQ(écran.Dir1->Path(), QDir::toNativeSeparators(folder.path()));
+}
+
 TEST_F(ChoixDeLaBase, UnClicSurUnFichierEnFaitDéjàLaBaseEnCours) {
     const QString base = créer_base_de_test(folder.file("ecole.mdb"), QStringLiteral("secret"));
     feuille_choix_base& écran = démarrer_sur_le_choix();

@@ -23,7 +23,14 @@ DriveListBox::DriveListBox(QWidget* parent) : QComboBox(parent) {
     remplir();
     setCurrentIndex(
         std::max(0, findText(QDir::toNativeSeparators(QDir::current().rootPath()), Qt::MatchFixedString)));
-    connect(this, &QComboBox::activated, this, [this] { emit Change(); });
+    lecteur_ = currentIndex();
+    // Picking the drive that is already the current one is no change.
+    connect(this, &QComboBox::activated, this, [this](int index) {
+        if (index == lecteur_)
+            return;
+        lecteur_ = index;
+        emit Change();
+    });
 }
 
 void DriveListBox::remplir() {
@@ -42,9 +49,10 @@ void DriveListBox::setDrive(const QString& lecteur) {
         addItem(icône(QStyle::SP_DriveHDIcon), racine);
         index = count() - 1;
     }
-    if (index == currentIndex())
+    if (index == lecteur_)
         return;
     setCurrentIndex(index);
+    lecteur_ = index;
     emit Change();
 }
 

@@ -8,7 +8,7 @@
 // they begin on the process's current folder, so a screen that never sets Path reads that folder.
 
 // Drive list: the file-system roots. Change fires when the user picks another one, or when code
-// sets Drive to another value.
+// sets Drive to another value; picking the current one again is no change.
 class DriveListBox : public QComboBox {
     Q_OBJECT
 public:
@@ -22,6 +22,8 @@ signals:
 
 private:
     void remplir();
+
+    int lecteur_ = -1; // the index of the drive last taken
 };
 
 // Folder list: the chain of folders from the root down to Path, then the folders inside Path.

@@ -26,6 +26,21 @@ TEST(ListesFichiers, ToutesCommencentSurLeDossierCourant) {
     EXPECT_EQ(lecteurs.Drive(), QDir::toNativeSeparators(QDir(dossier.path()).rootPath()));
 }
 
+TEST(ListesFichiers, ReprendreLeLecteurEnCoursNEstPasUnChangement) {
+    DriveListBox lecteurs;
+    lecteurs.addItem(QStringLiteral("Z:"));
+    QSignalSpy changements(&lecteurs, &DriveListBox::Change);
+    const int en_cours = lecteurs.currentIndex();
+    emit lecteurs.activated(en_cours);
+    EXPECT_EQ(changements.count(), 0);
+    const int autre = en_cours == 0 ? 1 : 0;
+    lecteurs.setCurrentIndex(autre);
+    emit lecteurs.activated(autre);
+    EXPECT_EQ(changements.count(), 1);
+    emit lecteurs.activated(autre);
+    EXPECT_EQ(changements.count(), 1);
+}
+
 TEST(ListesFichiers, LaListeDesFichiersSuitSonMotifSansDistinguerLaCasseNiMontrerLesDossiers) {
     WorkFolder dossier;
     dossier.write("b.MDB", "x");
