@@ -320,9 +320,9 @@ TEST_F(ChoixDeLaBase, SansOptionCochéeLOuvertureNeMontreAucunÉcran) {
     démarrer_par_clic();
     EXPECT_TRUE(menus_de_données_actifs());
     EXPECT_EQ(feuilles().siChargée<feuille_élève>(), nullptr);
-    EXPECT_TRUE(mdi()->zone->subWindowList().isEmpty() ||
-                std::none_of(mdi()->zone->subWindowList().begin(), mdi()->zone->subWindowList().end(),
-                             [](const QWidget* w) { return w->isVisible(); }));
+    const QList<QMdiSubWindow*> fenêtres = mdi()->zone->subWindowList();
+    EXPECT_TRUE(
+        std::none_of(fenêtres.begin(), fenêtres.end(), [](const QWidget* w) { return w->isVisible(); }));
 }
 
 } // namespace
