@@ -12,8 +12,8 @@ feuille_sexe::feuille_sexe()
     resize(en_pixels(4500), en_pixels(4200));
 }
 
-// The accept of a pick, by origine_appel. No caller screen of this program hands a value to this one
-// yet, so every value is an unknown one: nothing is copied, the screen stays open, the button hides.
+// The accept of a pick, by origine_appel. Its list of callers is empty: for every value nothing is
+// copied, the screen stays open, and the button hides, as for a value a lookup does not know.
 void feuille_sexe::bouton_accepter_Click() {
     avec_piège(ErrorBoxKind::standard, [this] { bouton_accepter->setVisible(false); });
 }

@@ -15,7 +15,6 @@ class QCheckBox;
 class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
-class QToolButton;
 class DataControl;
 
 // The action codes that Validate receives, as the data control numbers them.
@@ -111,8 +110,11 @@ public:
     bool DataChanged() const;
 
     // The screen is going away: the final Validate (vbDataActionUnload), the edited row written,
-    // the file released. A failed write goes to the Error event.
-    void unload();
+    // the file released. A failed write goes to the Error event and keeps everything as it was:
+    // false then, so the screen can stay with its edit rather than lose it.
+    bool unload();
+    // The number of the last failure met by the control itself (navigator, grid, unload); 0 if none.
+    int lastError() const { return lastError_; }
 
     // Events, as the screen's handlers: Validate(Action, Save) before each data action, Reposition
     // after the current row changed, Error(DataErr, Response) for a failure met by the control itself.
@@ -156,7 +158,6 @@ private:
     void markChanged();
     void addBinding(QWidget* control, const QString& column);
     void closeRecordset();
-    QWidget* buildNavigator();
 
     QString databaseName_;
     QString recordSource_;
@@ -167,6 +168,7 @@ private:
     QHash<QString, QVariant> pending_;
     QByteArray lastWritten_;
     bool changed_ = false;
+    int lastError_ = 0;
     bool filling_ = false;
     QLabel* caption_ = nullptr;
 };

@@ -8,6 +8,7 @@
 class DataControl;
 class DBGrid;
 class QPushButton;
+class QShortcut;
 class QVBoxLayout;
 
 // What a record screen shows between the navigator's arrows after each move.
@@ -71,8 +72,17 @@ ConfigurationFiche table_de_consultation(QString nom, QString titre, QString tab
 // The frame that twenty-two record screens share: the data source `datPrimaryRS` with its navigator,
 // the buttons to add, delete, refresh, save and close, the grid of the lookup screens, and the small
 // handlers of each, configured once per screen. A screen derives from it, puts its own controls in
-// corps() (a grid screen has nothing more to add) and overrides a handler only where its own Part
-// has its own version.
+// corps() (a grid screen has nothing more to add) and overrides a handler only where it has a
+// version of its own. A whole lookup screen:
+//
+//     class feuille_villes : public FeuilleFiche {
+//     public:
+//         feuille_villes()
+//             : FeuilleFiche(table_de_consultation("feuille_villes", "Table des villes", "villes",
+//                                                  {{"code_postal", "codes postaux"}, {"détails",
+//                                                  "détails"}})) {}
+//         void bouton_accepter_Click() override; // its list of callers
+//     };
 class FeuilleFiche : public Feuille {
     Q_OBJECT
 public:
@@ -80,6 +90,10 @@ public:
     ~FeuilleFiche() override;
 
     const ConfigurationFiche& configuration() const { return configuration_; }
+
+    // Points the data source at a file and a query, in the order DatabaseName, RecordSource,
+    // Refresh: the first record shows, or nothing on an empty table. Raises the engine's error.
+    void pointer_sur(const QString& base, const QString& source);
 
     // Controls of the frame; the absent ones are null.
     DataControl* datPrimaryRS = nullptr;
@@ -108,15 +122,20 @@ public:
     virtual void grdDataGrid_DblClick();
 
 protected:
+    bool eventFilter(QObject* surveillé, QEvent* événement) override;
+
     // Where a screen of bound boxes lays out its own controls, above the navigator.
     QWidget* corps() const { return corps_; }
 
 private:
     void construireBoutons(QVBoxLayout* disposition);
+    void construireToucheParDéfaut();
     QPushButton* bouton(const char* nom, const QString& légende, const QString& infobulle);
 
     ConfigurationFiche configuration_;
     QWidget* corps_ = nullptr;
+    bool écriture_finale_refusée_ = false;
+    std::vector<QShortcut*> touches_accepter_; // children of the screen
 };
 
 // The tooltip of "&Rafraîchir" in the spelling the screen uses.
