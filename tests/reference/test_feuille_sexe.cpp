@@ -54,7 +54,8 @@ TEST_F(FeuilleSexeTest, declares_its_caption_grid_buttons_and_tooltips) {
     ASSERT_NE(f.bouton_accepter, nullptr);
     EXPECT_FALSE(f.bouton_accepter->isVisibleTo(&f));
     EXPECT_EQ(f.bouton_accepter->text(), "Accepter");
-    EXPECT_EQ(f.bouton_accepter->toolTip(), "Cliquez pour accepter ces données et les insérer dans la fiche d'origine");
+    EXPECT_EQ(f.bouton_accepter->toolTip(),
+              "Cliquez pour accepter ces données et les insérer dans la fiche d'origine");
     EXPECT_EQ(f.cmdAjouter->text(), "&Ajouter");
     EXPECT_EQ(f.cmdAjouter->toolTip(), "Cliquez pour créer une nouvelle fiche de saisie");
     EXPECT_EQ(f.cmdSupprimer->text(), "&Supprimer");

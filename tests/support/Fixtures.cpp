@@ -1,6 +1,7 @@
 #include "support/Fixtures.h"
 
 #include "platform/forms/Module1.h"
+#include "shell/ecrans_connus.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -11,6 +12,7 @@ ScriptedSession::ScriptedSession() : ui_(std::make_shared<ScriptedInteraction>()
     module1().réinitialiser();
     processDeletions();
     module1().setInteraction(ui_);
+    faire_connaître_les_écrans();
 }
 
 ScriptedSession::~ScriptedSession() {

@@ -97,6 +97,7 @@ void FeuilleFiche::construireBoutons(QVBoxLayout* disposition) {
                    QStringLiteral("Cliquez pour accepter ces données et les insérer dans la fiche "
                                   "d'origine"));
         bouton_accepter->setVisible(configuration_.bouton_accepter != BoutonAccepter::caché);
+        bouton_accepter->setEnabled(configuration_.bouton_accepter != BoutonAccepter::désactivé);
         connect(bouton_accepter, &QPushButton::clicked, this, [this] { bouton_accepter_Click(); });
         rangée->addWidget(bouton_accepter);
     }

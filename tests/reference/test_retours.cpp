@@ -1,0 +1,197 @@
+// The return of a pick, driven by the return table itself: for every pair of lookup and origine_appel
+// whose calling screen is part of the program, the caller's button opens the lookup, a pick lands in
+// the caller's fields in the table's order, the lookup closes, the focus and the tab follow, and the
+// caller's row carries the values into the file.
+#include "Consultations.h"
+
+#include "people/feuille_élève.h"
+#include "platform/forms/DBGrid.h"
+#include "platform/forms/DataControl.h"
+#include "platform/forms/Module1.h"
+#include "reference/feuille_équipe.h"
+#include "reference/retours.h"
+#include "support/PiloteEcran.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTest>
+#include <set>
+
+namespace {
+
+// The grid pickers; the team and the family picker take part in the protocol with their own screens.
+const std::set<QString> pickers_à_grille = {
+    u("feuille_adresses"),
+    u("feuille_assertions"),
+    u("feuille_assurances"),
+    u("feuille_csp"),
+    u("feuille_genres"),
+    u("feuille_hôpitaux"),
+    u("feuille_langues_vivantes"),
+    u("feuille_médecins"),
+    u("feuille_nationalités"),
+    u("feuille_niveaux"),
+    u("feuille_sexe"),
+    u("feuille_situations_familiales"),
+    u("feuille_villes"),
+};
+
+struct Cas {
+    const Retour* retour;
+    const char* bouton;
+};
+
+std::vector<Cas> tous_les_cas() {
+    std::vector<Cas> cas;
+    for (const Retour& r : table_des_retours())
+        for (const char* bouton : r.boutons)
+            cas.push_back({&r, bouton});
+    return cas;
+}
+
+std::string nom_du_cas(const ::testing::TestParamInfo<Cas>& info) {
+    std::string nom = std::string(info.param.retour->consultation) + "_" +
+                      std::to_string(info.param.retour->origine_appel) + "_" + info.param.bouton;
+    std::string propre;
+    for (const char c : nom)
+        if ((c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_')
+            propre += c;
+    return propre;
+}
+
+// The column of the file behind a field of a calling screen.
+QString colonne_liée(const QString& appelant, const QString& champ) {
+    if (appelant == u("feuille_élève")) {
+        for (const auto& c : feuille_élève::champs())
+            if (champ == u(c.nom))
+                return u(c.colonne);
+    } else {
+        for (const auto& c : feuille_équipe::champs())
+            if (champ == u(c.nom))
+                return u(c.colonne);
+    }
+    return champ;
+}
+
+QTabWidget* onglets_de(Feuille& f) {
+    return f.findChild<QTabWidget*>(u("SSTab1"));
+}
+
+int page_de(QTabWidget& onglets, QWidget& w) {
+    for (int page = 0; page < onglets.count(); ++page)
+        if (onglets.widget(page)->isAncestorOf(&w))
+            return page;
+    return -1;
+}
+
+class RetourDUnChoix : public ConsultationsTest, public ::testing::WithParamInterface<Cas> {
+protected:
+    // The calling screen opened by its own menu command, on its first row.
+    Feuille& ouvrir_appelant(const QString& nom, QString& table) {
+        if (nom == u("feuille_élève")) {
+            table = u("élèves");
+            return ouvrir_élève();
+        }
+        table = u("équipe");
+        return ouvrir_équipe();
+    }
+};
+
+TEST_P(RetourDUnChoix, LandsInTheCallersFieldsInOrderClosesTheLookupAndSetsFocusAndTab) {
+    const Retour& r = *GetParam().retour;
+    const QString appelant_nom = u(r.appelant);
+    if (!pickers_à_grille.contains(u(r.consultation)))
+        GTEST_SKIP() << r.consultation << " a son propre écran et ses propres tests";
+    if (!module1().feuilles().connaît(appelant_nom))
+        GTEST_SKIP() << r.appelant << " n'existe pas encore";
+
+    QString table_appelant;
+    Feuille& appelant = ouvrir_appelant(appelant_nom, table_appelant);
+    auto* bouton = appelant.findChild<QPushButton*>(u(GetParam().bouton));
+    ASSERT_NE(bouton, nullptr);
+    QTabWidget* onglets = onglets_de(appelant);
+    if (onglets)
+        onglets->setCurrentIndex(page_de(*onglets, *bouton));
+    module1().origine_appel = 0;
+    QTest::mouseClick(bouton, Qt::LeftButton);
+
+    FeuilleFiche* lookup = chargée(u(r.consultation));
+    ASSERT_NE(lookup, nullptr) << "le bouton n'a pas ouvert " << r.consultation;
+    EXPECT_TRUE(lookup->isVisible());
+    EXPECT_TRUE(lookup->bouton_accepter->isVisible());
+    EXPECT_EQ(module1().origine_appel, r.origine_appel);
+    EXPECT_EQ(mdi->zone->activeSubWindow(), &lookup->conteneur());
+
+    // While the lookup is open the user may have turned the caller's page: the focus brings it back.
+    const int page_avant = onglets ? onglets->count() - 1 : -1;
+    if (onglets)
+        onglets->setCurrentIndex(page_avant);
+    QWidget* focus_avant = appelant.focusWidget();
+
+    const QString table = lookup->configuration().source_de_conception;
+    QStringList attendues, ordre;
+    for (const Copie& copie : r.copies) {
+        const QString colonne = lookup->configuration().grille.at(copie.colonne).colonne;
+        attendues << colonne_du_fichier(base, table, colonne).at(1);
+        auto* cible = appelant.findChild<QLineEdit*>(u(copie.vers));
+        ASSERT_NE(cible, nullptr) << copie.vers;
+        QObject::connect(cible, &QLineEdit::textChanged, cible,
+                         [&ordre, cible] { ordre << cible->objectName(); });
+    }
+
+    cliquer_cellule(*lookup->grdDataGrid, 1);
+    cliquer(*lookup, u("bouton_accepter"));
+
+    QStringList cibles, reçues;
+    for (const Copie& copie : r.copies) {
+        cibles << u(copie.vers);
+        reçues << appelant.findChild<QLineEdit*>(u(copie.vers))->text();
+    }
+    EXPECT_EQ(reçues, attendues);
+    EXPECT_EQ(ordre, cibles);
+    EXPECT_FALSE(module1().feuilles().contient(lookup));
+    processDeletions();
+    EXPECT_EQ(chargée(u(r.consultation)), nullptr);
+    if (r.focus) {
+        auto* champ_focus = appelant.findChild<QLineEdit*>(u(r.focus));
+        ASSERT_NE(champ_focus, nullptr);
+        EXPECT_EQ(QApplication::focusWidget(), champ_focus)
+            << (QApplication::focusWidget() ? QApplication::focusWidget()->objectName().toStdString() : "");
+        if (onglets)
+            EXPECT_EQ(onglets->currentIndex(), page_de(*onglets, *champ_focus));
+    } else {
+        EXPECT_EQ(appelant.focusWidget(), focus_avant);
+        if (onglets)
+            EXPECT_EQ(onglets->currentIndex(), page_avant);
+    }
+    EXPECT_TRUE(ui().boxes().empty());
+
+    cliquer(appelant, u("cmdMettreàjour"));
+    for (int i = 0; i < r.copies.size(); ++i) {
+        const QString colonne = colonne_liée(appelant_nom, u(r.copies[i].vers));
+        EXPECT_EQ(colonne_du_fichier(base, table_appelant, colonne).value(0), attendues[i])
+            << colonne.toStdString();
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(TableDesRetours, RetourDUnChoix, ::testing::ValuesIn(tous_les_cas()), nom_du_cas);
+
+// Every row of the table names a lookup that knows how to read its columns, and no pair comes twice.
+TEST(TableDesRetours, EachPairOfLookupAndValueIsOneRowWithItsColumnsInTheLookupsGrid) {
+    std::set<std::pair<QString, int>> paires;
+    for (const Retour& r : table_des_retours()) {
+        EXPECT_TRUE(paires.insert({u(r.consultation), r.origine_appel}).second) << r.consultation;
+        EXPECT_GE(r.origine_appel, 1);
+        EXPECT_LE(r.origine_appel, 8);
+        EXPECT_FALSE(r.copies.empty());
+        EXPECT_FALSE(r.boutons.empty());
+        EXPECT_EQ(retour(u(r.consultation), r.origine_appel), &r);
+    }
+    EXPECT_EQ(retour(u("feuille_sexe"), 7), nullptr);
+    EXPECT_EQ(retour(u("feuille_genres"), 1), nullptr);
+    EXPECT_EQ(retour(u("feuille_villes"), 0), nullptr);
+}
+
+} // namespace
