@@ -2,6 +2,7 @@
 
 #include "people/feuille_élève.h"
 #include "platform/forms/DBGrid.h"
+#include "platform/forms/DataControl.h"
 #include "platform/forms/Module1.h"
 #include "reference/feuille_équipe.h"
 #include "shell/commandes.h"

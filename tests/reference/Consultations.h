@@ -2,6 +2,7 @@
 
 #include "platform/forms/FeuilleFiche.h"
 #include "shell/MDIForm1.h"
+#include "support/BaseDirecte.h"
 #include "support/Fixtures.h"
 
 #include <QString>

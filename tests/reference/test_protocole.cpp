@@ -11,8 +11,10 @@
 #include "support/BaseDirecte.h"
 #include "support/PiloteEcran.h"
 
+#include <QApplication>
 #include <QLineEdit>
 #include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
@@ -156,7 +158,7 @@ TEST_F(Consultations, EachMenuCommandShowsItsLookupInFrontWithItsDeclarationAndT
         SCOPED_TRACE(d.écran);
         FeuilleFiche& f = ouvrir_par_le_menu(d.menu, d.écran);
         EXPECT_TRUE(f.isVisible());
-        EXPECT_EQ(mdi->zone->activeSubWindow(), &f.conteneur());
+        EXPECT_EQ(static_cast<QWidget*>(mdi->zone->activeSubWindow()), &f.conteneur());
         EXPECT_EQ(f.windowTitle(), u(d.titre));
         EXPECT_EQ(f.datPrimaryRS->RecordSource(), u("SELECT * FROM ") + u(d.table));
         EXPECT_EQ(f.datPrimaryRS->DatabaseName(), base);
@@ -324,6 +326,18 @@ TEST_F(Consultations, GenresHasNoDoubleClickAndFromTheMenuNoWayToAccept) {
     EXPECT_EQ(chargée(u("feuille_genres")), &depuis_le_menu);
     EXPECT_EQ(équipe.genre_enseignant->text(), u(""));
     EXPECT_TRUE(ui().boxes().empty());
+}
+
+TEST_F(Consultations, AfterTheSexTheBirthDateTakesTheFocusAndTheIdentityTabComesForward) {
+    feuille_élève& élève = ouvrir_élève();
+    presser(élève, "Command7");
+    FeuilleFiche* sexe = chargée(u("feuille_sexe"));
+    élève.SSTab1->setCurrentIndex(5);
+    cliquer_cellule(*sexe->grdDataGrid, 1);
+    cliquer(*sexe, u("bouton_accepter"));
+    EXPECT_EQ(élève.sexe->text(), u("Féminin"));
+    EXPECT_EQ(QApplication::focusWidget(), élève.date_naissance);
+    EXPECT_EQ(élève.SSTab1->currentIndex(), 0);
 }
 
 TEST_F(Consultations, EnterPressesTheShownAcceptAndEscapeCloses) {
