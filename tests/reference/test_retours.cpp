@@ -57,12 +57,13 @@ void PrintTo(const Cas& cas, std::ostream* os) {
 }
 
 std::string nom_du_cas(const ::testing::TestParamInfo<Cas>& info) {
-    std::string nom = std::string(info.param.retour->consultation) + "_" +
-                      std::to_string(info.param.retour->origine_appel) + "_" + info.param.bouton;
+    // Test names take ASCII letters only: the accents are dropped from their letters.
+    const QString nom = u(info.param.retour->consultation) + '_' +
+                        QString::number(info.param.retour->origine_appel) + '_' + u(info.param.bouton);
     std::string propre;
-    for (const char c : nom)
-        if ((c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_')
-            propre += c;
+    for (const QChar c : nom.normalized(QString::NormalizationForm_D))
+        if (c.isLetterOrNumber() && c.unicode() < 128 || c == u'_')
+            propre += static_cast<char>(c.unicode());
     return propre;
 }
 
