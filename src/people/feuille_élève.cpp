@@ -130,7 +130,20 @@ QWidget* feuille_élève::champ(const QString& nom) const {
     return findChild<QWidget*>(nom);
 }
 
+// The two sources besides datPrimaryRS work out of sight: the user never moves them.
+void feuille_élève::construire_sources() {
+    Data1 = new DataControl(this);
+    Data1->setObjectName(QStringLiteral("Data1"));
+    Data1->setRecordSource(QStringLiteral("paramètres"));
+    Data1->hide();
+    Data2 = new DataControl(this);
+    Data2->setObjectName(QStringLiteral("Data2"));
+    Data2->setRecordSource(QStringLiteral("documents"));
+    Data2->hide();
+}
+
 void feuille_élève::construire() {
+    construire_sources();
     auto* colonne = new QVBoxLayout(corps());
     colonne->setContentsMargins(0, 0, 0, 0);
     colonne->addWidget(construire_bandeau());
@@ -319,8 +332,7 @@ void feuille_élève::construire_onglets() {
                               "&Santé / Divers", "Autres (&1)", "Autres (&2)",           "&Documents"};
     for (const char* légende : légendes) {
         auto* page = new QWidget(SSTab1);
-        auto* pile = new QVBoxLayout(page);
-        (void)pile;
+        new QVBoxLayout(page);
         SSTab1->addTab(page, texte(légende));
     }
     construire_identité(SSTab1->widget(0));
@@ -450,15 +462,6 @@ void feuille_élève::construire_documents(QWidget* page) {
     page->layout()->addWidget(Frame1);
     auto* pile = new QVBoxLayout(Frame1);
 
-    Data1 = new DataControl(this);
-    Data1->setObjectName(QStringLiteral("Data1"));
-    Data1->setRecordSource(QStringLiteral("paramètres"));
-    Data1->hide();
-    Data2 = new DataControl(this);
-    Data2->setObjectName(QStringLiteral("Data2"));
-    Data2->setRecordSource(QStringLiteral("documents"));
-    Data2->hide();
-
     // A list to pick from: the templates are written on their own screen, never here.
     grdDataGrid = new DBGrid(Frame1);
     grdDataGrid->setObjectName(QStringLiteral("grdDataGrid"));
@@ -528,10 +531,7 @@ void feuille_élève::construire_champs() {
         int paires_de_la_ligne = 1;
         for (std::size_t j = i + 1; j < table.size() && table[j].même_ligne; ++j)
             ++paires_de_la_ligne;
-        if (!c.même_ligne)
-            poser_champ(*g, c, w, légende, paires_de_la_ligne);
-        else
-            poser_champ(*g, c, w, légende, 0);
+        poser_champ(*g, c, w, légende, paires_de_la_ligne);
     }
 }
 
@@ -568,8 +568,8 @@ QWidget* feuille_élève::créer(const Champ& c, QWidget* parent) {
     return w;
 }
 
-// A field goes right of the previous one on its row, or starts a new row; the last field of a row
-// stretches over the columns that the row leaves free.
+// A field goes right of the previous one on its row, or starts a new row of `paires_de_la_ligne`
+// pairs; the last field of a row stretches over the columns that the row leaves free.
 void feuille_élève::poser_champ(Grille& g, const Champ& c, QWidget* w, QPushButton* légende,
                                 int paires_de_la_ligne) {
     if (!c.même_ligne) {

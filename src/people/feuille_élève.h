@@ -172,6 +172,7 @@ private:
     struct Grille;
 
     void construire();
+    void construire_sources();
     QWidget* construire_bandeau();
     QWidget* construire_boutons();
     void construire_onglets();

@@ -92,7 +92,7 @@ TEST_F(FicheEleveSurBase, TheMenuCommandOpensTheScreenInFrontOnItsFirstTabInMatr
 TEST_F(FicheEleveSurBase, AnEmptyTableOpensOnANewPupil000001WrittenOnlyBySaveOrMove) {
     for (const char* comment : {"cmdMettreàjour", "suivant"}) {
         SCOPED_TRACE(comment);
-        sql_direct(base, u("DELETE FROM élèves"));
+        exécuter_par_le_moteur(base, u("DELETE FROM élèves"));
         feuille_élève& f = ouvrir();
         EXPECT_EQ(f.matricule->text(), u("000001"));
         EXPECT_EQ(f.référence_famille->text(), QString());
@@ -121,7 +121,7 @@ TEST_F(FicheEleveSurBase, AddNumbersOneAboveTheHighestMatriculeWithLeadingZeros)
     };
     for (const auto& c : cas) {
         SCOPED_TRACE(c.existants);
-        sql_direct(base, u("DELETE FROM élèves"));
+        exécuter_par_le_moteur(base, u("DELETE FROM élèves"));
         for (const QString& m : u(c.existants).split(u' '))
             ajouter_élève(base, m, u("NOM") + m);
         feuille_élève& f = ouvrir();
@@ -161,7 +161,7 @@ TEST_F(FicheEleveSurBase, AfterASevenDigitMatriculeTheTextOrderKeepsGivingTheSam
 
 TEST_F(FicheEleveSurBase, YesGivesTheNewPupilTheSiblingsReferenceAndNothingElse) {
     ajouter_élève(base, u("000001"), u("DURAND"), u("Paul"), u("000007"));
-    sql_direct(base, u("UPDATE élèves SET ville_résidence = 'Lyon', nom_contact1 = 'Mamie'"));
+    exécuter_par_le_moteur(base, u("UPDATE élèves SET ville_résidence = 'Lyon', nom_contact1 = 'Mamie'"));
     feuille_élève& f = ouvrir();
     ui().expectMsgBox(vbYes);
     cliquer_ajouter(f);
@@ -213,7 +213,7 @@ TEST_F(FicheEleveSurBase, CancelChangesNothing) {
     EXPECT_TRUE(matricules().isEmpty());
     f.Unload();
     ScriptedTest::processDeletions();
-    sql_direct(base, u("DELETE FROM élèves"));
+    exécuter_par_le_moteur(base, u("DELETE FROM élèves"));
 
     // ... and on a pupil in the middle of the list, with the order the user had.
     for (const char* m : {"000001", "000002", "000003"})
@@ -295,7 +295,6 @@ TEST_F(FicheEleveSurBase, DeletingTheOnlyPupilShowsTheNoCurrentRecordBoxAndKeeps
 }
 
 TEST_F(FicheEleveSurBase, ADuplicateMatriculeRefusedByTheFileIsSilentOnAMoveAndReportedOnSave) {
-    sql_direct(base, u("CREATE UNIQUE INDEX matricule_unique ON élèves (matricule)"));
     ajouter_élève(base, u("000001"), u("UN"));
     ajouter_élève(base, u("000002"), u("DEUX"));
     feuille_élève& f = ouvrir();
@@ -338,9 +337,10 @@ TEST_F(FicheEleveSurBase, SaveKeepsTheSavedPupilCurrentWhereverTheOrderPutsIt) {
 }
 
 TEST_F(FicheEleveSurBase, TheConfigurableFieldsTakeTheirCaptionsAndBalloonsFromTheParameters) {
-    sql_direct(base, u("INSERT INTO paramètres (intitulé_champ_paramétrable1, infobulle_champ_paramétrable1, "
-                       "intitulé_champ_paramétrable10, infobulle_champ_paramétrable10) "
-                       "VALUES ('Transport', 'Car du matin', 'Garderie', 'Soir')"));
+    exécuter_par_le_moteur(
+        base, u("INSERT INTO paramètres (intitulé_champ_paramétrable1, infobulle_champ_paramétrable1, "
+                "intitulé_champ_paramétrable10, infobulle_champ_paramétrable10) "
+                "VALUES ('Transport', 'Car du matin', 'Garderie', 'Soir')"));
     ajouter_élève(base, u("000001"), u("UN"));
     feuille_élève& f = ouvrir();
     EXPECT_EQ(f.lblLabels[0]->text(), u("Transport"));
@@ -368,8 +368,9 @@ TEST_F(FicheEleveSurBase, WithoutParametersTheStoredCaptionsStayAndNoFieldHasABa
 }
 
 TEST_F(FicheEleveSurBase, TheLastTabListsTheTemplatesAndOpensThePickedOneForEditing) {
-    sql_direct(base, u("INSERT INTO documents (intitulé_bouton, titre_document) VALUES "
-                       "('Certificat de scolarité', 'Certificat'), ('Réunion', 'Invitation')"));
+    exécuter_par_le_moteur(base, u("DELETE * FROM documents"));
+    exécuter_par_le_moteur(base, u("INSERT INTO documents (intitulé_bouton, titre_document) VALUES "
+                                   "('Certificat de scolarité', 'Certificat'), ('Réunion', 'Invitation')"));
     ajouter_élève(base, u("000001"), u("UN"));
     feuille_élève& f = ouvrir();
     ASSERT_NE(f.grdDataGrid, nullptr);
@@ -390,11 +391,12 @@ TEST_F(FicheEleveSurBase, TheLastTabListsTheTemplatesAndOpensThePickedOneForEdit
 }
 
 TEST_F(FicheEleveSurBase, ATemplateNameNoLongerInTheFileOpensANewTemplate) {
-    sql_direct(base, u("INSERT INTO documents (intitulé_bouton) VALUES ('Ancien'), ('Autre')"));
+    exécuter_par_le_moteur(base, u("DELETE * FROM documents"));
+    exécuter_par_le_moteur(base, u("INSERT INTO documents (intitulé_bouton) VALUES ('Ancien'), ('Autre')"));
     ajouter_élève(base, u("000001"), u("UN"));
     feuille_élève& f = ouvrir();
     f.grdDataGrid->setCurrentIndex(f.grdDataGrid->model()->index(0, 0));
-    sql_direct(base, u("DELETE FROM documents WHERE intitulé_bouton = 'Ancien'"));
+    exécuter_par_le_moteur(base, u("DELETE FROM documents WHERE intitulé_bouton = 'Ancien'"));
     cliquer(f, u("Command6"));
     auto& documents = module1().feuilles().get<feuille_documents>();
     EXPECT_TRUE(documents.isVisible());
@@ -404,15 +406,48 @@ TEST_F(FicheEleveSurBase, ATemplateNameNoLongerInTheFileOpensANewTemplate) {
 }
 
 TEST_F(FicheEleveSurBase, EditingATemplateWhenNoneIsLeftReportsTheMissingRecord) {
-    sql_direct(base, u("INSERT INTO documents (intitulé_bouton) VALUES ('Seul')"));
+    exécuter_par_le_moteur(base, u("DELETE * FROM documents"));
+    exécuter_par_le_moteur(base, u("INSERT INTO documents (intitulé_bouton) VALUES ('Seul')"));
     ajouter_élève(base, u("000001"), u("UN"));
     feuille_élève& f = ouvrir();
     f.grdDataGrid->setCurrentIndex(f.grdDataGrid->model()->index(0, 0));
-    sql_direct(base, u("DELETE FROM documents"));
+    exécuter_par_le_moteur(base, u("DELETE FROM documents"));
     ui().expectMsgBox(vbOK);
     cliquer(f, u("Command6"));
     EXPECT_TRUE(ui().lastBox().text.startsWith(u("Le logiciel a rencontré l'erreur : 3021\n\n")));
     EXPECT_FALSE(module1().feuilles().get<feuille_documents>().isVisible());
+}
+
+TEST_F(FicheEleveSurBase, TheTemplateListIsOnlyReadFromThePupilScreen) {
+    ajouter_élève(base, u("000001"), u("UN"));
+    feuille_élève& f = ouvrir();
+    const QStringList avant = colonne_du_fichier(base, u("documents"), u("intitulé_bouton"));
+    ASSERT_FALSE(avant.isEmpty());
+    montrer_active(f);
+    f.SSTab1->setCurrentIndex(7);
+    f.grdDataGrid->setFocus();
+    f.grdDataGrid->setCurrentIndex(f.grdDataGrid->model()->index(0, 0));
+    touche_au_focus(Qt::Key_Delete);
+    taper_au_focus(u("x"));
+    touche_au_focus(Qt::Key_Return);
+    cliquer(*f.datPrimaryRS, u("suivant"));
+    EXPECT_EQ(colonne_du_fichier(base, u("documents"), u("intitulé_bouton")), avant);
+}
+
+TEST_F(FicheEleveSurBase, ButtonsWhoseWorkComesLaterDoNothingYet) {
+    ajouter_élève(base, u("000001"), u("UN"), u("Une"), u("000003"));
+    feuille_élève& f = ouvrir();
+    for (const char* nom :
+         {"Command3", "Command4", "Command5", "Command7", "Command8", "Command9", "Command10", "Command11",
+          "Command12", "Command14", "Command16", "documents_suite"}) {
+        SCOPED_TRACE(nom);
+        cliquer(f, u(nom));
+        EXPECT_TRUE(f.isVisible());
+        EXPECT_EQ(f.matricule->text(), u("000001"));
+        EXPECT_EQ(f.adresse_résidence->text(), QString());
+    }
+    EXPECT_TRUE(ui().boxes().empty());
+    EXPECT_EQ(module1().feuilles().chargées().size(), 2u); // the pupils and the hidden letters
 }
 
 TEST_F(FicheEleveSurBase, RefreshGoesBackToTheFirstPupilAndReportsAFailure) {

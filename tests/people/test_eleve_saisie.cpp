@@ -152,3 +152,24 @@ TEST_F(SaisieEleve, TheInscriptionButtonWritesTodayOverWhatStood) {
 }
 
 } // namespace
+
+namespace {
+TEST_F(SaisieEleve, AFocusGivenByCodeToAFieldOfAHiddenPageTurnsToThatPage) {
+    const struct {
+        const char* champ;
+        int onglet;
+    } cas[] = {{"date_naissance", 0},         {"cursus_allongé_élève", 1},
+               {"adresse2_résidence", 3},     {"téléphone1_résidence", 3},
+               {"nom_contact3", 2},           {"champ_paramétable9", 6},
+               {"observations_générales", 4}, {"Check1", 7}};
+    for (const auto& c : cas) {
+        SCOPED_TRACE(c.champ);
+        f->SSTab1->setCurrentIndex(c.onglet == 5 ? 4 : 5);
+        auto* champ = f->findChild<QWidget*>(u(c.champ));
+        champ->setFocus(Qt::OtherFocusReason);
+        QApplication::processEvents();
+        EXPECT_EQ(f->SSTab1->currentIndex(), c.onglet);
+        EXPECT_EQ(QApplication::focusWidget(), champ);
+    }
+}
+} // namespace
