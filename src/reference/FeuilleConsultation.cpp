@@ -3,8 +3,6 @@
 #include "platform/forms/Placement.h"
 #include "reference/retours.h"
 
-#include <QKeyEvent>
-
 ConfigurationFiche consultation(const char* nom, const char* titre, const char* table,
                                 std::vector<ColonneGrille> colonnes, Particularités particularités) {
     ConfigurationFiche c = table_de_consultation(QString::fromUtf8(nom), QString::fromUtf8(titre),
@@ -25,20 +23,4 @@ FeuilleConsultation::FeuilleConsultation(ConfigurationFiche configuration)
 
 void FeuilleConsultation::bouton_accepter_Click() {
     accepter(*this);
-}
-
-// Keys that the grid and the buttons leave unused come here: an Enter outside a cell being typed,
-// an Escape outside a cell being typed.
-void FeuilleConsultation::keyPressEvent(QKeyEvent* event) {
-    const bool entrée = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (entrée && (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier &&
-        bouton_accepter->isVisible()) {
-        bouton_accepter->click();
-        return;
-    }
-    if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier) {
-        cmdFermer->click();
-        return;
-    }
-    FeuilleFiche::keyPressEvent(event);
 }

@@ -6,21 +6,16 @@
 #include <QPushButton>
 #include <cstdint>
 
-class QKeyEvent;
-
 // A lookup screen: one grid over a whole table, kept up to date from the menu, which doubles as the
 // picker of the fields that its table feeds. Its "Accepter", hidden until a record screen's button
-// shows it, copies the current row by the return table (reference/retours.h). Enter presses that
-// button while it is in view; Escape presses "&Fermer".
+// shows it, copies the current row by the return table (reference/retours.h). The frame makes it the
+// default button and "&Fermer" the cancel button.
 class FeuilleConsultation : public FeuilleFiche {
     Q_OBJECT
 public:
     explicit FeuilleConsultation(ConfigurationFiche configuration);
 
     void bouton_accepter_Click() override;
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
 };
 
 // What a lookup differs in besides its table and columns.

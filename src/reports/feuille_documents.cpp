@@ -121,6 +121,5 @@ void feuille_documents::construireCases() {
     disposition->addWidget(Command2, ligne, 1, Qt::AlignRight);
 }
 
-// The preview runs the letter layout through the report job with sample values; the report job is
-// not part of this program yet, so the button does nothing.
+// The preview of the template with sample values through the report job; inert on this screen.
 void feuille_documents::Command2_Click() {}

@@ -287,7 +287,7 @@ void MDIForm1::Form_Unload(int&) {
     // The open screens go with the main window; each data source writes its pending row as it goes.
     Feuilles& feuilles = module1().feuilles();
     for (Feuille* f : feuilles.chargées())
-        if (f != this)
+        if (f != this && feuilles.contient(f))
             en_silence([&] { feuilles.unload(*f); });
     QCoreApplication::exit(0);
 }

@@ -54,6 +54,12 @@ feuille_login::feuille_login() : Feuille(QStringLiteral("feuille_login"), Genre:
     Image2->setObjectName(QStringLiteral("Image2"));
     Image2->setPixmap(dessin_clé(QSize(48, 48)));
     Image2->setFixedSize(48, 48);
+    // The pictures blink without moving the text between them.
+    for (QLabel* image : {Image1, Image2}) {
+        QSizePolicy règle = image->sizePolicy();
+        règle.setRetainSizeWhenHidden(true);
+        image->setSizePolicy(règle);
+    }
     grille->addWidget(Image2, 0, 3, 3, 1, Qt::AlignTop);
 
     const char* lignes[] = {"Saisissez le code d'accès", "à la base de données"};

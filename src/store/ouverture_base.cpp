@@ -72,6 +72,7 @@ void ouvrir_base_choisie() {
         patientez.Show();
         patientez.ZOrder();
         patientez.setFocus();
+        patientez.conteneur().repaint();
         m.interaction().setMousePointer(vbHourglass);
         MDIForm1& mdi = feuilles.get<MDIForm1>();
         mdi.activer_menus();

@@ -7,6 +7,7 @@
 #include "shell/options.h"
 #include "store/feuille_login.h"
 #include "store/ouverture_base.h"
+#include "support/TemplateBase.h"
 
 #include <QCheckBox>
 #include <QDir>
@@ -225,6 +226,18 @@ TEST_F(ChoixDeLaBase, ÀLOuvertureAuDémarrageLeBonCodeNeTrouvePasDÉcranPourLeF
     EXPECT_TRUE(ui().boxes()[0].text.startsWith("Le logiciel a rencontré l'erreur : 5\n\n"));
     EXPECT_TRUE(menus_de_données_actifs());
     EXPECT_EQ(mdi()->Panel1(), "Base de données en cours : " + base);
+}
+
+TEST_F(ChoixDeLaBase, LaBaseDExempleChoisieSOuvreEtLaBarreLeDit) {
+    ASSERT_TRUE(QFile::copy(template_path(), folder.file("exemple.mdb")));
+    feuille_choix_base& écran = démarrer_sur_le_choix();
+    ASSERT_TRUE(écran.File1->cliquer("exemple.mdb"));
+    EXPECT_EQ(écran.accès_actuel->text(), ""); // the template carries no code
+    ouvrir(écran);
+    EXPECT_TRUE(ui().boxes().empty());
+    EXPECT_EQ(mdi()->Panel1(),
+              "Base de données en cours : " + QDir::toNativeSeparators(folder.file("exemple.mdb")));
+    EXPECT_TRUE(menus_de_données_actifs());
 }
 
 TEST_F(ChoixDeLaBase, LaBoîteDuCodeClignoteEtMasqueLaSaisie) {

@@ -3,16 +3,15 @@
 #include "platform/dao/Database.h"
 #include "platform/errors/VbError.h"
 #include "support/Fixtures.h"
+#include "support/TemplateBase.h"
 
-#include <QCoreApplication>
-#include <QDir>
 #include <QFile>
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
 namespace {
 
-// One connection to the file for the span of one helper call.
+// One connection to the file for the span of one call.
 struct Fichier {
     sqlite3* db = nullptr;
     explicit Fichier(const QString& chemin) {
@@ -76,8 +75,7 @@ void exécuter_par_le_moteur(const QString& chemin, const QString& sql) {
 
 QString copie_du_modèle(const WorkFolder& dossier) {
     const QString chemin = dossier.file(QStringLiteral("travail.mdb"));
-    if (!QFile::copy(QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("../basevide.mdz")),
-                     chemin))
+    if (!QFile::copy(template_path(), chemin))
         ADD_FAILURE() << "copie du modèle impossible vers " << chemin.toStdString();
     QFile::setPermissions(chemin, QFile::permissions(chemin) | QFileDevice::WriteOwner);
     return chemin;

@@ -59,6 +59,9 @@ struct DataControl::Binding {
         }
     }
 
+    // A label only shows its column, unless code wrote into it: then it carries the new value.
+    bool writable() const { return control && (!qobject_cast<QLabel*>(control) || labelChanged()); }
+
     bool labelChanged() const {
         auto* label = qobject_cast<QLabel*>(control);
         return label && label->text() != shownLabelText;
@@ -137,11 +140,13 @@ void DataControl::UpdateRecord() {
         lastWritten_ = r.Bookmark();
 }
 
-void DataControl::unload() {
+bool DataControl::unload() {
     if (!recordset_)
-        return;
-    runOutsideCode([this] { leaveRow(vbDataActionUnload); });
+        return true;
+    if (!runOutsideCode([this] { leaveRow(vbDataActionUnload); }))
+        return false; // the row set stays open, the edit on screen
     closeRecordset();
+    return true;
 }
 
 void DataControl::closeRecordset() {
@@ -181,7 +186,7 @@ void DataControl::writeEdits() {
     if (r.editMode() == EditMode::None)
         r.Edit();
     for (const auto& binding : bindings_)
-        if (binding->control && r.fieldIndex(binding->column) >= 0)
+        if (binding->writable() && r.fieldIndex(binding->column) >= 0)
             r.setField(binding->column, binding->value());
     for (auto it = pending_.cbegin(); it != pending_.cend(); ++it)
         r.setField(it.key(), it.value());
@@ -322,6 +327,7 @@ bool DataControl::runOutsideCode(const std::function<void()>& action) {
         return true;
     } catch (const std::exception& failure) {
         const VbError error = vb_error_from(failure);
+        lastError_ = error.number();
         int response = vbDataErrDisplay;
         if (Error)
             Error(error.number(), response);

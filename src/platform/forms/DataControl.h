@@ -111,8 +111,11 @@ public:
     bool DataChanged() const;
 
     // The screen is going away: the final Validate (vbDataActionUnload), the edited row written,
-    // the file released. A failed write goes to the Error event.
-    void unload();
+    // the file released. A failed write goes to the Error event and keeps everything as it was:
+    // false then, so the screen can stay with its edit rather than lose it.
+    bool unload();
+    // The number of the last failure met by the control itself (navigator, grid, unload); 0 if none.
+    int lastError() const { return lastError_; }
 
     // Events, as the screen's handlers: Validate(Action, Save) before each data action, Reposition
     // after the current row changed, Error(DataErr, Response) for a failure met by the control itself.
@@ -167,6 +170,7 @@ private:
     QHash<QString, QVariant> pending_;
     QByteArray lastWritten_;
     bool changed_ = false;
+    int lastError_ = 0;
     bool filling_ = false;
     QLabel* caption_ = nullptr;
 };

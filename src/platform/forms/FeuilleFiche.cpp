@@ -6,8 +6,10 @@
 #include "platform/forms/Module1.h"
 #include "platform/forms/Placement.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 ConfigurationFiche table_de_consultation(QString nom, QString titre, QString table,
@@ -70,12 +72,14 @@ FeuilleFiche::FeuilleFiche(ConfigurationFiche configuration)
     }
 
     construireBoutons(disposition);
+    if (configuration_.bouton_accepter == BoutonAccepter::caché)
+        construireToucheParDéfaut();
 
     // The edited row is written before the screen goes, as the data source's final act.
     avantDéchargement([this] {
         if (grdDataGrid)
             grdDataGrid->commitEditor();
-        datPrimaryRS->unload();
+        écriture_finale_refusée_ = !datPrimaryRS->unload();
     });
 }
 
@@ -130,11 +134,45 @@ void FeuilleFiche::construireBoutons(QVBoxLayout* disposition) {
     disposition->addLayout(rangée);
 }
 
+// On a lookup screen "Accepter" is the default button, pressed by Enter while it is visible, and
+// "&Fermer" the cancel button, pressed by Escape. While "Accepter" is hidden, Enter stays with the
+// control that has the focus (a grid cell being typed in).
+void FeuilleFiche::construireToucheParDéfaut() {
+    for (const int touche : {int(Qt::Key_Return), int(Qt::Key_Enter)}) {
+        auto* entrée = new QShortcut(QKeySequence(touche), this);
+        entrée->setContext(Qt::WidgetWithChildrenShortcut);
+        entrée->setEnabled(false);
+        connect(entrée, &QShortcut::activated, bouton_accepter, &QPushButton::click);
+        touches_accepter_.push_back(entrée);
+    }
+    bouton_accepter->installEventFilter(this);
+    auto* échappement = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    échappement->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(échappement, &QShortcut::activated, cmdFermer, &QPushButton::click);
+}
+
+bool FeuilleFiche::eventFilter(QObject* surveillé, QEvent* événement) {
+    if (surveillé == bouton_accepter &&
+        (événement->type() == QEvent::ShowToParent || événement->type() == QEvent::HideToParent))
+        for (QShortcut* touche : touches_accepter_)
+            touche->setEnabled(événement->type() == QEvent::ShowToParent);
+    return Feuille::eventFilter(surveillé, événement);
+}
+
 void FeuilleFiche::Form_Load() {
     avec_piège(ErrorBoxKind::standard, [this] { centrer_feuille(*this); });
 }
 
-void FeuilleFiche::Form_Unload(int&) {
+// A last row the engine refuses keeps the screen open with its edit, so nothing typed is lost; a
+// screen whose data errors are silent says why with the standard box.
+void FeuilleFiche::Form_Unload(int& cancel) {
+    if (écriture_finale_refusée_) {
+        if (!configuration_.boîte_erreur_données)
+            message_erreur_standard(VbError(datPrimaryRS->lastError()));
+        module1().interaction().setMousePointer(vbDefault);
+        cancel = 1;
+        return;
+    }
     if (bouton_accepter && configuration_.bouton_accepter == BoutonAccepter::caché)
         bouton_accepter->setVisible(false);
     if (bouton_accepter && configuration_.bouton_accepter == BoutonAccepter::désactivé)

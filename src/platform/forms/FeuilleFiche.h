@@ -8,6 +8,7 @@
 class DataControl;
 class DBGrid;
 class QPushButton;
+class QShortcut;
 class QVBoxLayout;
 
 // What a record screen shows between the navigator's arrows after each move.
@@ -108,15 +109,20 @@ public:
     virtual void grdDataGrid_DblClick();
 
 protected:
+    bool eventFilter(QObject* surveillé, QEvent* événement) override;
+
     // Where a screen of bound boxes lays out its own controls, above the navigator.
     QWidget* corps() const { return corps_; }
 
 private:
     void construireBoutons(QVBoxLayout* disposition);
+    void construireToucheParDéfaut();
     QPushButton* bouton(const char* nom, const QString& légende, const QString& infobulle);
 
     ConfigurationFiche configuration_;
     QWidget* corps_ = nullptr;
+    bool écriture_finale_refusée_ = false;
+    std::vector<QShortcut*> touches_accepter_; // children of the screen
 };
 
 // The tooltip of "&Rafraîchir" in the spelling the screen uses.

@@ -6,12 +6,8 @@
 
 Feuilles::~Feuilles() {
     // Widgets cannot outlive the application object; at process end they are left to the system.
-    if (QCoreApplication::instance() == nullptr) {
-        for (Entrée& e : entrées_)
-            (void)e.propre.release();
-        return;
-    }
-    toutDétruire();
+    if (QCoreApplication::instance() != nullptr)
+        toutDétruire();
 }
 
 Feuille* Feuilles::trouver(std::type_index type) const {
@@ -25,17 +21,16 @@ void Feuilles::charger(std::type_index type, std::unique_ptr<Feuille> feuille) {
     std::erase_if(entrées_, [&](const Entrée& e) { return e.type == type; }); // destroyed behind our back
     Feuille& f = *feuille;
     f.hide();
-    Entrée entrée{type, &f, nullptr, nullptr};
+    QWidget* conteneur = &f;
     if (zone_ && !f.estHautNiveau()) {
-        QMdiSubWindow* sous_fenêtre = zone_->addSubWindow(feuille.release());
+        QMdiSubWindow* sous_fenêtre = zone_->addSubWindow(&f);
         sous_fenêtre->hide();
         f.placerDans(sous_fenêtre);
-        entrée.sous_fenêtre = sous_fenêtre;
-    } else {
-        entrée.propre = std::move(feuille);
+        conteneur = sous_fenêtre;
     }
+    (void)feuille.release(); // from here on owned through its entry, or by the area through its sub-window
     // Registered before Form_Load, so a Form_Load that touches its own screen finds it.
-    entrées_.push_back(std::move(entrée));
+    entrées_.push_back({type, &f, conteneur});
     f.Form_Load();
 }
 
@@ -88,10 +83,8 @@ void Feuilles::oublier(Feuille& feuille) {
         return;
     feuille.conteneur().hide();
     // Deferred: the screen may be unloading itself from one of its own handlers.
-    if (it->propre)
-        it->propre.release()->deleteLater();
-    else if (it->sous_fenêtre)
-        it->sous_fenêtre->deleteLater();
+    if (it->conteneur)
+        it->conteneur->deleteLater();
     entrées_.erase(it);
 }
 
@@ -111,8 +104,6 @@ std::vector<Feuille*> Feuilles::chargées() const {
 void Feuilles::toutDétruire() {
     std::vector<Entrée> entrées = std::move(entrées_);
     entrées_.clear();
-    for (Entrée& e : entrées) {
-        e.propre.reset();
-        delete e.sous_fenêtre.data(); // taken back from the area that owns it
-    }
+    for (Entrée& e : entrées)
+        delete e.conteneur.data(); // the registry's own, or taken back from the area; null if already gone
 }

@@ -8,6 +8,7 @@
 #include <map>
 #include <memory>
 #include <typeindex>
+#include <utility>
 #include <vector>
 
 // The screen registry. The first touch of a screen constructs it hidden and runs its Form_Load; an
@@ -74,11 +75,12 @@ private:
     Feuille* trouver(std::type_index type) const;
     void charger(std::type_index type, std::unique_ptr<Feuille> feuille);
 
+    // The registry owns each screen through its outermost window: the sub-window the area made for it,
+    // or the screen itself. A window destroyed behind its back (the area going) leaves a null here.
     struct Entrée {
         std::type_index type;
         QPointer<Feuille> feuille;
-        std::unique_ptr<Feuille> propre; // a screen without a sub-window belongs to the registry
-        QPointer<QWidget> sous_fenêtre;  // otherwise the area owns its sub-window, and that the screen
+        QPointer<QWidget> conteneur;
     };
     void oublier(Feuille& feuille);
     std::vector<Entrée> entrées_;

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QEventLoop>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
@@ -78,6 +79,7 @@ private:
 
 int QtInteraction::MsgBox(const QString& prompt, int buttons, const QString& title) {
     QMessageBox boîte(icône_qt(buttons), title, prompt, QMessageBox::NoButton, QApplication::activeWindow());
+    boîte.setTextFormat(Qt::PlainText); // a path or a name with '<' is shown as typed
     std::vector<std::pair<QPushButton*, int>> réponses;
     for (const Bouton& b : boutons_pour(buttons))
         réponses.emplace_back(boîte.addButton(QString::fromUtf8(b.texte), b.rôle), b.réponse);
@@ -105,6 +107,8 @@ QString QtInteraction::InputBox(const QString& prompt, const QString& title, con
     boîte.setTextValue(defaultValue);
     boîte.setOkButtonText(QStringLiteral("OK"));
     boîte.setCancelButtonText(QStringLiteral("Annuler"));
+    for (auto* libellé : boîte.findChildren<QLabel*>())
+        libellé->setTextFormat(Qt::PlainText);
     if (boîte.exec() != QDialog::Accepted)
         return QString();
     return boîte.textValue();

@@ -1,14 +1,15 @@
 #include "EcransEssai.h"
 
+#include "platform/forms/DBGrid.h"
 #include "platform/forms/DataControl.h"
 
+#include "support/BaseDirecte.h"
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTabWidget>
 #include <QVBoxLayout>
-#include "support/BaseDirecte.h"
 
 QString créer_base_essai(const WorkFolder& dossier) {
     const QString chemin = dossier.file(QStringLiteral("essai.mdb"));
@@ -67,12 +68,16 @@ feuille_essai::feuille_essai(ConfigurationFiche configuration) : FeuilleFiche(st
     libellé->setObjectName(QStringLiteral("libellé"));
     suite->addWidget(notes);
     suite->addWidget(libellé);
+    naissance_affichée = new QLabel(page1);
+    naissance_affichée->setObjectName(QStringLiteral("naissance_affichée"));
+    suite->addWidget(naissance_affichée);
 
     datPrimaryRS->bind(nom, QStringLiteral("nom"));
     datPrimaryRS->bind(naissance, QStringLiteral("naissance"));
     datPrimaryRS->bind(actif, QStringLiteral("actif"));
     datPrimaryRS->bind(notes, QStringLiteral("notes"));
     datPrimaryRS->bind(libellé, QStringLiteral("libellé"));
+    datPrimaryRS->bind(naissance_affichée, QStringLiteral("naissance"));
 }
 
 void feuille_essai::datPrimaryRS_Validate(int& Action, bool& Save) {
@@ -85,3 +90,8 @@ feuille_grille_essai::feuille_grille_essai()
                                          QStringLiteral("Table des valeurs"), QStringLiteral("valeurs"),
                                          {{QStringLiteral("code"), QStringLiteral("code")},
                                           {QStringLiteral("détails"), QStringLiteral("détails")}})) {}
+
+void feuille_grille_essai::bouton_accepter_Click() {
+    grdDataGrid->setCol(1);
+    acceptés << grdDataGrid->Text();
+}

@@ -19,7 +19,6 @@ class QTabWidget;
 // `valeurs` for the grid with three rows, and a log of every UPDATE and INSERT that reaches the file.
 QString créer_base_essai(const WorkFolder& dossier);
 
-
 // A screen of bound boxes over `fiches`, recording the Validate actions it receives.
 class feuille_essai : public FeuilleFiche {
     Q_OBJECT
@@ -34,6 +33,7 @@ public:
     QCheckBox* actif = nullptr;
     QPlainTextEdit* notes = nullptr;
     QLabel* libellé = nullptr;
+    QLabel* naissance_affichée = nullptr; // the same date column, shown again
     QTabWidget* SSTab1 = nullptr;
 
     std::vector<int> actions;
@@ -45,4 +45,8 @@ class feuille_grille_essai : public FeuilleFiche {
     Q_OBJECT
 public:
     feuille_grille_essai();
+
+    // What each accept read from the grid's current cell.
+    QStringList acceptés;
+    void bouton_accepter_Click() override;
 };

@@ -81,6 +81,7 @@ TEST_F(FicheTest, the_current_row_fills_every_kind_of_bound_control) {
     EXPECT_TRUE(f.actif->isChecked());
     EXPECT_EQ(f.notes->toPlainText(), "première");
     EXPECT_EQ(f.libellé->text(), "un");
+    EXPECT_EQ(f.naissance_affichée->text(), "01/02/2015");
     EXPECT_EQ(légende(f), "Fiche: 1");
     EXPECT_EQ(ui().mousePointer(), vbDefault);
     EXPECT_FALSE(f.datPrimaryRS->DataChanged());
@@ -148,6 +149,8 @@ TEST_F(FicheTest, a_check_box_writes_a_boolean_and_a_date_is_typed_as_jj_mm_aaaa
     cliquer(*f.datPrimaryRS, "premier");
     EXPECT_FALSE(f.actif->isChecked());
     EXPECT_EQ(f.naissance->text(), "25/12/2016");
+    EXPECT_EQ(f.naissance_affichée->text(), "25/12/2016")
+        << "a label showing the same column is no edit of its own";
 }
 
 TEST_F(FicheTest, validate_receives_the_action_codes_and_the_pointer_cycles) {
@@ -400,4 +403,33 @@ TEST_F(FicheTest, a_tab_table_naming_a_missing_field_is_refused) {
     } catch (const VbError& e) {
         EXPECT_EQ(e.number(), 424);
     }
+}
+
+TEST_F(FicheTest, a_last_row_the_engine_refuses_keeps_the_screen_open_with_its_edit) {
+    auto& f = ouvrir();
+    f.naissance->setText("pas une date");
+    ui().expectMsgBox();
+    cliquer(f, "cmdFermer");
+    processDeletions();
+    ASSERT_TRUE(module1().feuilles().isLoaded<feuille_essai>());
+    EXPECT_EQ(ui().lastBox().text, texte_erreur(ErrorBoxKind::standard, VbError(3421)));
+    EXPECT_EQ(f.naissance->text(), "pas une date");
+    EXPECT_EQ(ui().mousePointer(), vbDefault);
+
+    f.naissance->setText("02/02/2015");
+    cliquer(f, "cmdFermer");
+    processDeletions();
+    EXPECT_FALSE(module1().feuilles().isLoaded<feuille_essai>());
+    EXPECT_EQ(colonne_du_fichier(base, "fiches", "naissance").first(), "2015-02-02");
+}
+
+TEST_F(FicheTest, a_screen_showing_data_errors_says_it_once_when_the_last_row_is_refused) {
+    auto& f = ouvrir<feuille_essai_bavarde>();
+    f.naissance->setText("pas une date");
+    ui().expectMsgBox();
+    f.Unload();
+    processDeletions();
+    EXPECT_TRUE(module1().feuilles().isLoaded<feuille_essai_bavarde>());
+    ASSERT_EQ(ui().boxes().size(), 1u);
+    EXPECT_EQ(ui().lastBox().text, "Data error event hit err:" + error_text(3421));
 }

@@ -137,8 +137,8 @@ TEST_F(GrilleTest, stepping_onto_the_new_row_and_away_without_typing_adds_nothin
     auto& f = ouvrir();
     DBGrid& g = *f.grdDataGrid;
     cliquer(f, "cmdAjouter");
-    touche_au_focus(Qt::Key_Escape);
-    QTest::keyClick(&g, Qt::Key_Up);
+    QTest::mouseClick(g.viewport(), Qt::LeftButton, {}, g.visualRect(g.model()->index(0, 1)).center());
+    EXPECT_EQ(g.currentIndex().row(), 0);
     EXPECT_EQ(détails().size(), 3);
     EXPECT_EQ(g.model()->rowCount(), 4);
 }
@@ -210,4 +210,35 @@ TEST_F(GrilleTest, a_lookup_declaration_gives_a_hidden_accept_button_and_the_sho
     f.bouton_accepter->show();
     f.Unload();
     EXPECT_FALSE(f.bouton_accepter->isVisibleTo(&f)) << "Form_Unload hides it again";
+}
+
+TEST_F(GrilleTest, enter_presses_the_visible_accept_button_with_the_text_being_typed) {
+    auto& f = ouvrir();
+    DBGrid& g = *f.grdDataGrid;
+    f.bouton_accepter->show();
+    aller(g, 1, 1);
+    g.setFocus();
+    QTest::keyClick(&g, Qt::Key_F2);
+    auto* éditeur = qobject_cast<QLineEdit*>(focus_actuel());
+    ASSERT_NE(éditeur, nullptr);
+    éditeur->selectAll();
+    taper_au_focus("Bleuet");
+    touche_au_focus(Qt::Key_Return);
+    EXPECT_EQ(f.acceptés, QStringList{"Bleuet"});
+}
+
+TEST_F(GrilleTest, a_double_click_on_the_grid_accepts_even_with_the_button_hidden) {
+    auto& f = ouvrir();
+    DBGrid& g = *f.grdDataGrid;
+    aller(g, 2, 1);
+    QTest::mouseDClick(g.viewport(), Qt::LeftButton, {}, g.visualRect(g.model()->index(2, 1)).center());
+    EXPECT_EQ(f.acceptés, QStringList{"Cerise"});
+}
+
+TEST_F(GrilleTest, escape_closes_a_lookup_screen_as_its_cancel_button) {
+    auto& f = ouvrir();
+    f.grdDataGrid->setFocus();
+    touche_au_focus(Qt::Key_Escape);
+    processDeletions();
+    EXPECT_FALSE(module1().feuilles().isLoaded<feuille_grille_essai>());
 }

@@ -257,3 +257,12 @@ TEST_F(Registry, UnloadingEverythingStopsAtAFormUnloadThatCancels) {
     EXPECT_FALSE(feuilles().isLoaded<feuille_login_essai>());
     EXPECT_TRUE(feuilles().isLoaded<feuille_options_essai>());
 }
+
+TEST_F(Registry, ATopLevelScreenDeletedBehindTheRegistryIsLoadedAfresh) {
+    auto& f = feuilles().get<feuille_options_essai>();
+    f.Check3->setChecked(true);
+    f.deleteLater();
+    processDeletions();
+    EXPECT_FALSE(feuilles().isLoaded<feuille_options_essai>());
+    EXPECT_FALSE(feuilles().get<feuille_options_essai>().Check3->isChecked());
+}

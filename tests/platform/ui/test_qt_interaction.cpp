@@ -1,4 +1,7 @@
+#include "platform/forms/Feuille.h"
+#include "platform/forms/Module1.h"
 #include "platform/ui/QtInteraction.h"
+#include "support/Fixtures.h"
 
 #include <QApplication>
 #include <QInputDialog>
@@ -60,6 +63,17 @@ TEST(QtInteraction, IconFollowsTheCode) {
     EXPECT_EQ(icon, QMessageBox::Warning);
 }
 
+TEST(QtInteraction, TextIsShownAsTypedEvenWithAngleBrackets) {
+    QtInteraction ui;
+    Qt::TextFormat format = Qt::AutoText;
+    whenDialogUp([&](QWidget& d) {
+        format = static_cast<QMessageBox&>(d).textFormat();
+        clickButton(d, QStringLiteral("OK"));
+    });
+    ui.MsgBox(QStringLiteral("<b>/bases/a<b>.mdb</b>"));
+    EXPECT_EQ(format, Qt::PlainText);
+}
+
 TEST(QtInteraction, CancelOfOkCancelReturnsCancel) {
     QtInteraction ui;
     whenDialogUp([](QWidget& d) { clickButton(d, QStringLiteral("Annuler")); });
@@ -100,4 +114,36 @@ TEST(QtInteraction, HourglassAndBack) {
     ui.setMousePointer(vbDefault);
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
     EXPECT_EQ(ui.mousePointer(), vbDefault);
+}
+
+namespace {
+
+class feuille_modale : public Feuille {
+public:
+    feuille_modale() : Feuille(QStringLiteral("feuille_modale"), Genre::haut_niveau) {}
+};
+
+} // namespace
+
+TEST(QtInteraction, ShowModalWaitsUntilTheScreenIsHidden) {
+    QtInteraction ui;
+    feuille_modale f;
+    bool modalWhileUp = false;
+    QTimer::singleShot(0, [&] {
+        modalWhileUp = QApplication::activeModalWidget() == &f && f.isVisible();
+        f.Hide();
+    });
+    ui.showModal(f);
+    EXPECT_TRUE(modalWhileUp);
+    EXPECT_FALSE(f.isVisible());
+    EXPECT_EQ(f.windowModality(), Qt::NonModal);
+}
+
+TEST(QtInteraction, ShowModalEndsWhenTheScreenUnloadsItself) {
+    ScriptedSession session; // a clean registry; the dialogs under test are the real ones below
+    QtInteraction ui;
+    auto& f = module1().feuilles().get<feuille_modale>();
+    QTimer::singleShot(0, [&] { f.Unload(); });
+    ui.showModal(f);
+    EXPECT_FALSE(module1().feuilles().isLoaded<feuille_modale>());
 }
