@@ -18,11 +18,12 @@ QString fabriquer_base(const QTemporaryDir& dossier) {
     const QString chemin = dossier.filePath(QStringLiteral("banc.mdb"));
     sqlite3* db = nullptr;
     sqlite3_open(chemin.toUtf8().constData(), &db);
-    sqlite3_exec(db,
-                 "CREATE TABLE fiches (nom TEXT(30), prénom TEXT(30), naissance DATE, ville TEXT(50));"
-                 "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 100000) "
-                 "INSERT INTO fiches SELECT 'NOM' || i, 'Prénom' || i, '2015-01-01', 'Ville' || (i % 97) FROM n;",
-                 nullptr, nullptr, nullptr);
+    sqlite3_exec(
+        db,
+        "CREATE TABLE fiches (nom TEXT(30), prénom TEXT(30), naissance DATE, ville TEXT(50));"
+        "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 100000) "
+        "INSERT INTO fiches SELECT 'NOM' || i, 'Prénom' || i, '2015-01-01', 'Ville' || (i % 97) FROM n;",
+        nullptr, nullptr, nullptr);
     sqlite3_close(db);
     return chemin;
 }

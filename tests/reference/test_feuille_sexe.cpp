@@ -26,9 +26,7 @@ protected:
     // What the menu's command does before showing the screen.
     feuille_sexe& ouvrir() {
         auto& f = module1().feuilles().get<feuille_sexe>();
-        f.datPrimaryRS->setDatabaseName(module1().base_en_cours);
-        f.datPrimaryRS->setRecordSource(QStringLiteral("SELECT * FROM sexe"));
-        f.datPrimaryRS->Refresh();
+        f.pointer_sur(module1().base_en_cours, QStringLiteral("SELECT * FROM sexe"));
         montrer_active(f);
         return f;
     }
@@ -204,4 +202,16 @@ TEST_F(FeuilleSexeTest, accepting_with_no_known_caller_copies_nothing_and_hides_
     EXPECT_TRUE(module1().feuilles().isLoaded<feuille_sexe>());
     EXPECT_EQ(module1().origine_appel, 7);
     EXPECT_TRUE(ui().boxes().empty());
+}
+
+TEST_F(FeuilleSexeTest, ajouter_on_an_empty_table_fails_in_its_move_last_without_a_handler) {
+    exécuter_par_le_moteur(base, "DELETE * FROM sexe");
+    auto& f = ouvrir();
+    EXPECT_EQ(f.datPrimaryRS->Caption(), "Fiche: 0");
+    ui().expectMsgBox();
+    cliquer(f, "cmdAjouter");
+    ASSERT_EQ(ui().boxes().size(), 1u);
+    EXPECT_EQ(ui().lastBox().text, texte_erreur(ErrorBoxKind::standard, VbError(3021)));
+    EXPECT_TRUE(f.isVisible());
+    EXPECT_TRUE(sexes().isEmpty());
 }

@@ -27,9 +27,7 @@ protected:
     // What the menu's command does before showing the screen.
     feuille_documents& ouvrir() {
         auto& f = module1().feuilles().get<feuille_documents>();
-        f.datPrimaryRS->setDatabaseName(module1().base_en_cours);
-        f.datPrimaryRS->setRecordSource(QStringLiteral("SELECT * FROM documents"));
-        f.datPrimaryRS->Refresh();
+        f.pointer_sur(module1().base_en_cours, QStringLiteral("SELECT * FROM documents"));
         montrer_active(f);
         return f;
     }

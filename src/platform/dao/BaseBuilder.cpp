@@ -45,7 +45,7 @@ void create_base(const QString& target, const QStringList& scripts) {
         for (const QString& script : scripts)
             base.run(script, 3075);
         base.run(QStringLiteral("COMMIT"), 3043);
-        base.run(QStringLiteral("VACUUM"), 3043);
+        base.run(QStringLiteral("VACUUM"), 3043); // also gives the file the page size the schema asks for
     } catch (...) {
         QFile::remove(aside);
         throw;

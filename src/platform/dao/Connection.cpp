@@ -25,18 +25,40 @@ int collate_french(void*, int na, const void* a, int nb, const void* b) {
                           std::string_view{static_cast<const char*>(b), static_cast<size_t>(nb)});
 }
 
-// like(pattern, text), which SQLite calls for "text LIKE pattern".
+// like(pattern, text), which SQLite calls for "text LIKE pattern". The pattern is read once a statement.
 void like_function(sqlite3_context* context, int, sqlite3_value** argv) {
     if (sqlite3_value_type(argv[0]) == SQLITE_NULL || sqlite3_value_type(argv[1]) == SQLITE_NULL) {
         sqlite3_result_null(context);
         return;
     }
-    const auto* pattern = reinterpret_cast<const char*>(sqlite3_value_text(argv[0]));
-    const int patternSize = sqlite3_value_bytes(argv[0]);
+    auto* pattern = static_cast<LikePattern*>(sqlite3_get_auxdata(context, 0));
+    std::unique_ptr<LikePattern> fresh;
+    if (!pattern) {
+        const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(argv[0]));
+        fresh = std::make_unique<LikePattern>(std::string_view(text, sqlite3_value_bytes(argv[0])));
+        pattern = fresh.get();
+    }
     const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(argv[1]));
-    const int textSize = sqlite3_value_bytes(argv[1]);
-    sqlite3_result_int(context,
-                       jet_like(std::string_view(text, textSize), std::string_view(pattern, patternSize)));
+    sqlite3_result_int(context, pattern->matches(std::string_view(text, sqlite3_value_bytes(argv[1]))));
+    if (fresh) // the engine keeps it for the next rows, or deletes it at once
+        sqlite3_set_auxdata(context, 0, fresh.release(),
+                            [](void* p) { delete static_cast<LikePattern*>(p); });
+}
+
+// tri_fr(column, ...): the French sort key of the columns taken together, compared byte by byte.
+void sort_key_function(sqlite3_context* context, int argc, sqlite3_value** argv) {
+    std::vector<std::optional<std::string_view>> columns;
+    columns.reserve(argc);
+    for (int i = 0; i < argc; ++i) {
+        if (sqlite3_value_type(argv[i]) == SQLITE_NULL) {
+            columns.emplace_back();
+            continue;
+        }
+        const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(argv[i]));
+        columns.emplace_back(std::string_view(text, sqlite3_value_bytes(argv[i])));
+    }
+    const std::string key = sort_key(columns);
+    sqlite3_result_blob(context, key.data(), static_cast<int>(key.size()), SQLITE_TRANSIENT);
 }
 
 FieldInfo field_from_declaration(const QString& name, const QString& declared) {
@@ -160,8 +182,9 @@ qint64 Statement::columnInt64(int index) const {
 void register_jet_functions(sqlite3* db) {
     sqlite3_create_collation_v2(db, "FR", SQLITE_UTF8, nullptr, collate_primary, nullptr);
     sqlite3_create_collation_v2(db, "FR_TRI", SQLITE_UTF8, nullptr, collate_french, nullptr);
-    sqlite3_create_function_v2(db, "like", 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, like_function,
-                               nullptr, nullptr, nullptr);
+    constexpr int pure = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS;
+    sqlite3_create_function_v2(db, "like", 2, pure, nullptr, like_function, nullptr, nullptr, nullptr);
+    sqlite3_create_function_v2(db, "tri_fr", -1, pure, nullptr, sort_key_function, nullptr, nullptr, nullptr);
 }
 
 Connection::Connection(QString path, sqlite3* db, FileLock lock)

@@ -108,8 +108,8 @@ private:
     QStringList tableNames_;
 };
 
-// Registers the collations FR (equality ignoring case and accents) and FR_TRI (French order) and Jet's
-// LIKE on a connection.
+// Registers on a connection the collations FR (equality ignoring case and accents) and FR_TRI (French
+// order), the sort key function tri_fr(column, ...) that orders and indexes use, and Jet's LIKE.
 void register_jet_functions(sqlite3* db);
 
 // Thrown texts that name a file.

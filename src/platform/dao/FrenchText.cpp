@@ -113,29 +113,6 @@ std::u32string primary_of(const std::u32string& chars) {
     return out;
 }
 
-template <typename Weight> int compare_by(const std::u32string& a, const std::u32string& b, Weight weight) {
-    const size_t n = std::min(a.size(), b.size());
-    for (size_t i = 0; i < n; ++i) {
-        const auto wa = weight(a[i]);
-        const auto wb = weight(b[i]);
-        if (wa != wb)
-            return wa < wb ? -1 : 1;
-    }
-    if (a.size() != b.size())
-        return a.size() < b.size() ? -1 : 1;
-    return 0;
-}
-
-int compare_chars(const std::u32string& a, const std::u32string& b) {
-    if (const int primary = primary_of(a).compare(primary_of(b)))
-        return primary < 0 ? -1 : 1;
-    if (const int accents = compare_by(a, b, accent_weight))
-        return accents;
-    if (const int cases = compare_by(a, b, [](char32_t c) { return is_upper(c) ? 1 : 0; }))
-        return cases;
-    return compare_by(a, b, [](char32_t c) { return c; });
-}
-
 bool is_ascii(std::string_view s) {
     return std::all_of(s.begin(), s.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
@@ -145,12 +122,18 @@ char ascii_lower(char c) {
 }
 
 // One element of a LIKE pattern, already folded.
-struct PatternItem {
+} // namespace
+
+struct LikePattern::Item {
     enum Kind { Literal, AnyRun, AnyOne, Digit, Class } kind = Literal;
     char32_t literal = 0;
     bool negated = false;
     std::vector<std::pair<char32_t, char32_t>> ranges;
 };
+
+namespace {
+
+using PatternItem = LikePattern::Item;
 
 char32_t fold_one(char32_t c) {
     std::u32string f;
@@ -245,6 +228,81 @@ bool match(const std::u32string& text, const std::vector<PatternItem>& pattern) 
     return p == pattern.size();
 }
 
+// Reads code points from UTF-8 one at a time, with the same leniency as decode().
+class Utf8Cursor {
+public:
+    explicit Utf8Cursor(std::string_view s)
+        : p_(reinterpret_cast<const unsigned char*>(s.data())), end_(p_ + s.size()) {}
+    bool done() const { return p_ == end_; }
+    char32_t next() {
+        const unsigned char b = *p_;
+        const size_t extra = b >= 0xF0 ? 3 : b >= 0xE0 ? 2 : b >= 0xC0 ? 1 : 0;
+        if (extra == 0 || static_cast<size_t>(end_ - p_) <= extra) {
+            ++p_;
+            return b;
+        }
+        char32_t c = b & (0x3F >> extra);
+        for (size_t k = 1; k <= extra; ++k) {
+            if ((p_[k] & 0xC0) != 0x80) {
+                ++p_;
+                return b;
+            }
+            c = (c << 6) | (p_[k] & 0x3F);
+        }
+        p_ += extra + 1;
+        return c;
+    }
+
+private:
+    const unsigned char* p_;
+    const unsigned char* end_;
+};
+
+// The primary units of a text, one at a time, without building the key.
+class PrimaryStream {
+public:
+    explicit PrimaryStream(std::string_view s) : in_(s) {}
+    bool next(char32_t& out) {
+        while (index_ == buffer_.size()) {
+            if (in_.done())
+                return false;
+            buffer_.clear();
+            index_ = 0;
+            append_primary(in_.next(), buffer_);
+        }
+        out = buffer_[index_++];
+        return true;
+    }
+
+private:
+    Utf8Cursor in_;
+    std::u32string buffer_; // at most two units: stays within the small-string buffer
+    size_t index_ = 0;
+};
+
+int compare_primary_streams(std::string_view a, std::string_view b) {
+    PrimaryStream sa(a), sb(b);
+    for (;;) {
+        char32_t x = 0, y = 0;
+        const bool hasA = sa.next(x), hasB = sb.next(y);
+        if (!hasA || !hasB)
+            return hasA == hasB ? 0 : (hasA ? 1 : -1);
+        if (x != y)
+            return x < y ? -1 : 1;
+    }
+}
+
+template <typename Weight> int compare_utf8_by(std::string_view a, std::string_view b, Weight weight) {
+    Utf8Cursor ca(a), cb(b);
+    while (!ca.done() && !cb.done()) {
+        const auto wa = weight(ca.next());
+        const auto wb = weight(cb.next());
+        if (wa != wb)
+            return wa < wb ? -1 : 1;
+    }
+    return ca.done() == cb.done() ? 0 : (ca.done() ? -1 : 1);
+}
+
 } // namespace
 
 std::u32string primary_key(QStringView text) {
@@ -255,6 +313,8 @@ std::u32string primary_key_utf8(std::string_view utf8) {
 }
 
 int compare_primary(std::string_view a, std::string_view b) {
+    if (a == b)
+        return 0;
     if (is_ascii(a) && is_ascii(b)) {
         const size_t n = std::min(a.size(), b.size());
         for (size_t i = 0; i < n; ++i) {
@@ -264,11 +324,12 @@ int compare_primary(std::string_view a, std::string_view b) {
         }
         return a.size() == b.size() ? 0 : (a.size() < b.size() ? -1 : 1);
     }
-    const int c = primary_key_utf8(a).compare(primary_key_utf8(b));
-    return c < 0 ? -1 : (c > 0 ? 1 : 0);
+    return compare_primary_streams(a, b);
 }
 
 int compare_french(std::string_view a, std::string_view b) {
+    if (a == b) // most comparisons while sorting names meet the same name
+        return 0;
     if (is_ascii(a) && is_ascii(b)) {
         if (const int primary = compare_primary(a, b))
             return primary;
@@ -278,18 +339,115 @@ int compare_french(std::string_view a, std::string_view b) {
             if (ua != ub)
                 return ua ? 1 : -1;
         }
-        const int raw = a.compare(b);
-        return raw < 0 ? -1 : (raw > 0 ? 1 : 0);
+        return 0;
     }
-    return compare_chars(decode(a), decode(b));
+    if (const int primary = compare_primary_streams(a, b))
+        return primary;
+    if (const int accents = compare_utf8_by(a, b, accent_weight))
+        return accents;
+    return compare_utf8_by(a, b, [](char32_t c) { return is_upper(c) ? 1 : 0; });
 }
 
 int compare_french(QStringView a, QStringView b) {
-    return compare_chars(decode(a), decode(b));
+    const QByteArray ua = a.toUtf8(), ub = b.toUtf8();
+    return compare_french(std::string_view(ua.constData(), ua.size()),
+                          std::string_view(ub.constData(), ub.size()));
+}
+
+namespace {
+
+// Values shifted by 2 and written as UTF-8 would be: byte order follows value order, and the bytes 0 and
+// 1 stay free for the key's own marks.
+void put_unit(char32_t value, std::string& key) {
+    const char32_t v = value + 2;
+    if (v < 0x80) {
+        key += static_cast<char>(v);
+    } else if (v < 0x800) {
+        key += static_cast<char>(0xC0 | (v >> 6));
+        key += static_cast<char>(0x80 | (v & 0x3F));
+    } else if (v < 0x10000) {
+        key += static_cast<char>(0xE0 | (v >> 12));
+        key += static_cast<char>(0x80 | ((v >> 6) & 0x3F));
+        key += static_cast<char>(0x80 | (v & 0x3F));
+    } else {
+        key += static_cast<char>(0xF0 | (v >> 18));
+        key += static_cast<char>(0x80 | ((v >> 12) & 0x3F));
+        key += static_cast<char>(0x80 | ((v >> 6) & 0x3F));
+        key += static_cast<char>(0x80 | (v & 0x3F));
+    }
+}
+
+constexpr char end_of_column = '\x01';
+
+} // namespace
+
+// A text without accent and capital: the first of all texts with its letters, so its ties take one byte.
+bool is_plain(std::string_view text) {
+    for (Utf8Cursor c(text); !c.done();) {
+        const char32_t code = c.next();
+        if (accent_weight(code) != 0 || is_upper(code))
+            return false;
+    }
+    return true;
+}
+
+std::string sort_key(const std::vector<std::optional<std::string_view>>& columns) {
+    std::string key;
+    key.reserve(24 * columns.size());
+    // Primary: 1 for a missing value, else 2 and the folded letters; each column closed by 1.
+    for (const auto& column : columns) {
+        if (!column) {
+            key += '\x01';
+        } else {
+            key += '\x02';
+            PrimaryStream units(*column);
+            for (char32_t unit = 0; units.next(unit);)
+                put_unit(unit, key);
+        }
+        key += end_of_column;
+    }
+    // Ties, column by column: 1 for a plain text; else 2, the accents (1 for none, 2 and the weight for
+    // one) closed by 0, then the case of each character (1 lower, 2 upper) closed by 0.
+    for (const auto& column : columns) {
+        if (!column)
+            continue;
+        if (is_plain(*column)) {
+            key += '\x01';
+            continue;
+        }
+        key += '\x02';
+        for (Utf8Cursor c(*column); !c.done();) {
+            const char32_t weight = accent_weight(c.next());
+            if (weight == 0) {
+                key += '\x01';
+                continue;
+            }
+            key += '\x02';
+            key += static_cast<char>(weight >> 16);
+            key += static_cast<char>((weight >> 8) & 0xFF);
+            key += static_cast<char>(weight & 0xFF);
+        }
+        key += '\0';
+        for (Utf8Cursor c(*column); !c.done();)
+            key += is_upper(c.next()) ? '\x02' : '\x01';
+        key += '\0';
+    }
+    return key;
+}
+
+LikePattern::LikePattern(std::string_view utf8Pattern) : items_(compile_pattern(decode(utf8Pattern))) {}
+
+LikePattern::~LikePattern() = default;
+
+bool LikePattern::matches(std::string_view utf8Text) {
+    folded_.clear();
+    for (Utf8Cursor c(utf8Text); !c.done();)
+        append_primary(c.next(), folded_);
+    return match(folded_, items_);
 }
 
 bool jet_like(std::string_view utf8Text, std::string_view utf8Pattern) {
-    return match(primary_key_utf8(utf8Text), compile_pattern(decode(utf8Pattern)));
+    return LikePattern(utf8Pattern).matches(utf8Text);
 }
 
 bool jet_like(QStringView text, QStringView pattern) {

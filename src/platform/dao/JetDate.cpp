@@ -60,4 +60,12 @@ QString to_shown_date(const QDate& date) {
     return date.toString(QStringLiteral("dd/MM/yyyy"));
 }
 
+QString shown_from_stored(const QString& stored) {
+    if (stored.size() != 10 || stored[4] != u'-' || stored[7] != u'-')
+        return stored;
+    const QChar shown[10] = {stored[8], stored[9], u'/',      stored[5], stored[6],
+                             u'/',      stored[0], stored[1], stored[2], stored[3]};
+    return QString(shown, 10);
+}
+
 } // namespace dao

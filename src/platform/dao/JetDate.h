@@ -16,4 +16,8 @@ QString to_stored_date(const QDate& date); // "AAAA-MM-JJ"
 std::optional<QDate> from_stored_date(const QString& stored);
 QString to_shown_date(const QDate& date); // "JJ/MM/AAAA"
 
+// "AAAA-MM-JJ" as "JJ/MM/AAAA", without a detour through QDate: a bound box reads dates at every move.
+// Anything else comes back as it is.
+QString shown_from_stored(const QString& stored);
+
 } // namespace dao

@@ -191,27 +191,26 @@ public:
         keysSql = QStringLiteral("SELECT rowid FROM %1").arg(from);
         if (!query.where.isEmpty())
             keysSql += QStringLiteral(" WHERE (%1)").arg(query.where);
-        // Case and accents count only between rows whose sort columns are otherwise equal, so that
-        // "DUPONT Léa" and "Dupont Adam" sort on the first name; then accents and case decide, then the
-        // order of writing.
-        QStringList primary, ties;
+        // Text sorts on its French sort key. Columns sorted the same way share one key, so that case and
+        // accents of a surname count only between rows of the same names ("DUPONT Léa" after "Dupont
+        // Adam"); equal rows then keep the order of their writing.
+        QStringList order, texts;
+        bool allText = true;
         for (const OrderTerm& term : query.order) {
             const int index = table.indexOf(term.column);
             if (index < 0)
                 throw VbError::avec(3061, {QStringLiteral("1")});
             const FieldInfo& column = table.columns[index];
-            const QString name = quote_name(column.name);
-            const QString direction = term.descending ? QStringLiteral(" DESC") : QString();
-            if (column.type != FieldType::Text && column.type != FieldType::Memo) {
-                primary << name + direction;
-            } else if (query.order.size() == 1) {
-                primary << name + QStringLiteral(" COLLATE FR_TRI") + direction;
-            } else {
-                primary << name + QStringLiteral(" COLLATE FR") + direction;
-                ties << name + QStringLiteral(" COLLATE FR_TRI") + direction;
-            }
+            const bool text = column.type == FieldType::Text || column.type == FieldType::Memo;
+            allText = allText && text && term.descending == query.order.front().descending;
+            texts << quote_name(column.name);
+            order << (text ? QStringLiteral("tri_fr(%1)").arg(quote_name(column.name))
+                           : quote_name(column.name)) +
+                         (term.descending ? QStringLiteral(" DESC") : QString());
         }
-        QStringList order = primary + ties;
+        if (allText && query.order.size() > 1)
+            order = QStringList{QStringLiteral("tri_fr(%1)").arg(texts.join(QStringLiteral(", "))) +
+                                (query.order.front().descending ? QStringLiteral(" DESC") : QString())};
         // Equal sort values keep the order of their writing, the same at every opening.
         const bool lastDescending = !query.order.empty() && query.order.back().descending;
         order << (lastDescending ? QStringLiteral("rowid DESC") : QStringLiteral("rowid"));
@@ -225,8 +224,7 @@ public:
         case FieldType::Date: {
             if (stored.isNull())
                 return {};
-            const auto date = from_stored_date(stored.toString());
-            return date ? QVariant(to_shown_date(*date)) : QVariant(stored.toString());
+            return QVariant(shown_from_stored(stored.toString()));
         }
         case FieldType::Text:
         case FieldType::Memo:

@@ -78,7 +78,8 @@ DataControl::DataControl(QWidget* parent) : QWidget(parent) {
         button->setArrowType(type);
         button->setText(bar ? QStringLiteral("|") : QString());
         button->setToolButtonStyle(bar ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
-        button->setFocusPolicy(Qt::NoFocus);
+        // Taking the focus on a click hands a cell being typed in over to its row before the move.
+        button->setFocusPolicy(Qt::ClickFocus);
         connect(button, &QToolButton::clicked, this, move);
         layout->addWidget(button);
     };
@@ -157,6 +158,7 @@ void DataControl::closeRecordset() {
     lastWritten_.clear();
     pending_.clear();
     changed_ = false;
+    emit reopened();
 }
 
 bool DataControl::DataChanged() const {

@@ -15,7 +15,6 @@ class QCheckBox;
 class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
-class QToolButton;
 class DataControl;
 
 // The action codes that Validate receives, as the data control numbers them.
@@ -159,7 +158,6 @@ private:
     void markChanged();
     void addBinding(QWidget* control, const QString& column);
     void closeRecordset();
-    QWidget* buildNavigator();
 
     QString databaseName_;
     QString recordSource_;

@@ -159,6 +159,12 @@ bool FeuilleFiche::eventFilter(QObject* surveillé, QEvent* événement) {
     return Feuille::eventFilter(surveillé, événement);
 }
 
+void FeuilleFiche::pointer_sur(const QString& base, const QString& source) {
+    datPrimaryRS->setDatabaseName(base);
+    datPrimaryRS->setRecordSource(source);
+    datPrimaryRS->Refresh();
+}
+
 void FeuilleFiche::Form_Load() {
     avec_piège(ErrorBoxKind::standard, [this] { centrer_feuille(*this); });
 }

@@ -72,8 +72,17 @@ ConfigurationFiche table_de_consultation(QString nom, QString titre, QString tab
 // The frame that twenty-two record screens share: the data source `datPrimaryRS` with its navigator,
 // the buttons to add, delete, refresh, save and close, the grid of the lookup screens, and the small
 // handlers of each, configured once per screen. A screen derives from it, puts its own controls in
-// corps() (a grid screen has nothing more to add) and overrides a handler only where its own Part
-// has its own version.
+// corps() (a grid screen has nothing more to add) and overrides a handler only where it has a
+// version of its own. A whole lookup screen:
+//
+//     class feuille_villes : public FeuilleFiche {
+//     public:
+//         feuille_villes()
+//             : FeuilleFiche(table_de_consultation("feuille_villes", "Table des villes", "villes",
+//                                                  {{"code_postal", "codes postaux"}, {"détails",
+//                                                  "détails"}})) {}
+//         void bouton_accepter_Click() override; // its list of callers
+//     };
 class FeuilleFiche : public Feuille {
     Q_OBJECT
 public:
@@ -81,6 +90,10 @@ public:
     ~FeuilleFiche() override;
 
     const ConfigurationFiche& configuration() const { return configuration_; }
+
+    // Points the data source at a file and a query, in the order DatabaseName, RecordSource,
+    // Refresh: the first record shows, or nothing on an empty table. Raises the engine's error.
+    void pointer_sur(const QString& base, const QString& source);
 
     // Controls of the frame; the absent ones are null.
     DataControl* datPrimaryRS = nullptr;

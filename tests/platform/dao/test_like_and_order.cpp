@@ -109,7 +109,7 @@ TEST_F(FrenchOrder, EqualityInAQueryIgnoresCaseAndAccents) {
     EXPECT_EQ(db->OpenRecordset("SELECT * FROM élèves WHERE nom_élève <> 'hélène'")->RecordCount(), 1);
 }
 
-TEST(FrenchCompare, IsATotalOrderThatOnlyIdenticalTextsTie) {
+TEST(FrenchCompare, OnlyIdenticalTextsTieAndTheOrderIsAntisymmetric) {
     const QStringList words = {"e", "E", "é", "É", "è", "ê", "ë", "ea", "Ea", "œ", "oe", "OE", ""};
     for (const QString& a : words)
         for (const QString& b : words) {
@@ -119,6 +119,43 @@ TEST(FrenchCompare, IsATotalOrderThatOnlyIdenticalTextsTie) {
         }
     EXPECT_LT(dao::compare_french(u"cote", u"côte"), 0);
     EXPECT_LT(dao::compare_french(u"côte", u"coter"), 0);
+}
+
+} // namespace
+
+namespace {
+
+int sign(int v) {
+    return (v > 0) - (v < 0);
+}
+
+std::string key_of(const QString& text) {
+    const QByteArray utf8 = text.toUtf8();
+    return dao::sort_key({std::string_view(utf8.constData(), utf8.size())});
+}
+
+TEST(SortKey, OrdersBytesAsFrenchOrderDoes) {
+    const QStringList words = {"",      "a",     "A",       "à",       "b",      "cote",  "côte", "coté",
+                               "côté",  "coter", "Cote",    "e",       "é",      "É",     "ea",   "Émile",
+                               "Emile", "emile", "Eric",    "oe",      "œ",      "Œdipe", "Ode",  "10",
+                               "9",     "z",     "Zoé",     "ß",       "ss",     "Σ",     "σ",    "a b",
+                               "a-b",   "ab",    "e\u0301", "\u00e9t", "x\u0001"};
+    for (const QString& a : words)
+        for (const QString& b : words) {
+            const int byKey = sign(key_of(a).compare(key_of(b)));
+            EXPECT_EQ(byKey, sign(dao::compare_french(a, b))) << a.toStdString() << " | " << b.toStdString();
+        }
+}
+
+TEST(SortKey, ColumnsTogetherCompareAllLettersBeforeAnyAccentOrCase) {
+    auto key = [](const char* nom, const char* prénom) {
+        return dao::sort_key({std::string_view(nom), std::string_view(prénom)});
+    };
+    EXPECT_LT(key("Dupont", "Adam"), key("DUPONT", "Léa"));
+    EXPECT_LT(key("DUPONT", "Adam"), key("Dupont", "Léa"));
+    EXPECT_LT(key("Dupont", "Adam"), key("DUPONT", "Adam"));
+    EXPECT_LT(key("Du", "Pont"), key("Dup", "Ont"));
+    EXPECT_LT(dao::sort_key({std::nullopt}), dao::sort_key({std::string_view("")}));
 }
 
 } // namespace

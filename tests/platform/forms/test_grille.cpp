@@ -242,3 +242,29 @@ TEST_F(GrilleTest, escape_closes_a_lookup_screen_as_its_cancel_button) {
     processDeletions();
     EXPECT_FALSE(module1().feuilles().isLoaded<feuille_grille_essai>());
 }
+
+TEST_F(GrilleTest, a_refresh_on_a_file_gone_shows_the_standard_words_and_leaves_an_empty_grid) {
+    auto& f = ouvrir();
+    f.datPrimaryRS->setDatabaseName(folder.file("disparue.mdb"));
+    ui().expectMsgBox();
+    cliquer(f, "cmdRafraîchir");
+    ASSERT_EQ(ui().boxes().size(), 1u);
+    EXPECT_TRUE(ui().lastBox().text.startsWith(QStringLiteral("Le logiciel a rencontré l'erreur : 3024")));
+    EXPECT_EQ(f.grdDataGrid->model()->rowCount(), 0);
+    EXPECT_TRUE(f.isVisible());
+    EXPECT_EQ(détails().size(), 3);
+}
+
+TEST_F(GrilleTest, an_arrow_of_the_navigator_writes_the_cell_being_typed_in) {
+    auto& f = ouvrir();
+    DBGrid& g = *f.grdDataGrid;
+    g.setFocus();
+    QTest::keyClick(&g, Qt::Key_F2);
+    auto* éditeur = qobject_cast<QLineEdit*>(focus_actuel());
+    ASSERT_NE(éditeur, nullptr);
+    éditeur->selectAll();
+    taper_au_focus("Z");
+    cliquer(*f.datPrimaryRS, "suivant");
+    EXPECT_EQ(colonne_du_fichier(base, "valeurs", "code").first(), "Z");
+    EXPECT_EQ(g.currentIndex().row(), 1);
+}
