@@ -2,6 +2,7 @@
 // the towns, the user goes to the last one and accepts, which copies two cells into the pupil screen,
 // closes the lookup and gives the focus to the telephone.
 #include "people/feuille_élève.h"
+#include "platform/dao/Database.h"
 #include "platform/forms/DBGrid.h"
 #include "platform/forms/DataControl.h"
 #include "platform/forms/Module1.h"
@@ -30,12 +31,14 @@ QString fabriquer_base(const QTemporaryDir& dossier) {
     const std::string sql = "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < " +
                             std::to_string(villes) +
                             ") INSERT INTO villes (code_postal, détails) "
-                            "SELECT printf('%05d', i), 'Commune ' || i FROM n;"
-                            "INSERT INTO élèves (matricule, nom_élève) VALUES ('000001', 'MARTIN');";
+                            "SELECT printf('%05d', i), 'Commune ' || i FROM n;";
     char* erreur = nullptr;
     if (sqlite3_exec(db, sql.c_str(), nullptr, nullptr, &erreur) != SQLITE_OK)
         qFatal("base du banc : %s", erreur);
     sqlite3_close(db);
+    // The pupils' indexes use the store's own sort key: the pupil goes in through the store.
+    Database::open(chemin)->Execute(
+        QStringLiteral("INSERT INTO élèves (matricule, nom_élève) VALUES (\"000001\", \"MARTIN\")"));
     return chemin;
 }
 
