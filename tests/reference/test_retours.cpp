@@ -67,18 +67,32 @@ std::string nom_du_cas(const ::testing::TestParamInfo<Cas>& info) {
     return propre;
 }
 
-// The column of the file behind a field of a calling screen.
-QString colonne_liée(const QString& appelant, const QString& champ) {
-    if (appelant == u("feuille_élève")) {
-        for (const auto& c : feuille_élève::champs())
-            if (champ == u(c.nom))
-                return u(c.colonne);
-    } else {
-        for (const auto& c : feuille_équipe::champs())
-            if (champ == u(c.nom))
-                return u(c.colonne);
-    }
-    return champ;
+// A calling screen as the test opens it: its menu command, its table, and the column of the file
+// behind each of its fields. A screen that joins the callers joins this list too.
+struct Appelant {
+    const char* nom;
+    const char* menu;
+    const char* table;
+    QString (*colonne)(const QString& champ);
+};
+
+template <class F> QString colonne_de(const QString& champ) {
+    for (const auto& c : F::champs())
+        if (champ == u(c.nom))
+            return u(c.colonne);
+    return {};
+}
+
+const Appelant appelants[] = {
+    {"feuille_élève", "menuenfantsindex1", "élèves", &colonne_de<feuille_élève>},
+    {"feuille_équipe", "menuparamètresindex3", "équipe", &colonne_de<feuille_équipe>},
+};
+
+const Appelant* appelant_nommé(const QString& nom) {
+    for (const Appelant& a : appelants)
+        if (nom == u(a.nom))
+            return &a;
+    return nullptr;
 }
 
 QTabWidget* onglets_de(Feuille& f) {
@@ -92,18 +106,7 @@ int page_de(QTabWidget& onglets, QWidget& w) {
     return -1;
 }
 
-class RetourDUnChoix : public ConsultationsTest, public ::testing::WithParamInterface<Cas> {
-protected:
-    // The calling screen opened by its own menu command, on its first row.
-    Feuille& ouvrir_appelant(const QString& nom, QString& table) {
-        if (nom == u("feuille_élève")) {
-            table = u("élèves");
-            return ouvrir_élève();
-        }
-        table = u("équipe");
-        return ouvrir_équipe();
-    }
-};
+class RetourDUnChoix : public ConsultationsTest, public ::testing::WithParamInterface<Cas> {};
 
 TEST_P(RetourDUnChoix, LandsInTheCallersFieldsInOrderClosesTheLookupAndSetsFocusAndTab) {
     const Retour& r = *GetParam().retour;
@@ -113,8 +116,11 @@ TEST_P(RetourDUnChoix, LandsInTheCallersFieldsInOrderClosesTheLookupAndSetsFocus
     if (!module1().feuilles().connaît(appelant_nom))
         GTEST_SKIP() << r.appelant << " n'existe pas encore";
 
-    QString table_appelant;
-    Feuille& appelant = ouvrir_appelant(appelant_nom, table_appelant);
+    const Appelant* comment = appelant_nommé(appelant_nom);
+    ASSERT_NE(comment, nullptr) << "the test does not know yet how to open " << r.appelant;
+    menu(comment->menu);
+    ASSERT_NE(chargée(appelant_nom), nullptr);
+    Feuille& appelant = *chargée(appelant_nom);
     auto* bouton = appelant.findChild<QPushButton*>(u(GetParam().bouton));
     ASSERT_NE(bouton, nullptr);
     QTabWidget* onglets = onglets_de(appelant);
@@ -176,8 +182,8 @@ TEST_P(RetourDUnChoix, LandsInTheCallersFieldsInOrderClosesTheLookupAndSetsFocus
 
     cliquer(appelant, u("cmdMettreàjour"));
     for (qsizetype i = 0; i < attendues.size(); ++i) {
-        const QString colonne = colonne_liée(appelant_nom, u(r.copies[i].vers));
-        EXPECT_EQ(colonne_du_fichier(base, table_appelant, colonne).value(0), attendues[i])
+        const QString colonne = comment->colonne(u(r.copies[i].vers));
+        EXPECT_EQ(colonne_du_fichier(base, u(comment->table), colonne).value(0), attendues[i])
             << colonne.toStdString();
     }
 }
