@@ -29,8 +29,9 @@ FileLock& FileLock::operator=(FileLock&& other) noexcept {
 #ifdef Q_OS_UNIX
 // flock() locks are held by the open file description, not the process, so two Database objects of one
 // program see each other's locks just as two programs do; and they never meet the engine's own fcntl()
-// locks. The descriptor is only closed when no statement of ours is running, so closing it cannot take
-// away a lock the engine holds.
+// locks. Closing our descriptor would drop the fcntl() locks this process holds on the file, so it is
+// closed only when the engine holds none: between statements, and outside a BeginTrans of another
+// Database on the same file, which the program's screens never leave open.
 FileLock::Result FileLock::acquire(const QString& path, Mode mode) {
     release();
     const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);

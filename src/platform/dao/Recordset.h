@@ -26,7 +26,9 @@ enum class EditMode { None, Edit, AddNew };
 
 // A dynaset, as a DAO Recordset of that type behaves. Opening fixes the ordered list of row keys; rows
 // are read on demand. A row added joins the end until Requery; a deleted row stays a hole that moves
-// skip and that reading reports (3167). EOF and BOF are spelt isEOF()/isBOF() (EOF is a C macro).
+// skip and that reading reports (3167); so does a row another data source removed. A move forgets an
+// edit that Update did not write, as the engine does (the data control writes first). EOF and BOF are
+// spelt isEOF()/isBOF(), EOF being a C macro.
 //
 // Errors (VbError): 3021 no current record, 3020 Update or CancelUpdate without AddNew/Edit,
 // 3167 record deleted, 3265 unknown column, 3077 syntax in a FindFirst criterion, 3163 text too long,
@@ -56,7 +58,7 @@ public:
     void Edit();
     void Update(); // one transaction; the row stays current (an added row: the current row is unchanged)
     void CancelUpdate();
-    void Delete(); // the current row becomes a hole; the position stays on it
+    void Delete(); // the current row becomes a hole and stays current; 3021 on a new, unsaved row
     EditMode editMode() const;
 
     void MoveFirst();
@@ -66,10 +68,11 @@ public:
     bool isEOF() const;
     bool isBOF() const;
 
-    // 0-based position of the current row; -1 on a new row, at EOF/BOF or on an empty set.
+    // 0-based position of the current row among the rows left; -1 on a new row, on a deleted row, at
+    // EOF/BOF or on an empty set.
     int AbsolutePosition() const;
     void setAbsolutePosition(int position); // 3001 if out of range
-    int RecordCount() const;                // rows in the key list, holes included
+    int RecordCount() const;                // rows of the key list, holes left out
 
     // An opaque value that names a row of this recordset; assigning it makes that row current.
     QByteArray Bookmark() const;

@@ -221,3 +221,20 @@ TEST(Sharing, WhileAFileIsHeldForCompactionNobodyOpensIt) {
 }
 
 } // namespace
+
+namespace {
+
+TEST(Sharing, AWriterWaitsForAnotherThenGivesUpWithTheLockedError) {
+    TemplateBase base;
+    auto first = Database::open(base.path());
+    auto second = Database::open(base.path());
+    first->BeginTrans();
+    first->Execute("DELETE * FROM sexe");
+    EXPECT_EQ(second->OpenRecordset("sexe")->RecordCount(), 2); // readers still see the last commit
+    EXPECT_EQ(error_of([&] { second->Execute("DELETE * FROM genres"); }), 3260);
+    first->CommitTrans();
+    EXPECT_EQ(second->OpenRecordset("sexe")->RecordCount(), 0);
+    EXPECT_EQ(error_of([&] { second->Execute("DELETE * FROM genres"); }), 0);
+}
+
+} // namespace
