@@ -229,6 +229,7 @@ void feuille_élève::brancher_handlers() {
     surLostFocus(prénom_enfant, [this] { prénom_enfant_LostFocus(); });
     QObject::connect(Command15, &QPushButton::clicked, this, [this] { Command15_Click(); });
     QObject::connect(Command6, &QPushButton::clicked, this, [this] { Command6_Click(); });
+    brancher_consultations();
     suivre_onglets(*this, *SSTab1,
                    {
                        {"date_inscription", 0},
