@@ -27,6 +27,7 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTimer>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace {
@@ -84,6 +85,12 @@ QPushButton* nouveau_bouton(QWidget* parent, const char* nom, const char* légen
     return b;
 }
 
+// A button may shrink to its caption on a small display, where the style makes every button as wide.
+void resserrer(QPushButton* b) {
+    b->setMinimumWidth(
+        std::min(b->minimumSizeHint().width(), b->fontMetrics().horizontalAdvance(b->text()) + 16));
+}
+
 // A box that gathers controls without a caption of its own.
 QGroupBox* cadre(QWidget* parent, const char* nom) {
     auto* g = new QGroupBox(parent);
@@ -97,9 +104,9 @@ void ajuster_largeur(QLineEdit* e, int longueur) {
     const int lettres = longueur == 0 ? 11 : longueur;
     const int chiffre = e->fontMetrics().horizontalAdvance(QLatin1Char('0'));
     if (lettres <= 12)
-        e->setFixedWidth(chiffre * (lettres + 5));
+        e->setFixedWidth(chiffre * (lettres + 3));
     else
-        e->setMinimumWidth(chiffre * std::min(12 + lettres / 3, 28));
+        e->setMinimumWidth(chiffre * std::min(10 + lettres / 4, 24));
 }
 
 QPlainTextEdit* zone_de_texte(QWidget* parent) {
@@ -222,6 +229,7 @@ void feuille_élève::brancher_handlers() {
     surLostFocus(prénom_enfant, [this] { prénom_enfant_LostFocus(); });
     QObject::connect(Command15, &QPushButton::clicked, this, [this] { Command15_Click(); });
     QObject::connect(Command6, &QPushButton::clicked, this, [this] { Command6_Click(); });
+    brancher_consultations();
     suivre_onglets(*this, *SSTab1,
                    {
                        {"date_inscription", 0},
@@ -303,13 +311,16 @@ QWidget* feuille_élève::construire_bandeau() {
     for (const char* ordre : ordres)
         Combo1->addItem(texte(ordre));
     Combo1->setToolTip(QStringLiteral("Cliquez pour modifier l'ordre d'apparition des fiches"));
-    Combo1->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    // Narrower than its longest entry, so that the screen fits a small display; the list opens wide.
+    Combo1->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    Combo1->setMinimumContentsLength(20);
     bas->addWidget(Combo1, 0, Qt::AlignVCenter);
     bas->addWidget(construire_boutons(), 1);
     lignes->addLayout(bas);
 
     Command4 = nouveau_bouton(Frame12, "Command4", "Parents",
                               "Cliquez pour accéder à la fiche des parents de l'élève en cours");
+    resserrer(Command4);
     return bandeau;
 }
 
@@ -319,8 +330,12 @@ QWidget* feuille_élève::construire_boutons() {
     auto* Frame11 = cadre(this, "Frame11");
     auto* rangée = new QHBoxLayout(Frame11);
     Command3 = nouveau_bouton(Frame11, "Command3", "&Imprimer", "Cliquez pour imprimer la fiche");
+    // The position caption keeps room for a school of a hundred thousand pupils beside the arrows.
+    int flèches = 0;
+    for (const QWidget* flèche : datPrimaryRS->findChildren<QToolButton*>())
+        flèches += flèche->sizeHint().width();
     datPrimaryRS->setMinimumWidth(
-        datPrimaryRS->fontMetrics().horizontalAdvance(QStringLiteral("Fiche: 0000000")) + 120);
+        flèches + datPrimaryRS->fontMetrics().horizontalAdvance(QStringLiteral("Fiche: 000000")) + 12);
     for (QWidget* w : std::initializer_list<QWidget*>{datPrimaryRS, cmdAjouter, cmdSupprimer, cmdRafraîchir,
                                                       cmdMettreàjour, cmdFermer}) {
         retirer_de(layout(), w);
@@ -526,6 +541,7 @@ void feuille_élève::construire_champs() {
         QPushButton* légende = nullptr;
         if (c.bouton) {
             légende = nouveau_bouton(parent, c.bouton, c.libellé, c.aide_bouton);
+            resserrer(légende);
             this->*c.membre_bouton = légende;
         }
         if (c.invisible) {

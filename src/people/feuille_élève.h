@@ -164,6 +164,15 @@ public:
     void cmdAjouter_Click() override;
     void cmdRafraîchir_Click() override;
 
+    // The lookup buttons (feuille_élève_consultations.cpp).
+    void Command5_Click();
+    void Command7_Click();
+    void Command8_Click();
+    void Command9_Click();
+    void Command10_Click();
+    void Command11_Click();
+    void Command12_Click();
+
 protected:
     // The Tab key walks the declared order across the pages, turning to the page of the next field.
     bool focusNextPrevChild(bool next) override;
@@ -188,6 +197,7 @@ private:
     void poser_tabulation();
     void lier_colonnes();
     void brancher_handlers();
+    void brancher_consultations();
     void montrer_paramètres();
 
     QGroupBox* groupe(const QString& nom);

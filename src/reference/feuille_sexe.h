@@ -1,13 +1,9 @@
 #pragma once
 
-#include "platform/forms/FeuilleFiche.h"
+#include "reference/FeuilleConsultation.h"
 
-// The table of sexes: one grid over `sexe`, kept up to date from the menu, and the picker of the
-// pupil's `sexe` field.
-class feuille_sexe : public FeuilleFiche {
-    Q_OBJECT
+// The table of sexes, and the picker of the pupil's `sexe` field.
+class feuille_sexe : public FeuilleConsultation {
 public:
     feuille_sexe();
-
-    void bouton_accepter_Click() override;
 };

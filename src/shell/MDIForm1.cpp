@@ -3,6 +3,7 @@
 #include "platform/errors/ErrorBoxes.h"
 #include "platform/forms/Module1.h"
 #include "shell/commandes.h"
+#include "shell/ecrans_connus.h"
 #include "shell/feuille_options.h"
 #include "shell/options.h"
 #include "store/feuille_choix_base.h"
@@ -145,6 +146,7 @@ MDIForm1::MDIForm1() : Feuille(QStringLiteral("MDIForm1"), Genre::haut_niveau) {
         setGeometry(écran->availableGeometry());
     setWindowState(Qt::WindowMaximized);
     module1().feuilles().setMdiArea(zone);
+    faire_connaître_les_écrans();
 }
 
 MDIForm1::~MDIForm1() = default;

@@ -1,7 +1,20 @@
 #include "shell/commandes.h"
 
 #include "people/feuille_élève.h"
+#include "reference/feuille_adresses.h"
+#include "reference/feuille_assertions.h"
+#include "reference/feuille_assurances.h"
+#include "reference/feuille_csp.h"
+#include "reference/feuille_genres.h"
+#include "reference/feuille_hôpitaux.h"
+#include "reference/feuille_langues_vivantes.h"
+#include "reference/feuille_médecins.h"
+#include "reference/feuille_nationalités.h"
+#include "reference/feuille_niveaux.h"
 #include "reference/feuille_sexe.h"
+#include "reference/feuille_situations_familiales.h"
+#include "reference/feuille_villes.h"
+#include "reference/feuille_équipe.h"
 #include "reports/feuille_documents.h"
 #include "shell/MDIForm1.h"
 #include "shell/regle_de_preparation.h"
@@ -29,23 +42,24 @@ const std::vector<LigneDeCommande>& carte_des_commandes() {
         {"menuexploitationindex4", {}}, // spreadsheet export
         {"menuparamètresindex1", {}},   // feuille_inspection
         {"menuparamètresindex2", {}},   // feuille_école
-        {"menuparamètresindex3", {}},   // feuille_équipe
+        {"menuparamètresindex3", préparer<feuille_équipe>(ouvrir_table_équipe)},
         {"menuparamètresindex4", préparer<feuille_documents>(ouvrir_table_documents)},
         {"menuparamètresindex5", {}},  // feuille_paramètres
         {"menuparamètresindex22", {}}, // feuille_accès
-        {"menuparamètresindex6", {}},  // feuille_adresses
-        {"menuparamètresindex7", {}},  // feuille_assurances
-        {"menuparamètresindex23", {}}, // feuille_assertions
-        {"menuparamètresindex8", {}},  // feuille_csp
-        {"menuparamètresindex19", {}}, // feuille_genres
-        {"menuparamètresindex9", {}},  // feuille_hôpitaux
-        {"menuparamètresindex13", {}}, // feuille_langues_vivantes
-        {"menuparamètresindex12", {}}, // feuille_médecins
-        {"menuparamètresindex15", {}}, // feuille_nationalités
-        {"menuparamètresindex18", {}}, // feuille_niveaux
+        {"menuparamètresindex6", préparer<feuille_adresses>(ouvrir_table_adresses)},
+        {"menuparamètresindex7", préparer<feuille_assurances>(ouvrir_table_assurances)},
+        {"menuparamètresindex23", préparer<feuille_assertions>(ouvrir_table_assertions)},
+        {"menuparamètresindex8", préparer<feuille_csp>(ouvrir_table_csp)},
+        {"menuparamètresindex19", préparer<feuille_genres>(ouvrir_table_genres)},
+        {"menuparamètresindex9", préparer<feuille_hôpitaux>(ouvrir_table_hôpitaux)},
+        {"menuparamètresindex13", préparer<feuille_langues_vivantes>(ouvrir_table_langues_vivantes)},
+        {"menuparamètresindex12", préparer<feuille_médecins>(ouvrir_table_médecins)},
+        {"menuparamètresindex15", préparer<feuille_nationalités>(ouvrir_table_nationalités)},
+        {"menuparamètresindex18", préparer<feuille_niveaux>(ouvrir_table_niveaux)},
         {"menuparamètresindex14", préparer<feuille_sexe>(ouvrir_table_sexe)},
-        {"menuparamètresindex17", {}}, // feuille_situations_familiales
-        {"menuparamètresindex16", {}}, // feuille_villes
+        {"menuparamètresindex17",
+         préparer<feuille_situations_familiales>(ouvrir_table_situations_familiales)},
+        {"menuparamètresindex16", préparer<feuille_villes>(ouvrir_table_villes)},
         {"menuutilitairesindex1", {}}, // emptying the families
         {"menuutilitairesindex2", {}}, // emptying the pupils
         {"menuutilitairesindex3", {}}, // emptying the lookup tables

@@ -26,7 +26,22 @@ template <class F> F& ouvrir_table(const QString& sql, SiÉchec échec = SiÉche
 // The procedures of the family whose screens exist.
 void ouvrir_table_documents();
 void ouvrir_table_passe_choix();
+// The lookup tables, each on its own screen.
+void ouvrir_table_adresses();
+void ouvrir_table_assertions();
+void ouvrir_table_assurances();
+void ouvrir_table_csp();
+void ouvrir_table_genres();
+void ouvrir_table_hôpitaux();
+void ouvrir_table_langues_vivantes();
+void ouvrir_table_médecins();
+void ouvrir_table_nationalités();
+void ouvrir_table_niveaux();
 void ouvrir_table_sexe();
+void ouvrir_table_situations_familiales();
+void ouvrir_table_villes();
+// The teaching team, which is also the list of classes.
+void ouvrir_table_équipe();
 // The pupils in matricule order, whatever the pupil screen's list says; then the captions of their
 // ten configurable fields (Data1).
 void ouvrir_table_élèves();

@@ -2,6 +2,7 @@
 
 #include "platform/errors/VbError.h"
 #include "platform/forms/Module1.h"
+#include "shell/ecrans_connus.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -12,6 +13,7 @@ ScriptedSession::ScriptedSession() : ui_(std::make_shared<ScriptedInteraction>()
     module1().réinitialiser();
     processDeletions();
     module1().setInteraction(ui_);
+    faire_connaître_les_écrans();
 }
 
 ScriptedSession::~ScriptedSession() {

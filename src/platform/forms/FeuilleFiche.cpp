@@ -104,6 +104,7 @@ void FeuilleFiche::construireBoutons(QVBoxLayout* disposition) {
                                                  "fiche d'origine"),
                                   &FeuilleFiche::bouton_accepter_Click);
         bouton_accepter->setVisible(configuration_.bouton_accepter != BoutonAccepter::caché);
+        bouton_accepter->setEnabled(configuration_.bouton_accepter != BoutonAccepter::désactivé);
     }
     if (configuration_.ajout != FormeAjout::aucune)
         cmdAjouter = ajouter("cmdAjouter", QStringLiteral("&Ajouter"),

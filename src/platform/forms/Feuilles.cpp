@@ -34,6 +34,11 @@ void Feuilles::charger(std::type_index type, std::unique_ptr<Feuille> feuille) {
     f.Form_Load();
 }
 
+Feuille* Feuilles::parNom(const QString& nom) {
+    const auto fabrique = fabriques_.find(nom);
+    return fabrique == fabriques_.end() ? nullptr : &fabrique->second(*this);
+}
+
 bool Feuilles::unload(Feuille& feuille) {
     int cancel = 0;
     feuille.Form_QueryUnload(cancel);

@@ -4,6 +4,8 @@
 
 #include <QMdiArea>
 #include <QPointer>
+#include <QString>
+#include <map>
 #include <memory>
 #include <typeindex>
 #include <utility>
@@ -29,6 +31,16 @@ public:
     }
 
     template <class F> bool isLoaded() const { return trouver(typeid(F)) != nullptr; }
+
+    // Screens that other screens reach by name, as a lookup writes into the fields of its caller:
+    // each screen that can be so reached is made known once, by the program's start-up.
+    template <class F> void faireConnaître(const QString& nom) {
+        fabriques_[nom] = [](Feuilles& feuilles) -> Feuille& { return feuilles.get<F>(); };
+    }
+    bool connaît(const QString& nom) const { return fabriques_.contains(nom); }
+    // The screen of that name, loaded hidden on first touch as get<F>() does; nullptr when no screen
+    // of that name has been made known. What is made known stays so when the screens are destroyed.
+    Feuille* parNom(const QString& nom);
 
     // The screen if it is loaded, without loading it.
     template <class F> F* siChargée() const { return static_cast<F*>(trouver(typeid(F))); }
@@ -73,4 +85,5 @@ private:
     void oublier(Feuille& feuille);
     std::vector<Entrée> entrées_;
     QPointer<QMdiArea> zone_;
+    std::map<QString, Feuille& (*)(Feuilles&)> fabriques_;
 };

@@ -1,0 +1,26 @@
+#include "reference/FeuilleConsultation.h"
+
+#include "platform/forms/Placement.h"
+#include "reference/retours.h"
+
+ConfigurationFiche consultation(const char* nom, const char* titre, const char* table,
+                                std::vector<ColonneGrille> colonnes, Particularités particularités) {
+    ConfigurationFiche c = table_de_consultation(QString::fromUtf8(nom), QString::fromUtf8(titre),
+                                                 QString::fromUtf8(table), std::move(colonnes));
+    c.légende = particularités.légende;
+    c.infobulle_rafraîchir = particularités.infobulle_rafraîchir;
+    c.double_clic_accepte = particularités.double_clic_accepte;
+    return c;
+}
+
+FeuilleConsultation::FeuilleConsultation(ConfigurationFiche configuration)
+    : FeuilleFiche(std::move(configuration)) {
+    bouton_accepter->setDefault(true);
+    // A grid of one column reads well narrow; each more column widens the screen.
+    const int colonnes = static_cast<int>(this->configuration().grille.size());
+    resize(en_pixels(4500 + 2000 * (colonnes - 1)), en_pixels(4200));
+}
+
+void FeuilleConsultation::bouton_accepter_Click() {
+    accepter(*this);
+}

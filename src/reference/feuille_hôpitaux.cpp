@@ -1,0 +1,6 @@
+#include "reference/feuille_hôpitaux.h"
+
+feuille_hôpitaux::feuille_hôpitaux()
+    : FeuilleConsultation(consultation(
+          "feuille_hôpitaux", "Table des hôpitaux", "hôpitaux",
+          {{"nom", "nom"}, {"téléphone", "téléphone"}, {"adresse", "adresse"}, {"ville", "ville"}})) {}

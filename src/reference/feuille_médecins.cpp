@@ -1,0 +1,6 @@
+#include "reference/feuille_médecins.h"
+
+feuille_médecins::feuille_médecins()
+    : FeuilleConsultation(consultation(
+          "feuille_médecins", "Table des médecins", "médecins",
+          {{"nom", "nom"}, {"téléphone", "téléphone"}, {"adresse", "adresse"}, {"ville", "ville"}})) {}

@@ -1,0 +1,5 @@
+#include "reference/feuille_nationalités.h"
+
+feuille_nationalités::feuille_nationalités()
+    : FeuilleConsultation(consultation("feuille_nationalités", "Table des nationalités", "nationalités",
+                                       {{"détails", "détails"}, {"code", "code"}})) {}

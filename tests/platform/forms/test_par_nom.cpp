@@ -1,0 +1,97 @@
+// Screens reached by name, and the focus given from another screen.
+#include "platform/errors/VbError.h"
+#include "platform/forms/Feuille.h"
+#include "platform/forms/Focus.h"
+#include "platform/forms/Module1.h"
+#include "support/Fixtures.h"
+#include "support/PiloteEcran.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QTabWidget>
+#include <QTest>
+#include <QVBoxLayout>
+
+namespace {
+
+int chargements = 0;
+
+// A screen with a field in front and one on the second page of its tabs.
+class écran_nommé : public Feuille {
+public:
+    écran_nommé() : Feuille(QStringLiteral("écran_nommé")) {
+        auto* disposition = new QVBoxLayout(this);
+        devant = new QLineEdit(this);
+        disposition->addWidget(devant);
+        onglets = new QTabWidget(this);
+        onglets->addTab(new QLineEdit, QStringLiteral("un"));
+        derrière = new QLineEdit;
+        onglets->addTab(derrière, QStringLiteral("deux"));
+        disposition->addWidget(onglets);
+    }
+    void Form_Load() override { ++chargements; }
+    QLineEdit* devant;
+    QLineEdit* derrière;
+    QTabWidget* onglets;
+};
+
+class ParNom : public ScriptedTest {
+protected:
+    void SetUp() override {
+        ScriptedTest::SetUp();
+        chargements = 0;
+        module1().feuilles().faireConnaître<écran_nommé>(QStringLiteral("écran_nommé"));
+    }
+};
+
+TEST_F(ParNom, AnUnknownNameGivesNothingAndLoadsNothing) {
+    const auto avant = module1().feuilles().chargées().size();
+    EXPECT_FALSE(module1().feuilles().connaît(QStringLiteral("feuille_inconnue")));
+    EXPECT_EQ(module1().feuilles().parNom(QStringLiteral("feuille_inconnue")), nullptr);
+    EXPECT_EQ(module1().feuilles().chargées().size(), avant);
+}
+
+TEST_F(ParNom, AKnownNameLoadsTheScreenHiddenOnceAndAgainAfterAnUnload) {
+    Feuilles& feuilles = module1().feuilles();
+    Feuille* f = feuilles.parNom(QStringLiteral("écran_nommé"));
+    ASSERT_NE(f, nullptr);
+    EXPECT_EQ(f, feuilles.siChargée<écran_nommé>());
+    EXPECT_FALSE(f->isVisible());
+    EXPECT_EQ(feuilles.parNom(QStringLiteral("écran_nommé")), f);
+    EXPECT_EQ(chargements, 1);
+    f->Unload();
+    processDeletions();
+    feuilles.toutDétruire();
+    ASSERT_TRUE(feuilles.connaît(QStringLiteral("écran_nommé"))) << "what is known outlives the screens";
+    EXPECT_NE(feuilles.parNom(QStringLiteral("écran_nommé")), nullptr);
+    EXPECT_EQ(chargements, 2);
+}
+
+TEST_F(ParNom, TheFocusCannotGoToAHiddenScreenNorToADisabledField) {
+    auto& f = module1().feuilles().get<écran_nommé>();
+    try {
+        SetFocus(*f.devant);
+        ADD_FAILURE() << "no error on a hidden screen";
+    } catch (const VbError& e) {
+        EXPECT_EQ(e.number(), 5);
+    }
+    montrer_active(f);
+    f.devant->setEnabled(false);
+    try {
+        SetFocus(*f.devant);
+        ADD_FAILURE() << "no error on a disabled field";
+    } catch (const VbError& e) {
+        EXPECT_EQ(e.number(), 5);
+    }
+}
+
+TEST_F(ParNom, TheFocusBringsTheFieldsPageForward) {
+    auto& f = module1().feuilles().get<écran_nommé>();
+    montrer_active(f);
+    ASSERT_EQ(f.onglets->currentIndex(), 0);
+    SetFocus(*f.derrière);
+    EXPECT_EQ(f.onglets->currentIndex(), 1);
+    EXPECT_EQ(QApplication::focusWidget(), f.derrière);
+}
+
+} // namespace

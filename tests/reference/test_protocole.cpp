@@ -1,0 +1,385 @@
+// The lookups as the user meets them outside the plain pick: their declarations, the menu commands,
+// an accept by an old origine_appel, a second lookup opened meanwhile, the keys, and genres.
+#include "Consultations.h"
+
+#include "people/feuille_élève.h"
+#include "platform/errors/ErrorBoxes.h"
+#include "platform/forms/DBGrid.h"
+#include "platform/forms/DataControl.h"
+#include "platform/forms/Module1.h"
+#include "reference/feuille_équipe.h"
+#include "support/BaseDirecte.h"
+#include "support/PiloteEcran.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTest>
+
+namespace {
+
+struct Déclaration {
+    const char* menu;
+    const char* écran;
+    const char* titre;
+    const char* table;
+    QStringList entêtes;
+    bool numérotée;
+    const char* rafraîchir;
+};
+
+const char* const rafraîchir =
+    "Cliquez pour rafraîchir les données, dans le cas d'une utilisation multi-utilisateurs";
+const char* const rafraichir =
+    "Cliquez pour rafraichir les données, dans le cas d'une utilisation multi-utilisateurs";
+
+const std::vector<Déclaration>& déclarations() {
+    static const std::vector<Déclaration> d = {
+        {"menuparamètresindex6",
+         "feuille_adresses",
+         "Tables des adresses (Rues avoisinantes)",
+         "adresses",
+         {u("détails")},
+         false,
+         rafraichir},
+        {"menuparamètresindex23",
+         "feuille_assertions",
+         "Table des assertions",
+         "assertions",
+         {u("détails")},
+         false,
+         rafraîchir},
+        {"menuparamètresindex7",
+         "feuille_assurances",
+         "Tables des assurances",
+         "assurances",
+         {u("détails")},
+         false,
+         rafraichir},
+        {"menuparamètresindex8",
+         "feuille_csp",
+         "Table des CSP (Catégories Socio-Professionnelles)",
+         "csp",
+         {u("code"), u("détails")},
+         false,
+         rafraichir},
+        {"menuparamètresindex19",
+         "feuille_genres",
+         "Table des genres",
+         "genres",
+         {u("détails")},
+         false,
+         rafraîchir},
+        {"menuparamètresindex9",
+         "feuille_hôpitaux",
+         "Table des hôpitaux",
+         "hôpitaux",
+         {u("nom"), u("téléphone"), u("adresse"), u("ville")},
+         true,
+         rafraîchir},
+        {"menuparamètresindex13",
+         "feuille_langues_vivantes",
+         "Table des langues vivantes",
+         "langues_vivantes",
+         {u("détails")},
+         true,
+         rafraîchir},
+        {"menuparamètresindex12",
+         "feuille_médecins",
+         "Table des médecins",
+         "médecins",
+         {u("nom"), u("téléphone"), u("adresse"), u("ville")},
+         true,
+         rafraîchir},
+        {"menuparamètresindex15",
+         "feuille_nationalités",
+         "Table des nationalités",
+         "nationalités",
+         {u("détails"), u("code")},
+         true,
+         rafraîchir},
+        {"menuparamètresindex18",
+         "feuille_niveaux",
+         "Table des niveaux et des cycles",
+         "niveaux",
+         {u("code"), u("détails"), u("cycle")},
+         true,
+         rafraîchir},
+        {"menuparamètresindex14",
+         "feuille_sexe",
+         "Table des sexes",
+         "sexe",
+         {u("détails")},
+         true,
+         rafraîchir},
+        {"menuparamètresindex17",
+         "feuille_situations_familiales",
+         "Table des situations familiales",
+         "situations_familiales",
+         {u("détails")},
+         true,
+         rafraîchir},
+        {"menuparamètresindex16",
+         "feuille_villes",
+         "Table des villes",
+         "villes",
+         {u("codes postaux"), u("détails")},
+         true,
+         rafraîchir},
+    };
+    return d;
+}
+
+class Consultations : public ConsultationsTest {
+protected:
+    FeuilleFiche& ouvrir_par_le_menu(const char* menu_, const char* écran) {
+        menu(menu_);
+        FeuilleFiche* f = chargée(u(écran));
+        if (!f)
+            throw std::runtime_error(écran);
+        return *f;
+    }
+    // A pupil's lookup button, pressed on the page that shows it.
+    void presser(feuille_élève& élève, const char* bouton) {
+        auto* b = élève.findChild<QPushButton*>(u(bouton));
+        for (int page = 0; page < élève.SSTab1->count(); ++page)
+            if (élève.SSTab1->widget(page)->isAncestorOf(b))
+                élève.SSTab1->setCurrentIndex(page);
+        QTest::mouseClick(b, Qt::LeftButton);
+    }
+};
+
+TEST_F(Consultations, EachMenuCommandShowsItsLookupInFrontWithItsDeclarationAndTheButtonHidden) {
+    module1().origine_appel = 5;
+    for (const Déclaration& d : déclarations()) {
+        SCOPED_TRACE(d.écran);
+        FeuilleFiche& f = ouvrir_par_le_menu(d.menu, d.écran);
+        EXPECT_TRUE(f.isVisible());
+        EXPECT_EQ(static_cast<QWidget*>(mdi->zone->activeSubWindow()), &f.conteneur());
+        EXPECT_EQ(f.windowTitle(), u(d.titre));
+        EXPECT_EQ(f.datPrimaryRS->RecordSource(), u("SELECT * FROM ") + u(d.table));
+        EXPECT_EQ(f.datPrimaryRS->DatabaseName(), base);
+        EXPECT_EQ(f.configuration().source_de_conception, u(d.table)) << "the bare table name until pointed";
+        QStringList entêtes;
+        for (int c = 0; c < f.grdDataGrid->model()->columnCount(); ++c)
+            entêtes << f.grdDataGrid->model()->headerData(c, Qt::Horizontal).toString();
+        EXPECT_EQ(entêtes, d.entêtes);
+        EXPECT_EQ(f.grdDataGrid->model()->rowCount(), fichier(d.table, "rowid").size() + 1);
+        EXPECT_EQ(f.datPrimaryRS->Caption(), d.numérotée ? u("Fiche: 1") : u(" "));
+        EXPECT_EQ(f.cmdRafraîchir->toolTip(), u(d.rafraîchir));
+        EXPECT_TRUE(f.bouton_accepter->isHidden());
+        EXPECT_TRUE(f.bouton_accepter->isDefault());
+        EXPECT_EQ(f.bouton_accepter->text(), u("Accepter"));
+        EXPECT_EQ(module1().origine_appel, 5);
+    }
+    EXPECT_TRUE(ui().boxes().empty());
+}
+
+TEST_F(Consultations, OnAnEmptyTableTheMenuAddsAFirstRowThatIsNotWritten) {
+    exécuter_par_le_moteur(base, u("DELETE * FROM villes"));
+    FeuilleFiche& villes = ouvrir_par_le_menu("menuparamètresindex16", "feuille_villes");
+    EXPECT_TRUE(villes.datPrimaryRS->isAddingNew());
+    EXPECT_TRUE(villes.bouton_accepter->isHidden());
+    villes.Unload();
+    EXPECT_TRUE(fichier("villes", "détails").isEmpty());
+}
+
+TEST_F(Consultations, FromTheMenuADoubleClickAcceptsWithTheLastValueIntoAClosedCallerLeftHidden) {
+    feuille_élève& élève = ouvrir_élève();
+    presser(élève, "Command7");
+    cliquer(*chargée(u("feuille_sexe")), u("cmdFermer"));
+    cliquer(élève, u("cmdFermer"));
+    processDeletions();
+    ASSERT_EQ(module1().feuilles().siChargée<feuille_élève>(), nullptr);
+    ASSERT_EQ(module1().origine_appel, 1);
+
+    FeuilleFiche& nationalités = ouvrir_par_le_menu("menuparamètresindex15", "feuille_nationalités");
+    EXPECT_TRUE(nationalités.bouton_accepter->isHidden());
+    double_cliquer_cellule(*nationalités.grdDataGrid, 2);
+    processDeletions();
+    EXPECT_EQ(chargée(u("feuille_nationalités")), nullptr);
+    auto* revenu = module1().feuilles().siChargée<feuille_élève>();
+    ASSERT_NE(revenu, nullptr) << "the pupil screen comes back to receive the pick";
+    EXPECT_FALSE(revenu->conteneur().isVisible());
+    EXPECT_EQ(revenu->nationalité->text(), fichier("nationalités", "détails").at(2));
+    EXPECT_EQ(revenu->code_nationalité->text(), fichier("nationalités", "code").at(2));
+    EXPECT_TRUE(ui().boxes().empty());
+
+    revenu->Unload();
+    EXPECT_EQ(fichier("élèves", "nationalité_élève"), QStringList{fichier("nationalités", "détails").at(2)});
+    EXPECT_EQ(fichier("élèves", "code_nationalité_élève"),
+              QStringList{fichier("nationalités", "code").at(2)});
+}
+
+TEST_F(Consultations, AFocusFieldOnAHiddenCallerFailsWithTheStandardBoxAfterTheCopy) {
+    feuille_élève& élève = ouvrir_élève();
+    presser(élève, "Command9");
+    cliquer(*chargée(u("feuille_villes")), u("cmdFermer"));
+    élève.Unload();
+    processDeletions();
+
+    FeuilleFiche& villes = ouvrir_par_le_menu("menuparamètresindex16", "feuille_villes");
+    ui().expectMsgBox();
+    double_cliquer_cellule(*villes.grdDataGrid, 1);
+    ASSERT_EQ(ui().boxes().size(), 1u);
+    EXPECT_EQ(ui().lastBox().text, texte_erreur(ErrorBoxKind::standard, VbError(5)));
+    EXPECT_EQ(ui().lastBox().buttons, vbExclamation + vbOKOnly);
+    processDeletions();
+    EXPECT_EQ(chargée(u("feuille_villes")), nullptr);
+    auto* revenu = module1().feuilles().siChargée<feuille_élève>();
+    ASSERT_NE(revenu, nullptr);
+    EXPECT_FALSE(revenu->conteneur().isVisible());
+    EXPECT_EQ(revenu->code_postal_résidence->text(), u("81100"));
+    EXPECT_EQ(revenu->ville_résidence->text(), u("Castres"));
+    revenu->Unload();
+    EXPECT_EQ(fichier("élèves", "ville_résidence"), QStringList{u("Castres")});
+}
+
+TEST_F(Consultations, FromTheMenuWithAValueNotInTheListNothingIsCopiedAndTheLookupStaysOpen) {
+    for (const int16_t valeur : {int16_t(0), int16_t(7)}) {
+        module1().origine_appel = valeur;
+        FeuilleFiche& villes = ouvrir_par_le_menu("menuparamètresindex16", "feuille_villes");
+        double_cliquer_cellule(*villes.grdDataGrid, 1);
+        processDeletions();
+        EXPECT_EQ(chargée(u("feuille_villes")), &villes);
+        EXPECT_TRUE(villes.isVisible());
+        EXPECT_TRUE(villes.bouton_accepter->isHidden());
+        EXPECT_EQ(module1().feuilles().siChargée<feuille_élève>(), nullptr);
+        EXPECT_EQ(module1().origine_appel, valeur);
+    }
+    EXPECT_TRUE(ui().boxes().empty());
+}
+
+TEST_F(Consultations, ALookupLeftOpenAcceptsByTheValueOfTheLastButtonUsed) {
+    feuille_équipe& équipe = ouvrir_équipe();
+    cliquer(équipe, u("Command7"));
+    FeuilleFiche* villes = chargée(u("feuille_villes"));
+    ASSERT_NE(villes, nullptr);
+    ASSERT_EQ(module1().origine_appel, 6);
+    cliquer_cellule(*villes->grdDataGrid, 1);
+
+    feuille_élève& élève = ouvrir_élève();
+    presser(élève, "Command8");
+    ASSERT_EQ(module1().origine_appel, 1);
+    cliquer(*villes, u("bouton_accepter"));
+    processDeletions();
+    EXPECT_EQ(chargée(u("feuille_villes")), nullptr);
+    EXPECT_EQ(élève.code_postal_résidence->text(), u("81100"));
+    EXPECT_EQ(élève.ville_résidence->text(), u("Castres"));
+    EXPECT_EQ(équipe.code_postal_enseignant->text(), u(""));
+    EXPECT_EQ(équipe.ville_enseignant->text(), u(""));
+    EXPECT_NE(chargée(u("feuille_adresses")), nullptr) << "the lookup of the second button stays open";
+}
+
+TEST_F(Consultations, ALookupOpenedAgainFromAnotherFieldReturnsToItsFirstRow) {
+    feuille_équipe& équipe = ouvrir_équipe();
+    cliquer(équipe, u("Command9"));
+    FeuilleFiche* villes = chargée(u("feuille_villes"));
+    cliquer_cellule(*villes->grdDataGrid, 1);
+    ASSERT_EQ(villes->datPrimaryRS->Recordset().AbsolutePosition(), 1);
+    feuille_élève& élève = ouvrir_élève();
+    presser(élève, "Command10");
+    EXPECT_EQ(chargée(u("feuille_villes")), villes);
+    EXPECT_EQ(villes->datPrimaryRS->Recordset().AbsolutePosition(), 0);
+    EXPECT_EQ(villes->grdDataGrid->currentIndex().row(), 0);
+    EXPECT_EQ(module1().origine_appel, 1);
+}
+
+TEST_F(Consultations, SexeAcceptingByTheLanguagesValueOnlyHidesItsButton) {
+    feuille_élève& élève = ouvrir_élève();
+    presser(élève, "Command7");
+    FeuilleFiche* sexe = chargée(u("feuille_sexe"));
+    presser(élève, "Command11");
+    ASSERT_EQ(module1().origine_appel, 7);
+    cliquer_cellule(*sexe->grdDataGrid, 1);
+    cliquer(*sexe, u("bouton_accepter"));
+    processDeletions();
+    EXPECT_EQ(chargée(u("feuille_sexe")), sexe);
+    EXPECT_TRUE(sexe->isVisible());
+    EXPECT_TRUE(sexe->bouton_accepter->isHidden());
+    EXPECT_EQ(élève.sexe->text(), u(""));
+    EXPECT_EQ(élève.langue_vivante_élève->text(), u(""));
+    EXPECT_TRUE(ui().boxes().empty());
+}
+
+TEST_F(Consultations, GenresHasNoDoubleClickAndFromTheMenuNoWayToAccept) {
+    feuille_équipe& équipe = ouvrir_équipe();
+    cliquer(équipe, u("Command5"));
+    FeuilleFiche* genres = chargée(u("feuille_genres"));
+    ASSERT_NE(genres, nullptr);
+    ASSERT_TRUE(genres->bouton_accepter->isVisible());
+    double_cliquer_cellule(*genres->grdDataGrid, 1);
+    EXPECT_EQ(chargée(u("feuille_genres")), genres) << "no double click, even with the button in view";
+    EXPECT_EQ(équipe.genre_enseignant->text(), u(""));
+    cliquer(*genres, u("cmdFermer"));
+    processDeletions();
+
+    FeuilleFiche& depuis_le_menu = ouvrir_par_le_menu("menuparamètresindex19", "feuille_genres");
+    ASSERT_EQ(module1().origine_appel, 6);
+    double_cliquer_cellule(*depuis_le_menu.grdDataGrid, 1);
+    depuis_le_menu.grdDataGrid->setFocus();
+    QTest::keyClick(depuis_le_menu.grdDataGrid, Qt::Key_Return);
+    processDeletions();
+    EXPECT_EQ(chargée(u("feuille_genres")), &depuis_le_menu);
+    EXPECT_EQ(équipe.genre_enseignant->text(), u(""));
+    EXPECT_TRUE(ui().boxes().empty());
+}
+
+TEST_F(Consultations, AfterTheSexTheBirthDateTakesTheFocusAndTheIdentityTabComesForward) {
+    feuille_élève& élève = ouvrir_élève();
+    presser(élève, "Command7");
+    FeuilleFiche* sexe = chargée(u("feuille_sexe"));
+    élève.SSTab1->setCurrentIndex(5);
+    cliquer_cellule(*sexe->grdDataGrid, 1);
+    cliquer(*sexe, u("bouton_accepter"));
+    EXPECT_EQ(élève.sexe->text(), u("Féminin"));
+    EXPECT_EQ(QApplication::focusWidget(), élève.date_naissance);
+    EXPECT_EQ(élève.SSTab1->currentIndex(), 0);
+}
+
+TEST_F(Consultations, EnterPressesTheShownAcceptAndEscapeCloses) {
+    feuille_élève& élève = ouvrir_élève();
+    presser(élève, "Command7");
+    FeuilleFiche* sexe = chargée(u("feuille_sexe"));
+    QTest::keyClick(sexe->grdDataGrid, Qt::Key_Escape);
+    processDeletions();
+    EXPECT_EQ(chargée(u("feuille_sexe")), nullptr);
+    EXPECT_EQ(élève.sexe->text(), u(""));
+
+    presser(élève, "Command7");
+    sexe = chargée(u("feuille_sexe"));
+    cliquer_cellule(*sexe->grdDataGrid, 1);
+    QTest::keyClick(sexe->grdDataGrid, Qt::Key_Return);
+    processDeletions();
+    EXPECT_EQ(chargée(u("feuille_sexe")), nullptr);
+    EXPECT_EQ(élève.sexe->text(), fichier("sexe", "détails").at(1));
+}
+
+TEST_F(Consultations, ClosingTheLookupHidesItsButtonAgainAndLeavesTheFieldsAndTheValue) {
+    feuille_élève& élève = ouvrir_élève();
+    presser(élève, "Command8");
+    FeuilleFiche* adresses = chargée(u("feuille_adresses"));
+    ASSERT_FALSE(adresses->bouton_accepter->isHidden());
+    cliquer(*adresses, u("cmdFermer"));
+    EXPECT_TRUE(adresses->bouton_accepter->isHidden());
+    EXPECT_EQ(module1().origine_appel, 1);
+    EXPECT_EQ(élève.adresse_résidence->text(), u(""));
+    EXPECT_EQ(ui().mousePointer(), vbDefault);
+}
+
+TEST_F(Consultations, ARowJustTypedInTheGridIsWhatTheAcceptCopies) {
+    feuille_élève& élève = ouvrir_élève();
+    presser(élève, "Command8");
+    FeuilleFiche* adresses = chargée(u("feuille_adresses"));
+    cliquer(*adresses, u("cmdAjouter"));
+    taper_au_focus(u("chemin du Moulin"));
+    cliquer(*adresses, u("bouton_accepter"));
+    EXPECT_EQ(élève.adresse_résidence->text(), u("chemin du Moulin"));
+    EXPECT_EQ(fichier("adresses", "détails").last(), u("chemin du Moulin"))
+        << "written as the lookup unloads";
+}
+
+} // namespace
