@@ -316,3 +316,12 @@ void MDIForm1::menufichierindex3_Click() {
 void MDIForm1::menufichierindex2_Click() {
     avec_piège(ErrorBoxKind::standard, [this] { Unload(); });
 }
+
+void MDIForm1::menuoptionsindex1_Click() {
+    avec_piège(ErrorBoxKind::standard, [] {
+        feuille_options& options = module1().feuilles().get<feuille_options>();
+        options.Show();
+        options.setFocus();
+        options.ZOrder();
+    });
+}

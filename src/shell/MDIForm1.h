@@ -43,6 +43,7 @@ public:
     void menufichierindex1_Click();
     void menufichierindex3_Click();
     void menufichierindex2_Click();
+    void menuoptionsindex1_Click();
 
     // Runs the command of a menu entry, as a click on it does.
     void cliquer(const QString& nom);

@@ -1,13 +1,21 @@
 #include "shell/feuille_options.h"
 
+#include "platform/forms/Module1.h"
+#include "platform/forms/Placement.h"
+#include "shell/options.h"
+
 #include <QCheckBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace {
 
-QCheckBox* case_à_cocher(QWidget* parent, const char* nom, const char* légende) {
+QCheckBox* case_à_cocher(QWidget* parent, const char* nom, const char* légende, const char* infobulle) {
     auto* c = new QCheckBox(QString::fromUtf8(légende), parent);
     c->setObjectName(QString::fromUtf8(nom));
+    c->setToolTip(QString::fromUtf8(infobulle));
     parent->layout()->addWidget(c);
     return c;
 }
@@ -16,9 +24,44 @@ QCheckBox* case_à_cocher(QWidget* parent, const char* nom, const char* légende
 
 feuille_options::feuille_options() : Feuille(QStringLiteral("feuille_options")) {
     setWindowTitle(QStringLiteral("Options de démarrage"));
-    new QVBoxLayout(this);
-    Check1 = case_à_cocher(this, "Check1", "afficher la fenêtre de gestion des familles");
-    Check2 = case_à_cocher(this, "Check2", "afficher la fenêtre de gestion des élèves");
-    Check3 = case_à_cocher(this, "Check3", "ouvrir le dernier fichier utilisé");
-    Check4 = case_à_cocher(this, "Check4", "afficher la fenêtre d'exploitation des données");
+    auto* disposition = new QVBoxLayout(this);
+    disposition->setContentsMargins(18, 14, 18, 14);
+    disposition->setSpacing(8);
+    Label1 = new QLabel(QStringLiteral("Au démarrage du logiciel,"), this);
+    Label1->setObjectName(QStringLiteral("Label1"));
+    disposition->addWidget(Label1);
+    Check1 = case_à_cocher(this, "Check1", "afficher la fenêtre de gestion des familles",
+                           "Cochez pour afficher automatiquement la fenêtre de gestion des familles au "
+                           "démarrage du logiciel");
+    Check2 = case_à_cocher(this, "Check2", "afficher la fenêtre de gestion des élèves",
+                           "Cochez pour afficher automatiquement la fenêtre de gestion des élèves au "
+                           "démarrage du logiciel");
+    Check3 = case_à_cocher(this, "Check3", "ouvrir le dernier fichier utilisé",
+                           "Cochez pour ouvrir automatiquement le dernier fichier utilisé au démarrage du "
+                           "logiciel");
+    // The same tooltip as Check2's, word for word.
+    Check4 = case_à_cocher(this, "Check4", "afficher la fenêtre d'exploitation des données",
+                           "Cochez pour afficher automatiquement la fenêtre de gestion des élèves au "
+                           "démarrage du logiciel");
+    auto* rangée = new QHBoxLayout;
+    rangée->addStretch(1);
+    cmdFermer = new QPushButton(QStringLiteral("Accepter && &Fermer"), this);
+    cmdFermer->setObjectName(QStringLiteral("cmdFermer"));
+    cmdFermer->setToolTip(QStringLiteral("Cliquez pour fermer cette fenêtre"));
+    rangée->addWidget(cmdFermer);
+    disposition->addSpacing(6);
+    disposition->addLayout(rangée);
+    connect(cmdFermer, &QPushButton::clicked, this, &feuille_options::cmdFermer_Click);
+}
+
+void feuille_options::Form_Load() {
+    adjustSize();
+    conteneur().adjustSize();
+    centrer_feuille(*this);
+}
+
+void feuille_options::cmdFermer_Click() {
+    module1().interaction().setMousePointer(vbDefault);
+    Hide();
+    écrire_options();
 }

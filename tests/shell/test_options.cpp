@@ -9,6 +9,9 @@
 #include <QCheckBox>
 #include <QFile>
 #include <QLabel>
+#include <QPushButton>
+#include <QTest>
+#include <tuple>
 
 namespace {
 
@@ -102,6 +105,58 @@ TEST_F(FichierOptions, UnIndicateurQuiNEstPasUnNombreArrêteLaLecture) {
     EXPECT_TRUE(une_boîte(ui(), "Le gestionnaire d'erreurs des données a rencontré l'erreur : 13\n\n"));
     EXPECT_EQ(cases(), (std::vector<int>{1, 0, 0, 0}));
     EXPECT_EQ(module1().base_en_cours, "");
+}
+
+TEST_F(FichierOptions, LÉcranDesOptionsPorteSesTextesÀLaLettre) {
+    programme_chargé();
+    feuille_options& o = options();
+    EXPECT_EQ(o.windowTitle(), "Options de démarrage");
+    EXPECT_EQ(o.Label1->text(), "Au démarrage du logiciel,");
+    const QString pour_les_élèves = QStringLiteral(
+        "Cochez pour afficher automatiquement la fenêtre de gestion des élèves au démarrage du logiciel");
+    const std::vector<std::tuple<QCheckBox*, QString, QString>> cases_attendues = {
+        {o.Check1, "afficher la fenêtre de gestion des familles",
+         "Cochez pour afficher automatiquement la fenêtre de gestion des familles au démarrage du logiciel"},
+        {o.Check2, "afficher la fenêtre de gestion des élèves", pour_les_élèves},
+        {o.Check3, "ouvrir le dernier fichier utilisé",
+         "Cochez pour ouvrir automatiquement le dernier fichier utilisé au démarrage du logiciel"},
+        {o.Check4, "afficher la fenêtre d'exploitation des données", pour_les_élèves},
+    };
+    for (const auto& [c, légende, infobulle] : cases_attendues) {
+        EXPECT_EQ(c->text(), légende);
+        EXPECT_EQ(c->toolTip(), infobulle);
+    }
+    EXPECT_EQ(o.cmdFermer->text(), "Accepter && &Fermer");
+    EXPECT_EQ(o.cmdFermer->toolTip(), "Cliquez pour fermer cette fenêtre");
+}
+
+TEST_F(FichierOptions, LaCommandeDuMenuMontreLesOptionsEtAccepterLesÉcritSansDécharger) {
+    programme_chargé();
+    MDIForm1& mdi = module1().feuilles().get<MDIForm1>();
+    mdi.Show();
+    mdi.menuoptionsindex1_Click();
+    feuille_options& o = options();
+    ASSERT_TRUE(o.conteneur().isVisible());
+    o.Check3->click();
+    QTest::mouseClick(o.cmdFermer, Qt::LeftButton);
+    EXPECT_FALSE(o.conteneur().isVisible());
+    ASSERT_EQ(feuilles().siChargée<feuille_options>(), &o);
+    EXPECT_EQ(valeur_case(o.Check3), 1);
+    // No base open: the remembered path is lost.
+    EXPECT_EQ(contenu(), QByteArray("0\r\n0\r\n1\r\n0\r\n\"\"\r\n"));
+    EXPECT_TRUE(ui().boxes().empty());
+}
+
+TEST_F(FichierOptions, FermerLesOptionsParLaFenêtreNÉcritRienEtLesCasesRepartentDécochées) {
+    programme_chargé();
+    const QByteArray avant = contenu();
+    module1().feuilles().get<MDIForm1>().menuoptionsindex1_Click();
+    options().Check1->click();
+    options().conteneur().close();
+    processDeletions();
+    EXPECT_EQ(feuilles().siChargée<feuille_options>(), nullptr);
+    EXPECT_EQ(contenu(), avant);
+    EXPECT_EQ(cases(), (std::vector<int>{0, 0, 0, 0}));
 }
 
 TEST(TexteOptions, LectureDesChampsDélimités) {
