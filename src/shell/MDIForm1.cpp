@@ -1,6 +1,7 @@
 #include "shell/MDIForm1.h"
 
 #include "platform/errors/ErrorBoxes.h"
+#include "platform/forms/EtiquetteElidee.h"
 #include "platform/forms/Module1.h"
 #include "shell/commandes.h"
 #include "shell/ecrans_connus.h"
@@ -192,7 +193,8 @@ void MDIForm1::construire_barre_d_état() {
     StatusBar1->setSizeGripEnabled(true);
     const int largeurs[] = {0, 90, 70, 50, 50, 55};
     for (int i = 1; i <= 6; ++i) {
-        auto* panneau = new QLabel(StatusBar1);
+        // The first panel names the open base: a long path is shortened in the middle, never clipped.
+        QLabel* panneau = i == 1 ? new ÉtiquetteÉlidée(StatusBar1) : new QLabel(StatusBar1);
         panneau->setObjectName(QStringLiteral("Panel%1").arg(i));
         panneau->setFrameStyle(QFrame::Panel | QFrame::Sunken);
         panneau->setContentsMargins(4, 0, 4, 0);

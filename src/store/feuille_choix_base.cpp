@@ -2,6 +2,7 @@
 
 #include "platform/errors/ErrorBoxes.h"
 #include "platform/forms/DataControl.h"
+#include "platform/forms/EtiquetteElidee.h"
 #include "platform/forms/ListesFichiers.h"
 #include "platform/forms/Module1.h"
 #include "platform/forms/Placement.h"
@@ -65,11 +66,11 @@ feuille_choix_base::feuille_choix_base() : Feuille(QStringLiteral("feuille_choix
     grille->addWidget(File1, 1, 1, 3, 1);
 
     grille->addWidget(titre("Base de données sélectionnée", this), 4, 0, 1, 2);
-    Label4 = new QLabel(this);
+    Label4 = new ÉtiquetteÉlidée(this);
     Label4->setObjectName(QStringLiteral("Label4"));
     Label4->setFrameStyle(QFrame::Panel | QFrame::Sunken);
     Label4->setMinimumHeight(24);
-    Label4->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    Label4->setMargin(2);
     grille->addWidget(Label4, 5, 0, 1, 2);
 
     auto* boutons = new QVBoxLayout;

@@ -2,6 +2,7 @@
 
 #include "people/feuille_élève.h"
 #include "platform/forms/DataControl.h"
+#include "platform/forms/EtiquetteElidee.h"
 #include "platform/forms/ListesFichiers.h"
 #include "shell/feuille_options.h"
 #include "shell/feuille_patientez.h"
@@ -118,6 +119,30 @@ TEST_F(ChoixDeLaBase, ReprendreLeMêmeLecteurGardeLeDossierEtLaSélection) {
     emit écran.Drive1->activated(écran.Drive1->currentIndex());
     EXPECT_EQ(écran.Label4->text(), QDir::toNativeSeparators(base));
     EXPECT_EQ(écran.Dir1->Path(), QDir::toNativeSeparators(folder.path()));
+}
+
+// The selected path and the status bar are where the user reads which base is chosen and which is
+// open: a long path keeps its file name in sight, and the whole path stays in the label.
+TEST_F(ChoixDeLaBase, UnLongCheminGardeLeNomDuFichierEnVueSansÉlargirLÉcran) {
+    const QString dossier = folder.file(QString(120, QChar(u'é')));
+    ASSERT_TRUE(QDir().mkpath(dossier));
+    DossierCourant ici(dossier);
+    const QString base = créer_base_de_test(dossier + "/ecole.mdb");
+    feuille_choix_base& écran = démarrer_sur_le_choix();
+    const int largeur = écran.conteneur().width();
+    ASSERT_TRUE(écran.File1->cliquer("ecole.mdb"));
+    EXPECT_EQ(écran.Label4->text(), QDir::toNativeSeparators(base));
+    auto* label4 = dynamic_cast<ÉtiquetteÉlidée*>(écran.Label4);
+    ASSERT_NE(label4, nullptr);
+    EXPECT_TRUE(label4->texteAffiché().endsWith("ecole.mdb"));
+    EXPECT_LT(label4->texteAffiché().size(), label4->text().size());
+    EXPECT_LE(écran.minimumSizeHint().width(), largeur);
+    ouvrir(écran);
+    auto* panneau = dynamic_cast<ÉtiquetteÉlidée*>(mdi()->panneau(1));
+    ASSERT_NE(panneau, nullptr);
+    EXPECT_EQ(panneau->text(), barre_pour(base));
+    EXPECT_TRUE(panneau->texteAffiché().endsWith("ecole.mdb"));
+    EXPECT_LE(mdi()->minimumSizeHint().width(), mdi()->width());
 }
 
 TEST_F(ChoixDeLaBase, UnClicSurUnFichierEnFaitDéjàLaBaseEnCours) {
