@@ -94,7 +94,9 @@ const std::vector<EntréeMenu>& arbre_des_menus() {
 const char* const menus_de_données[] = {"menuenfantsindex0", "menuparamètresindex0", "menuutilitairesindex0",
                                         "menuexploitationindex0"};
 
-// Panels 4 to 6 follow the keyboard's lock keys as the user presses them.
+// Panels 4 to 6 follow the keyboard's lock keys as the user presses them. A key reaches the system
+// window once, then goes from the focused control up through its parents, each seen by an
+// application filter: only the window's delivery counts, or a press would turn a panel several times.
 class SuiviDesTouches : public QObject {
 public:
     SuiviDesTouches(QLabel* maj, QLabel* num, QLabel* inser, QObject* parent)
@@ -105,7 +107,8 @@ public:
 
 protected:
     bool eventFilter(QObject* objet, QEvent* event) override {
-        if (event->type() == QEvent::KeyPress && !static_cast<QKeyEvent*>(event)->isAutoRepeat()) {
+        if (event->type() == QEvent::KeyPress && objet->isWindowType() &&
+            !static_cast<QKeyEvent*>(event)->isAutoRepeat()) {
             switch (static_cast<QKeyEvent*>(event)->key()) {
             case Qt::Key_CapsLock:
                 basculer(maj_);

@@ -7,6 +7,8 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
+#include <QTest>
+#include <QWindow>
 
 namespace {
 
@@ -118,6 +120,25 @@ TEST_F(FenêtrePrincipale, SixPanneauxDontSeulLePremierEstÉcritParLeProgramme) 
     EXPECT_EQ(fenêtre.panneau(5)->text(), "NUM");
     EXPECT_EQ(fenêtre.panneau(6)->text(), "INSER");
     EXPECT_EQ(fenêtre.StatusBar1->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly).size(), 6);
+}
+
+// A lock key pressed while the focus is deep inside a screen is one press: its panel turns once.
+TEST_F(FenêtrePrincipale, UneToucheDeVerrouillageBasculeSonPanneauUneFoisQuelQueSoitLeFocus) {
+    MDIForm1& fenêtre = démarrer();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&fenêtre));
+    choix()->accès_tentavive->show(); // a text box deep in a child screen, which ignores the lock keys
+    choix()->accès_tentavive->setFocus();
+    QWindow* fenêtre_système = fenêtre.windowHandle();
+    ASSERT_NE(fenêtre_système, nullptr);
+    const std::pair<Qt::Key, int> touches[] = {
+        {Qt::Key_CapsLock, 4}, {Qt::Key_NumLock, 5}, {Qt::Key_Insert, 6}};
+    for (const auto& [touche, numéro] : touches) {
+        const bool avant = fenêtre.panneau(numéro)->isEnabled();
+        QTest::keyClick(fenêtre_système, touche);
+        EXPECT_NE(fenêtre.panneau(numéro)->isEnabled(), avant) << numéro;
+        QTest::keyClick(fenêtre_système, touche);
+        EXPECT_EQ(fenêtre.panneau(numéro)->isEnabled(), avant) << numéro;
+    }
 }
 
 TEST_F(FenêtrePrincipale, LesQuatreMenusDeDonnéesSeulsBasculent) {
