@@ -145,6 +145,15 @@ TEST_F(ChoixDeLaBase, UnLongCheminGardeLeNomDuFichierEnVueSansÉlargirLÉcran) {
     EXPECT_LE(mdi()->minimumSizeHint().width(), mdi()->width());
 }
 
+TEST_F(ChoixDeLaBase, ChoisirLeFichierAuClavierLeSélectionneCommeUnClic) {
+    const QString base = créer_base_de_test(folder.file("ecole.mdb"));
+    feuille_choix_base& écran = démarrer_sur_le_choix();
+    écran.File1->setFocus();
+    QTest::keyClick(écran.File1, Qt::Key_Down);
+    EXPECT_EQ(écran.Label4->text(), QDir::toNativeSeparators(base));
+    EXPECT_EQ(module1().base_en_cours, QDir::toNativeSeparators(base));
+}
+
 TEST_F(ChoixDeLaBase, UnClicSurUnFichierEnFaitDéjàLaBaseEnCours) {
     const QString base = créer_base_de_test(folder.file("ecole.mdb"), QStringLiteral("secret"));
     feuille_choix_base& écran = démarrer_sur_le_choix();

@@ -147,6 +147,15 @@ void FileListBox::Refresh() {
         new QListWidgetItem(icône(QStyle::SP_FileIcon), fichier.fileName(), this);
 }
 
+void FileListBox::keyPressEvent(QKeyEvent* event) {
+    const QListWidgetItem* avant = currentItem();
+    const bool choisi_avant = avant != nullptr && avant->isSelected();
+    QListWidget::keyPressEvent(event);
+    const QListWidgetItem* après = currentItem();
+    if (après != nullptr && après->isSelected() && (après != avant || !choisi_avant))
+        emit Click();
+}
+
 bool FileListBox::cliquer(const QString& nom) {
     const QList<QListWidgetItem*> trouvées = findItems(nom, Qt::MatchExactly);
     if (trouvées.isEmpty())

@@ -47,8 +47,9 @@ private:
     QString chemin_;
 };
 
-// File list: the plain files of Path that match Pattern, in name order. Click and DblClick come
-// from the user; FileName is the selected file's name, or empty.
+// File list: the plain files of Path that match Pattern, in name order. Click (a click, or the
+// selection moved by the keyboard) and DblClick come from the user; FileName is the selected file's
+// name, or empty.
 class FileListBox : public QListWidget {
     Q_OBJECT
 public:
@@ -67,6 +68,10 @@ public:
 signals:
     void Click();
     void DblClick();
+
+protected:
+    // Moving the selection with the keyboard is a click as well, as in the classic list.
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     QString chemin_;

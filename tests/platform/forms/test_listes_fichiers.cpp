@@ -63,6 +63,25 @@ TEST(ListesFichiers, LaListeDesFichiersSuitSonMotifSansDistinguerLaCasseNiMontre
     EXPECT_EQ(textes(fichiers), (QStringList{"a.mdb", "b.MDB", "c.mdb"}));
 }
 
+TEST(ListesFichiers, DéplacerLaSélectionAuClavierEstUnClic) {
+    WorkFolder dossier;
+    dossier.write("a.mdb", "x");
+    dossier.write("b.mdb", "x");
+    FileListBox fichiers;
+    fichiers.setPattern("*.mdb");
+    fichiers.setPath(dossier.path());
+    fichiers.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&fichiers));
+    ASSERT_TRUE(fichiers.cliquer("a.mdb"));
+    QSignalSpy clics(&fichiers, &FileListBox::Click);
+    QTest::keyClick(&fichiers, Qt::Key_Down);
+    EXPECT_EQ(fichiers.FileName(), "b.mdb");
+    EXPECT_EQ(clics.count(), 1);
+    QTest::keyClick(&fichiers, Qt::Key_Down); // already the last: nothing moves
+    QTest::keyClick(&fichiers, Qt::Key_Shift);
+    EXPECT_EQ(clics.count(), 1);
+}
+
 TEST(ListesFichiers, LaListeDesDossiersMontreLaBrancheEtLesSousDossiersEtSeDéplaceAuDoubleClic) {
     WorkFolder dossier;
     QDir(dossier.path()).mkdir("Écoles");
