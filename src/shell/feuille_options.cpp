@@ -16,6 +16,7 @@ QCheckBox* case_à_cocher(QWidget* parent, const char* nom, const char* légende
     auto* c = new QCheckBox(QString::fromUtf8(légende), parent);
     c->setObjectName(QString::fromUtf8(nom));
     c->setToolTip(QString::fromUtf8(infobulle));
+    c->setContentsMargins(16, 0, 0, 0); // under "Au démarrage du logiciel,", which they complete
     parent->layout()->addWidget(c);
     return c;
 }
