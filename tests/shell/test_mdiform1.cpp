@@ -4,6 +4,7 @@
 
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
@@ -139,6 +140,20 @@ TEST_F(FenêtrePrincipale, UneToucheDeVerrouillageBasculeSonPanneauUneFoisQuelQu
         QTest::keyClick(fenêtre_système, touche);
         EXPECT_EQ(fenêtre.panneau(numéro)->isEnabled(), avant) << numéro;
     }
+}
+
+// Qt's own words speak French too: the menu of a screen's window, the context menu of a text box.
+TEST_F(FenêtrePrincipale, LeMenuDeLaFenêtreDUnÉcranEstEnFrançais) {
+    démarrer();
+    auto* sous_fenêtre = qobject_cast<QMdiSubWindow*>(&choix()->conteneur());
+    ASSERT_NE(sous_fenêtre, nullptr);
+    QStringList textes;
+    for (const QAction* a : sous_fenêtre->systemMenu()->actions())
+        if (!a->isSeparator())
+            textes << a->text();
+    EXPECT_TRUE(textes.contains("&Fermer")) << textes.join(' ').toStdString();
+    EXPECT_TRUE(textes.contains("&Déplacer")) << textes.join(' ').toStdString();
+    EXPECT_FALSE(textes.contains("&Close"));
 }
 
 TEST_F(FenêtrePrincipale, LesQuatreMenusDeDonnéesSeulsBasculent) {

@@ -12,4 +12,7 @@ public:
     ~Application() override;
 
     bool notify(QObject* receiver, QEvent* event) override;
+
+    // Puts Qt's own French translations in place; false when they cannot be found.
+    bool traduire_qt_en_français();
 };
