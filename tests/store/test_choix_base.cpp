@@ -1,9 +1,11 @@
 #include "../shell/EtatDemarrage.h"
 
 #include "people/feuille_élève.h"
+#include "platform/dao/Recordset.h"
 #include "platform/forms/DataControl.h"
 #include "platform/forms/EtiquetteElidee.h"
 #include "platform/forms/ListesFichiers.h"
+#include "reference/feuille_sexe.h"
 #include "shell/feuille_options.h"
 #include "shell/feuille_patientez.h"
 #include "shell/options.h"
@@ -278,6 +280,29 @@ TEST_F(ChoixDeLaBase, UnCodeRefuséQuandUneBaseEstOuverteLaisseLesMenusActifs) {
     EXPECT_TRUE(menus_de_données_actifs());
     EXPECT_EQ(mdi()->Panel1(), barre_pour(première));
     EXPECT_EQ(module1().base_en_cours, QDir::toNativeSeparators(folder.file("b.mdb")));
+}
+
+TEST_F(ChoixDeLaBase, AprèsUnCodeRefuséUneCommandeVaSurLeFichierRefuséSansAutreQuestion) {
+    créer_base_de_test(folder.file("a.mdb"), QString(), "CREATE TABLE sexe (détails VARCHAR(8));");
+    const QString refusée = créer_base_de_test(folder.file("b.mdb"), QStringLiteral("Secret"),
+                                               "CREATE TABLE sexe (détails VARCHAR(8));"
+                                               "INSERT INTO sexe VALUES ('F');");
+    feuille_choix_base& écran = démarrer_sur_le_choix();
+    écran.File1->cliquer("a.mdb");
+    ouvrir(écran);
+    mdi()->cliquer("menufichierindex1");
+    choix()->File1->cliquer("b.mdb");
+    taper_le_code("faux");
+    ui().expectMsgBox(vbOK);
+    ouvrir(*choix());
+    ASSERT_EQ(ui().boxes().back().text, message_code);
+    mdi()->cliquer("menuparamètresindex14");
+    feuille_sexe* sexes = feuilles().siChargée<feuille_sexe>();
+    ASSERT_NE(sexes, nullptr);
+    EXPECT_EQ(sexes->datPrimaryRS->DatabaseName(), QDir::toNativeSeparators(refusée));
+    EXPECT_EQ(sexes->datPrimaryRS->Recordset().raw().field("détails").toString(), "F");
+    EXPECT_EQ(ui().modals().size(), 1u);
+    EXPECT_EQ(ui().boxes().size(), 1u);
 }
 
 TEST_F(ChoixDeLaBase, ÀLOuvertureAuDémarrageLeBonCodeNeTrouvePasDÉcranPourLeFocus) {
