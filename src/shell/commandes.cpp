@@ -64,7 +64,7 @@ const std::vector<LigneDeCommande>& carte_des_commandes() {
         {"menuutilitairesindex2", {}}, // emptying the pupils
         {"menuutilitairesindex3", {}}, // emptying the lookup tables
         {"menuutilitairesindex4", {}}, // gateway export
-        {"menuoptionsindex1", {}},     // feuille_options, on view
+        {"menuoptionsindex1", propre(&MDIForm1::menuoptionsindex1_Click)},
         {"menuaideindex1", {}},        // feuille_copyright
     };
     return carte;

@@ -134,7 +134,7 @@ TEST_F(FichierOptions, LaCommandeDuMenuMontreLesOptionsEtAccepterLesÉcritSansD�
     programme_chargé();
     MDIForm1& mdi = module1().feuilles().get<MDIForm1>();
     mdi.Show();
-    mdi.menuoptionsindex1_Click();
+    mdi.cliquer(QStringLiteral("menuoptionsindex1"));
     feuille_options& o = options();
     ASSERT_TRUE(o.conteneur().isVisible());
     o.Check3->click();

@@ -3,7 +3,10 @@
 #include "platform/errors/ErrorBoxes.h"
 #include "platform/forms/Module1.h"
 
+#include <QAbstractItemView>
+#include <QFocusEvent>
 #include <QLibraryInfo>
+#include <QLineEdit>
 #include <QTranslator>
 #include <memory>
 
@@ -31,9 +34,32 @@ Application::~Application() {
     module1().réinitialiser();
 }
 
+namespace {
+
+// Qt selects the whole text of a box reached with Tab, so the next key typed would wipe the field. A
+// school head moving through a record with Tab expects the text left as it is, the caret at its start.
+// The cells of a grid keep Qt's way: typing over a cell is what a grid is for.
+void laisser_sans_sélection(QObject* receiver, Qt::FocusReason raison) {
+    if (raison != Qt::TabFocusReason && raison != Qt::BacktabFocusReason)
+        return;
+    auto* zone = qobject_cast<QLineEdit*>(receiver);
+    if (!zone || !zone->hasSelectedText())
+        return;
+    for (QObject* p = zone->parent(); p; p = p->parent())
+        if (qobject_cast<QAbstractItemView*>(p))
+            return;
+    zone->deselect();
+    zone->setCursorPosition(0);
+}
+
+} // namespace
+
 bool Application::notify(QObject* receiver, QEvent* event) {
     try {
-        return QApplication::notify(receiver, event);
+        const bool traité = QApplication::notify(receiver, event);
+        if (event->type() == QEvent::FocusIn)
+            laisser_sans_sélection(receiver, static_cast<QFocusEvent*>(event)->reason());
+        return traité;
     } catch (const std::exception& e) {
         message_erreur_standard(e);
     } catch (...) {

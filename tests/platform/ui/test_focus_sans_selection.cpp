@@ -1,0 +1,50 @@
+#include <QLineEdit>
+#include <QTableWidget>
+#include <QTest>
+#include <QVBoxLayout>
+#include <QWidget>
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Fenêtre {
+    QWidget fenêtre;
+    QLineEdit* premier = new QLineEdit(QStringLiteral("DUPONT"), &fenêtre);
+    QLineEdit* second = new QLineEdit(QStringLiteral("Marie"), &fenêtre);
+
+    Fenêtre() {
+        auto* disposition = new QVBoxLayout(&fenêtre);
+        disposition->addWidget(premier);
+        disposition->addWidget(second);
+        fenêtre.show();
+        fenêtre.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&fenêtre));
+        premier->setFocus(Qt::OtherFocusReason);
+    }
+};
+
+} // namespace
+
+TEST(FocusParTabulation, LeTexteDUneZoneAtteinteParTabOuMajTabNestPasSélectionné) {
+    Fenêtre f;
+    QTest::keyClick(f.premier, Qt::Key_Tab);
+    ASSERT_TRUE(f.second->hasFocus());
+    EXPECT_FALSE(f.second->hasSelectedText());
+    EXPECT_EQ(f.second->cursorPosition(), 0);
+
+    QTest::keyClick(f.second, Qt::Key_Backtab, Qt::ShiftModifier);
+    ASSERT_TRUE(f.premier->hasFocus());
+    EXPECT_FALSE(f.premier->hasSelectedText());
+
+    // Typing after Tab adds to the text instead of replacing it.
+    QTest::keyClick(f.premier, Qt::Key_Tab);
+    QTest::keyClicks(f.second, QStringLiteral("-Anne "));
+    EXPECT_EQ(f.second->text(), QStringLiteral("-Anne Marie"));
+}
+
+TEST(FocusParTabulation, UneSélectionFaiteParLeCodeResteQuandLeFocusVientDAilleurs) {
+    Fenêtre f;
+    f.second->selectAll();
+    f.second->setFocus(Qt::MouseFocusReason);
+    EXPECT_TRUE(f.second->hasSelectedText());
+}
