@@ -643,9 +643,11 @@ void feuille_élève::poser_tabulation() {
 }
 
 // Qt's own walk skips the fields of hidden pages; the school's order runs through all eight pages.
+// A focus field that is no longer visible is on a page that a click on a tab is taking away: Qt's own
+// walk then finds it a new place, and the school's order must not turn back to the page being left.
 bool feuille_élève::focusNextPrevChild(bool next) {
     const qsizetype ici = tabulation_.indexOf(focusWidget());
-    if (ici < 0)
+    if (ici < 0 || !focusWidget()->isVisible())
         return Feuille::focusNextPrevChild(next);
     const qsizetype n = tabulation_.size();
     for (qsizetype pas = 1; pas < n; ++pas) {
