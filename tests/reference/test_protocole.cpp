@@ -174,6 +174,13 @@ TEST_F(Consultations, EachMenuCommandShowsItsLookupInFrontWithItsDeclarationAndT
         EXPECT_TRUE(f.bouton_accepter->isDefault());
         EXPECT_EQ(f.bouton_accepter->text(), u("Accepter"));
         EXPECT_EQ(module1().origine_appel, 5);
+        // Each button has room for its whole caption, "Accepter" included once it is shown.
+        f.bouton_accepter->show();
+        QApplication::processEvents();
+        for (QPushButton* b : {f.bouton_accepter, f.cmdAjouter, f.cmdSupprimer, f.cmdRafraîchir,
+                               f.cmdMettreàjour, f.cmdFermer})
+            EXPECT_GE(b->width(), b->sizeHint().width()) << b->text().toStdString();
+        f.bouton_accepter->hide();
     }
     EXPECT_TRUE(ui().boxes().empty());
 }
