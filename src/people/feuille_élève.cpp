@@ -311,9 +311,8 @@ QWidget* feuille_élève::construire_bandeau() {
     for (const char* ordre : ordres)
         Combo1->addItem(texte(ordre));
     Combo1->setToolTip(QStringLiteral("Cliquez pour modifier l'ordre d'apparition des fiches"));
-    // Narrower than its longest entry, so that the screen fits a small display; the list opens wide.
-    Combo1->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    Combo1->setMinimumContentsLength(20);
+    // As wide as its longest order, so that the order in force always reads whole.
+    Combo1->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     bas->addWidget(Combo1, 0, Qt::AlignVCenter);
     bas->addWidget(construire_boutons(), 1);
     lignes->addLayout(bas);
@@ -341,6 +340,9 @@ QWidget* feuille_élève::construire_boutons() {
         retirer_de(layout(), w);
         rangée->addWidget(w);
     }
+    // On a small display the buttons give up their spare width, not the list of orders its text.
+    for (QPushButton* b : {cmdAjouter, cmdSupprimer, cmdRafraîchir, cmdMettreàjour, cmdFermer, Command3})
+        resserrer(b);
     rangée->addStretch(1);
     rangée->addWidget(Command3);
     return Frame11;
