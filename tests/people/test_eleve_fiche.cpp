@@ -294,6 +294,26 @@ TEST_F(FicheEleveSurBase, DeletingTheOnlyPupilShowsTheNoCurrentRecordBoxAndKeeps
     EXPECT_TRUE(module1().feuilles().isLoaded<feuille_élève>());
 }
 
+// With no pupil left, the add has no last matricule to count from: its move to the last row is
+// reported, no record is added, and the matricule order of that step stays.
+TEST_F(FicheEleveSurBase, AddingOnceTheLastPupilIsDeletedReportsTheMissingRowAndAddsNothing) {
+    ajouter_élève(base, u("000001"), u("SEUL"));
+    feuille_élève& f = ouvrir();
+    ui().expectMsgBox(vbOK);
+    cliquer(f, u("cmdSupprimer"));
+    ASSERT_TRUE(matricules().isEmpty());
+    ui().expectMsgBox(vbNo).expectMsgBox(vbOK);
+    cliquer_ajouter(f);
+    ASSERT_EQ(ui().boxes().size(), 3u);
+    EXPECT_TRUE(ui().lastBox().text.startsWith(u("Le logiciel a rencontré l'erreur : 3021\n\n")))
+        << ui().lastBox().text.toStdString();
+    EXPECT_EQ(ui().lastBox().buttons, vbOKOnly + vbExclamation);
+    EXPECT_EQ(ui().mousePointer(), vbDefault);
+    EXPECT_EQ(f.datPrimaryRS->RecordSource(), ordre_des_matricules);
+    EXPECT_FALSE(f.datPrimaryRS->isAddingNew());
+    EXPECT_TRUE(matricules().isEmpty());
+}
+
 TEST_F(FicheEleveSurBase, ADuplicateMatriculeRefusedByTheFileIsSilentOnAMoveAndReportedOnSave) {
     ajouter_élève(base, u("000001"), u("UN"));
     ajouter_élève(base, u("000002"), u("DEUX"));
