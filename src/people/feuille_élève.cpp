@@ -491,6 +491,16 @@ void feuille_élève::construire_documents(QWidget* page) {
     grdDataGrid->setEditTriggers(QAbstractItemView::NoEditTriggers);
     grdDataGrid->horizontalHeader()->setStretchLastSection(true);
     grdDataGrid->installEventFilter(new SansSuppression(grdDataGrid));
+    // Nor does it offer the grid's empty line for a new template below the last one.
+    auto* lignes = grdDataGrid->model();
+    const auto cacher_ligne_nouvelle = [grille = grdDataGrid, lignes] {
+        for (int ligne = 0; ligne < lignes->rowCount(); ++ligne)
+            grille->setRowHidden(ligne, ligne == grille->newRow());
+    };
+    QObject::connect(lignes, &QAbstractItemModel::modelReset, grdDataGrid, cacher_ligne_nouvelle);
+    QObject::connect(lignes, &QAbstractItemModel::rowsInserted, grdDataGrid, cacher_ligne_nouvelle);
+    QObject::connect(lignes, &QAbstractItemModel::rowsRemoved, grdDataGrid, cacher_ligne_nouvelle);
+    cacher_ligne_nouvelle();
     pile->addWidget(grdDataGrid, 1);
 
     Check1 = new QCheckBox(QStringLiteral("Impression directe sans prévisualisation"), Frame1);

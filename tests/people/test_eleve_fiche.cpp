@@ -452,6 +452,19 @@ TEST_F(FicheEleveSurBase, TheTemplateListIsOnlyReadFromThePupilScreen) {
     touche_au_focus(Qt::Key_Return);
     cliquer(*f.datPrimaryRS, u("suivant"));
     EXPECT_EQ(colonne_du_fichier(base, u("documents"), u("intitulé_bouton")), avant);
+
+    // Below the last template there is nothing to type into either.
+    f.grdDataGrid->setFocus();
+    f.grdDataGrid->setCurrentIndex(f.grdDataGrid->model()->index(avant.size() - 1, 0));
+    touche_au_focus(Qt::Key_Down);
+    EXPECT_EQ(f.grdDataGrid->currentIndex().row(), avant.size() - 1);
+    taper_au_focus(u("Nouveau"));
+    cliquer(*f.datPrimaryRS, u("suivant"));
+    EXPECT_EQ(colonne_du_fichier(base, u("documents"), u("intitulé_bouton")), avant);
+    int lignes_vues = 0;
+    for (int ligne = 0; ligne < f.grdDataGrid->model()->rowCount(); ++ligne)
+        lignes_vues += f.grdDataGrid->isRowHidden(ligne) ? 0 : 1;
+    EXPECT_EQ(lignes_vues, avant.size());
 }
 
 TEST_F(FicheEleveSurBase, ButtonsWhoseWorkComesLaterDoNothingYet) {
