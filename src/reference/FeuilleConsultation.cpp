@@ -22,9 +22,11 @@ FeuilleConsultation::FeuilleConsultation(ConfigurationFiche configuration)
     // buttons, "Accepter" shown, keeps every caption whole.
     const int colonnes = static_cast<int>(this->configuration().grille.size());
     bouton_accepter->setVisible(true);
-    const int largeur = std::max(en_pixels(4500 + 2000 * (colonnes - 1)), sizeHint().width());
+    const QSize naturelle = FeuilleFiche::sizeHint();
     bouton_accepter->setVisible(false);
-    resize(largeur, en_pixels(4200));
+    taille_ = QSize(std::max(en_pixels(4500 + 2000 * (colonnes - 1)), naturelle.width()),
+                    std::max(en_pixels(4200), naturelle.height()));
+    resize(taille_);
 }
 
 void FeuilleConsultation::bouton_accepter_Click() {
