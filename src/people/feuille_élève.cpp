@@ -311,9 +311,8 @@ QWidget* feuille_élève::construire_bandeau() {
     for (const char* ordre : ordres)
         Combo1->addItem(texte(ordre));
     Combo1->setToolTip(QStringLiteral("Cliquez pour modifier l'ordre d'apparition des fiches"));
-    // Narrower than its longest entry, so that the screen fits a small display; the list opens wide.
-    Combo1->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    Combo1->setMinimumContentsLength(20);
+    // As wide as its longest order, so that the order in force always reads whole.
+    Combo1->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     bas->addWidget(Combo1, 0, Qt::AlignVCenter);
     bas->addWidget(construire_boutons(), 1);
     lignes->addLayout(bas);
@@ -341,6 +340,9 @@ QWidget* feuille_élève::construire_boutons() {
         retirer_de(layout(), w);
         rangée->addWidget(w);
     }
+    // On a small display the buttons give up their spare width, not the list of orders its text.
+    for (QPushButton* b : {cmdAjouter, cmdSupprimer, cmdRafraîchir, cmdMettreàjour, cmdFermer, Command3})
+        resserrer(b);
     rangée->addStretch(1);
     rangée->addWidget(Command3);
     return Frame11;
@@ -489,6 +491,16 @@ void feuille_élève::construire_documents(QWidget* page) {
     grdDataGrid->setEditTriggers(QAbstractItemView::NoEditTriggers);
     grdDataGrid->horizontalHeader()->setStretchLastSection(true);
     grdDataGrid->installEventFilter(new SansSuppression(grdDataGrid));
+    // Nor does it offer the grid's empty line for a new template below the last one.
+    auto* lignes = grdDataGrid->model();
+    const auto cacher_ligne_nouvelle = [grille = grdDataGrid, lignes] {
+        for (int ligne = 0; ligne < lignes->rowCount(); ++ligne)
+            grille->setRowHidden(ligne, ligne == grille->newRow());
+    };
+    QObject::connect(lignes, &QAbstractItemModel::modelReset, grdDataGrid, cacher_ligne_nouvelle);
+    QObject::connect(lignes, &QAbstractItemModel::rowsInserted, grdDataGrid, cacher_ligne_nouvelle);
+    QObject::connect(lignes, &QAbstractItemModel::rowsRemoved, grdDataGrid, cacher_ligne_nouvelle);
+    cacher_ligne_nouvelle();
     pile->addWidget(grdDataGrid, 1);
 
     Check1 = new QCheckBox(QStringLiteral("Impression directe sans prévisualisation"), Frame1);
@@ -643,9 +655,11 @@ void feuille_élève::poser_tabulation() {
 }
 
 // Qt's own walk skips the fields of hidden pages; the school's order runs through all eight pages.
+// A focus field that is no longer visible is on a page that a click on a tab is taking away: Qt's own
+// walk then finds it a new place, and the school's order must not turn back to the page being left.
 bool feuille_élève::focusNextPrevChild(bool next) {
     const qsizetype ici = tabulation_.indexOf(focusWidget());
-    if (ici < 0)
+    if (ici < 0 || !focusWidget()->isVisible())
         return Feuille::focusNextPrevChild(next);
     const qsizetype n = tabulation_.size();
     for (qsizetype pas = 1; pas < n; ++pas) {

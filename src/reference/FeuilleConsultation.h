@@ -16,6 +16,11 @@ public:
     explicit FeuilleConsultation(ConfigurationFiche configuration);
 
     void bouton_accepter_Click() override;
+    // The size the screen opens at, which its window in the main window takes from here.
+    QSize sizeHint() const override { return taille_; }
+
+private:
+    QSize taille_;
 };
 
 // What a lookup differs in besides its table and columns.

@@ -1,6 +1,7 @@
 // What a user reads and may type on the pupil screen: captions, entry limits and help texts of every tab.
 #include "people/feuille_élève.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -8,6 +9,8 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QStyle>
+#include <QStyleOptionComboBox>
 #include <QTabWidget>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -277,4 +280,32 @@ TEST_F(FicheEleve, TheEldestCaptionBlinksWhateverTheBoxHolds) {
     EXPECT_TRUE(f->Check2->isChecked());
 }
 
+} // namespace
+
+namespace {
+// On a display 1024 pixels wide the screen, in its window of the main window, still shows every order
+// of the list and every caption of the buttons whole.
+TEST_F(FicheEleve, AtItsSmallestTheScreenFitsA1024DisplayAndShowsEveryOrderWhole) {
+    f->show();
+    const QSize plus_petite = f->minimumSizeHint().expandedTo(f->minimumSize());
+    EXPECT_LE(plus_petite.width(), 1000);
+    f->resize(plus_petite);
+    QApplication::processEvents();
+    for (int i = 0; i < f->Combo1->count(); ++i) {
+        f->Combo1->setCurrentIndex(i);
+        QStyleOptionComboBox option;
+        option.initFrom(f->Combo1);
+        option.currentText = f->Combo1->currentText();
+        const QRect texte = f->Combo1->style()->subControlRect(QStyle::CC_ComboBox, &option,
+                                                               QStyle::SC_ComboBoxEditField, f->Combo1);
+        EXPECT_GE(texte.width(), f->Combo1->fontMetrics().horizontalAdvance(option.currentText))
+            << option.currentText.toStdString();
+    }
+    for (QPushButton* b : f->findChildren<QPushButton*>()) {
+        if (!b->isVisibleTo(f.get()) || f->SSTab1->isAncestorOf(b))
+            continue;
+        EXPECT_GE(b->width(), b->fontMetrics().horizontalAdvance(b->text().remove(u'&')) + 8)
+            << b->objectName().toStdString();
+    }
+}
 } // namespace

@@ -294,6 +294,26 @@ TEST_F(FicheEleveSurBase, DeletingTheOnlyPupilShowsTheNoCurrentRecordBoxAndKeeps
     EXPECT_TRUE(module1().feuilles().isLoaded<feuille_élève>());
 }
 
+// With no pupil left, the add has no last matricule to count from: its move to the last row is
+// reported, no record is added, and the matricule order of that step stays.
+TEST_F(FicheEleveSurBase, AddingOnceTheLastPupilIsDeletedReportsTheMissingRowAndAddsNothing) {
+    ajouter_élève(base, u("000001"), u("SEUL"));
+    feuille_élève& f = ouvrir();
+    ui().expectMsgBox(vbOK);
+    cliquer(f, u("cmdSupprimer"));
+    ASSERT_TRUE(matricules().isEmpty());
+    ui().expectMsgBox(vbNo).expectMsgBox(vbOK);
+    cliquer_ajouter(f);
+    ASSERT_EQ(ui().boxes().size(), 3u);
+    EXPECT_TRUE(ui().lastBox().text.startsWith(u("Le logiciel a rencontré l'erreur : 3021\n\n")))
+        << ui().lastBox().text.toStdString();
+    EXPECT_EQ(ui().lastBox().buttons, vbOKOnly + vbExclamation);
+    EXPECT_EQ(ui().mousePointer(), vbDefault);
+    EXPECT_EQ(f.datPrimaryRS->RecordSource(), ordre_des_matricules);
+    EXPECT_FALSE(f.datPrimaryRS->isAddingNew());
+    EXPECT_TRUE(matricules().isEmpty());
+}
+
 TEST_F(FicheEleveSurBase, ADuplicateMatriculeRefusedByTheFileIsSilentOnAMoveAndReportedOnSave) {
     ajouter_élève(base, u("000001"), u("UN"));
     ajouter_élève(base, u("000002"), u("DEUX"));
@@ -432,6 +452,19 @@ TEST_F(FicheEleveSurBase, TheTemplateListIsOnlyReadFromThePupilScreen) {
     touche_au_focus(Qt::Key_Return);
     cliquer(*f.datPrimaryRS, u("suivant"));
     EXPECT_EQ(colonne_du_fichier(base, u("documents"), u("intitulé_bouton")), avant);
+
+    // Below the last template there is nothing to type into either.
+    f.grdDataGrid->setFocus();
+    f.grdDataGrid->setCurrentIndex(f.grdDataGrid->model()->index(avant.size() - 1, 0));
+    touche_au_focus(Qt::Key_Down);
+    EXPECT_EQ(f.grdDataGrid->currentIndex().row(), avant.size() - 1);
+    taper_au_focus(u("Nouveau"));
+    cliquer(*f.datPrimaryRS, u("suivant"));
+    EXPECT_EQ(colonne_du_fichier(base, u("documents"), u("intitulé_bouton")), avant);
+    int lignes_vues = 0;
+    for (int ligne = 0; ligne < f.grdDataGrid->model()->rowCount(); ++ligne)
+        lignes_vues += f.grdDataGrid->isRowHidden(ligne) ? 0 : 1;
+    EXPECT_EQ(lignes_vues, avant.size());
 }
 
 TEST_F(FicheEleveSurBase, ButtonsWhoseWorkComesLaterDoNothingYet) {

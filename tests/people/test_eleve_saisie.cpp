@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
 #include <memory>
@@ -170,6 +171,31 @@ TEST_F(SaisieEleve, AFocusGivenByCodeToAFieldOfAHiddenPageTurnsToThatPage) {
         QApplication::processEvents();
         EXPECT_EQ(f->SSTab1->currentIndex(), c.onglet);
         EXPECT_EQ(QApplication::focusWidget(), champ);
+    }
+}
+} // namespace
+
+namespace {
+// A click on a tab shows that page, also when the focus stood in a field of the page it leaves: the
+// field's neighbour in the school's order must not pull the old page back over the new one.
+TEST_F(SaisieEleve, AClickOnATabShowsItsPageWhereverTheFocusStood) {
+    const struct {
+        const char* champ;
+        int onglet_cliqué;
+    } cas[] = {{"cursus_allongé_élève", 0},
+               {"lieu_naissance", 3},
+               {"nom_contact2", 1},
+               {"champ_paramétable4", 7},
+               {"observations_générales", 2}};
+    QTabBar* barre = f->SSTab1->tabBar();
+    for (const auto& c : cas) {
+        SCOPED_TRACE(c.champ);
+        focus(f->findChild<QWidget*>(u(c.champ)));
+        QTest::mouseClick(barre, Qt::LeftButton, {}, barre->tabRect(c.onglet_cliqué).center());
+        QApplication::processEvents();
+        EXPECT_EQ(f->SSTab1->currentIndex(), c.onglet_cliqué);
+        EXPECT_EQ(barre->currentIndex(), c.onglet_cliqué);
+        EXPECT_TRUE(f->SSTab1->widget(c.onglet_cliqué)->isVisible());
     }
 }
 } // namespace

@@ -7,6 +7,7 @@
 #include "platform/forms/DBGrid.h"
 #include "platform/forms/DataControl.h"
 #include "platform/forms/Module1.h"
+#include "platform/forms/Placement.h"
 #include "reference/feuille_équipe.h"
 #include "support/BaseDirecte.h"
 #include "support/PiloteEcran.h"
@@ -174,6 +175,16 @@ TEST_F(Consultations, EachMenuCommandShowsItsLookupInFrontWithItsDeclarationAndT
         EXPECT_TRUE(f.bouton_accepter->isDefault());
         EXPECT_EQ(f.bouton_accepter->text(), u("Accepter"));
         EXPECT_EQ(module1().origine_appel, 5);
+        // One column reads well narrow; each more column widens the screen.
+        const int colonnes = f.grdDataGrid->model()->columnCount();
+        EXPECT_GE(f.width(), en_pixels(4500 + 2000 * (colonnes - 1)));
+        // Each button has room for its whole caption, "Accepter" included once it is shown.
+        f.bouton_accepter->show();
+        QApplication::processEvents();
+        for (QPushButton* b : {f.bouton_accepter, f.cmdAjouter, f.cmdSupprimer, f.cmdRafraîchir,
+                               f.cmdMettreàjour, f.cmdFermer})
+            EXPECT_GE(b->width(), b->sizeHint().width()) << b->text().toStdString();
+        f.bouton_accepter->hide();
     }
     EXPECT_TRUE(ui().boxes().empty());
 }
