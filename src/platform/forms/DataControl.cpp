@@ -61,6 +61,9 @@ struct DataControl::Binding {
     QPointer<QWidget> control;
     QString column;
     QString shownLabelText;
+    // What the control showed of its row. Only a control whose value has moved from it is written back,
+    // so a value that a box could not show whole (longer than its entry limit) is never cut in the file.
+    QVariant shownValue;
 
     QVariant value() const {
         if (auto* box = qobject_cast<QLineEdit*>(control))
@@ -88,10 +91,18 @@ struct DataControl::Binding {
             label->setText(value.toString());
             shownLabelText = label->text();
         }
+        shownValue = this->value();
     }
 
-    // A label only shows its column, unless code wrote into it: then it carries the new value.
-    bool writable() const { return control && (!qobject_cast<QLabel*>(control) || labelChanged()); }
+    // A label only shows its column, unless code wrote into it: then it carries the new value. A box of a
+    // new row is written whatever it holds, a box of an existing row when its value changed.
+    bool writable(bool newRow) const {
+        if (!control)
+            return false;
+        if (qobject_cast<QLabel*>(control))
+            return labelChanged();
+        return newRow || value() != shownValue;
+    }
 
     bool labelChanged() const {
         auto* label = qobject_cast<QLabel*>(control);
@@ -225,8 +236,9 @@ void DataControl::writeEdits() {
     auto& r = rs();
     if (r.editMode() == EditMode::None)
         r.Edit();
+    const bool newRow = r.editMode() == EditMode::AddNew;
     for (const auto& binding : bindings_)
-        if (binding->writable() && r.fieldIndex(binding->column) >= 0)
+        if (binding->writable(newRow) && r.fieldIndex(binding->column) >= 0)
             r.setField(binding->column, binding->value());
     for (auto it = pending_.cbegin(); it != pending_.cend(); ++it)
         r.setField(it.key(), it.value());
@@ -235,9 +247,11 @@ void DataControl::writeEdits() {
     lastWritten_ = r.LastModified();
     changed_ = false;
     pending_.clear();
-    for (const auto& binding : bindings_)
+    for (const auto& binding : bindings_) {
         if (auto* label = qobject_cast<QLabel*>(binding->control))
             binding->shownLabelText = label->text();
+        binding->shownValue = binding->value();
+    }
     if (added)
         emit rowsChanged();
 }

@@ -223,6 +223,25 @@ TEST_F(FicheTest, closing_with_an_edited_or_new_row_writes_it_without_a_question
     EXPECT_EQ(noms().last(), "Echo");
 }
 
+TEST_F(FicheTest, a_value_longer_than_its_box_is_kept_whole_when_the_row_is_saved) {
+    sql_direct(base, "UPDATE fiches SET nom = 'Alphonsine-Bérénice' WHERE nom = 'Alpha'");
+    auto& f = ouvrir();
+    cliquer(*f.datPrimaryRS, "suivant");
+    f.nom->setMaxLength(5);
+    cliquer(*f.datPrimaryRS, "premier");
+    ASSERT_EQ(f.nom->text(), "Alpho");
+    f.notes->setPlainText(QStringLiteral("changée"));
+    cliquer(f, "cmdMettreàjour");
+    EXPECT_EQ(noms().first(), "Alphonsine-Bérénice");
+    EXPECT_EQ(colonne_du_fichier(base, QStringLiteral("fiches"), QStringLiteral("notes")).first(), "changée");
+
+    // What the user types over it is written, as any edit.
+    f.nom->selectAll();
+    taper(f.nom, "Anne");
+    cliquer(f, "cmdMettreàjour");
+    EXPECT_EQ(noms().first(), "Anne");
+}
+
 TEST_F(FicheTest, refresh_goes_back_to_the_first_record_and_sees_other_users_rows) {
     auto& f = ouvrir();
     cliquer(*f.datPrimaryRS, "dernier");
