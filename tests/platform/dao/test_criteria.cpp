@@ -86,13 +86,9 @@ TEST_F(Criteria, AnApostropheOrAMalformedCriterionIsASyntaxErrorAndNothingRunsBe
 }
 
 TEST_F(Criteria, AnUnknownColumnInACriterionIsNamed) {
-    try {
-        pupils->FindFirst("nom_eleve like 'a*'");
-        FAIL();
-    } catch (const VbError& e) {
-        EXPECT_EQ(e.number(), 3070);
-        EXPECT_TRUE(e.description().contains("nom_eleve"));
-    }
+    const VbError e = raised_by([&] { pupils->FindFirst("nom_eleve like 'a*'"); });
+    EXPECT_EQ(e.number(), 3070);
+    EXPECT_TRUE(e.description().contains("nom_eleve"));
 }
 
 TEST_F(Criteria, BooleanCriteriaUseTrueAndFalse) {
