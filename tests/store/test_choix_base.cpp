@@ -11,6 +11,7 @@
 #include "shell/options.h"
 #include "store/feuille_login.h"
 #include "store/ouverture_base.h"
+#include "support/BaseDirecte.h"
 #include "support/TemplateBase.h"
 
 #include <QCheckBox>
@@ -140,10 +141,9 @@ TEST_F(ChoixDeLaBase, UnClicSurUnFichierEnFaitDéjàLaBaseEnCours) {
 }
 
 TEST_F(ChoixDeLaBase, UnDoubleClicOuvreLaBaseDExempleQuiNAPasDeCode) {
-    const QString base = folder.file("exemple.mdb");
-    ASSERT_TRUE(QFile::copy(template_path(), base));
+    const QString base = copie_du_modèle(folder);
     feuille_choix_base& écran = démarrer_sur_le_choix();
-    ASSERT_TRUE(écran.File1->cliquer("exemple.mdb"));
+    ASSERT_TRUE(écran.File1->cliquer("travail.mdb"));
     EXPECT_EQ(écran.accès_actuel->text(), "");
     emit écran.File1->DblClick();
     processDeletions();
@@ -284,8 +284,7 @@ TEST_F(ChoixDeLaBase, LaBoîteDuCodeClignoteEtMasqueLaSaisie) {
 // The pupil screen named by the options is only shown: it points itself at the base as it loads, and
 // its two other data sources stay as the screen stores them.
 TEST_F(ChoixDeLaBase, LOptionDesÉlèvesMontreLÉcranDesÉlèvesSurLaBaseOuverte) {
-    const QString base = folder.file("ecole.mdb");
-    ASSERT_TRUE(QFile::copy(template_path(), base));
+    const QString base = copie_du_modèle(folder);
     préparer_options("1\r\n1\r\n1\r\n1\r\n" + ligne_de_base(base));
     démarrer_par_clic();
     EXPECT_TRUE(ui().boxes().empty());
@@ -319,8 +318,7 @@ TEST_F(ChoixDeLaBase, UnÉcranDesÉlèvesDéjàOuvertResteSurSonFichierÀLOuvert
 }
 
 TEST_F(ChoixDeLaBase, SansOptionCochéeLOuvertureNeMontreAucunÉcran) {
-    const QString base = folder.file("ecole.mdb");
-    ASSERT_TRUE(QFile::copy(template_path(), base));
+    const QString base = copie_du_modèle(folder);
     préparer_options("0\r\n0\r\n1\r\n0\r\n" + ligne_de_base(base));
     démarrer_par_clic();
     EXPECT_TRUE(menus_de_données_actifs());

@@ -112,13 +112,15 @@ TEST_F(FicheTest, typing_then_moving_writes_the_row_and_an_unchanged_row_is_neve
     EXPECT_EQ(f.nom->text(), "Bravo");
 }
 
-TEST_F(FicheTest, a_write_by_code_into_a_bound_box_is_an_edit) {
+TEST_F(FicheTest, a_write_by_code_into_a_bound_box_is_an_edit_which_valider_writes_in_place) {
     auto& f = ouvrir();
     f.nom->setText("Par le code");
     f.notes->setPlainText("note écrite");
     f.libellé->setText("étiquette");
     EXPECT_TRUE(f.datPrimaryRS->DataChanged());
     cliquer(f, "cmdMettreàjour");
+    EXPECT_EQ(légende(f), "Fiche: 1");
+    EXPECT_FALSE(f.datPrimaryRS->DataChanged());
     EXPECT_EQ(noms().first(), "Par le code");
     EXPECT_EQ(colonne_du_fichier(base, "fiches", "notes").first(), "note écrite");
     EXPECT_EQ(colonne_du_fichier(base, "fiches", "libellé").first(), "étiquette");
@@ -169,20 +171,13 @@ TEST_F(FicheTest, validate_receives_the_action_codes_and_the_pointer_cycles) {
     EXPECT_EQ(ui().mousePointer(), vbDefault) << "Form_Unload puts the pointer back after the final Validate";
 }
 
-TEST_F(FicheTest, valider_keeps_position_and_caption_and_writes_only_an_edit) {
+TEST_F(FicheTest, valider_on_an_unchanged_row_keeps_position_and_caption) {
     auto& f = ouvrir();
     cliquer(*f.datPrimaryRS, "suivant");
     cliquer(f, "cmdMettreàjour");
     EXPECT_EQ(légende(f), "Fiche: 2");
     EXPECT_EQ(f.nom->text(), "Bravo");
     EXPECT_TRUE(ui().boxes().empty());
-
-    cliquer(*f.datPrimaryRS, "dernier");
-    f.nom->setText("Charles");
-    cliquer(f, "cmdMettreàjour");
-    EXPECT_EQ(noms().last(), "Charles");
-    EXPECT_EQ(légende(f), "Fiche: 3");
-    EXPECT_FALSE(f.datPrimaryRS->DataChanged());
 }
 
 TEST_F(FicheTest, ajouter_shows_an_empty_row_numbered_0_which_valider_adds_only_once_typed_into) {
