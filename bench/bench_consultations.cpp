@@ -1,6 +1,7 @@
 // A pick from a lookup of every town of France (about 36,000 rows): the pupil's "code postal" opens
 // the towns, the user goes to the last one and accepts, which copies two cells into the pupil screen,
 // closes the lookup and gives the focus to the telephone.
+#include "BenchSupport.h"
 #include "people/feuille_élève.h"
 #include "platform/dao/Database.h"
 #include "platform/forms/DBGrid.h"
@@ -10,22 +11,16 @@
 #include "shell/ecrans_connus.h"
 #include "store/ouvrir_table.h"
 
-#include <QApplication>
-#include <QFile>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTemporaryDir>
-#include <benchmark/benchmark.h>
 #include <sqlite3.h>
 
 namespace {
 
 constexpr int villes = 36000;
 
-QString fabriquer_base(const QTemporaryDir& dossier) {
-    const QString chemin = dossier.filePath(QStringLiteral("banc.mdb"));
-    QFile::copy(QStringLiteral(NORVANE_TEMPLATE_PATH), chemin);
-    QFile::setPermissions(chemin, QFile::ReadOwner | QFile::WriteOwner);
+QString fabriquer_base() {
+    const QString chemin = banc::copie_du_modèle(QStringLiteral("banc.mdb"));
     sqlite3* db = nullptr;
     sqlite3_open(chemin.toUtf8().constData(), &db);
     const std::string sql = "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < " +
@@ -43,9 +38,8 @@ QString fabriquer_base(const QTemporaryDir& dossier) {
 }
 
 void BM_choix_de_la_dernière_ville(benchmark::State& state) {
-    QTemporaryDir dossier;
     Module1& m = module1();
-    m.base_en_cours = fabriquer_base(dossier);
+    m.base_en_cours = fabriquer_base();
     faire_connaître_les_écrans();
     ouvrir_table_élèves();
     feuille_élève& élève = m.feuilles().get<feuille_élève>();
@@ -66,11 +60,5 @@ BENCHMARK(BM_choix_de_la_dernière_ville)->Unit(benchmark::kMillisecond);
 } // namespace
 
 int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    return banc::lancer(argc, argv);
 }

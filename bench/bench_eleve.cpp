@@ -1,47 +1,23 @@
 // The pupil screen on a school of 100,000 pupils: what the user waits for after choosing the menu
 // command, after "&Ajouter" (two full re-queries and a move to the last matricule), and after a move.
+#include "BenchSupport.h"
 #include "generator/Demonstration.h"
 #include "people/feuille_élève.h"
 #include "platform/dao/Database.h"
 #include "platform/forms/DataControl.h"
 #include "platform/forms/Module1.h"
-#include "platform/ui/Interaction.h"
 #include "store/ouvrir_table.h"
 
-#include <QApplication>
-#include <QFile>
 #include <QLineEdit>
-#include <QTemporaryDir>
-#include <benchmark/benchmark.h>
 #include <memory>
 
 namespace {
 
 constexpr int élèves = 100000;
 
-// The user who answers No to the sibling question and is never asked anything else.
-class RéponseNon : public Interaction {
-public:
-    int MsgBox(const QString&, int, const QString&) override { return vbNo; }
-    QString InputBox(const QString&, const QString&, const QString&) override { return {}; }
-    void showModal(Feuille&) override {}
-    void setMousePointer(int pointer) override { pointeur_ = pointer; }
-    int mousePointer() const override { return pointeur_; }
-
-private:
-    int pointeur_ = vbDefault;
-};
-
-QTemporaryDir& dossier() {
-    static QTemporaryDir d;
-    return d;
-}
-
 const QString& base() {
     static const QString chemin = [] {
-        const QString c = dossier().filePath(QStringLiteral("école.mdb"));
-        QFile::copy(QStringLiteral(NORVANE_TEMPLATE_PATH), c);
-        QFile::setPermissions(c, QFile::permissions(c) | QFileDevice::WriteOwner);
+        const QString c = banc::copie_du_modèle(QStringLiteral("école.mdb"));
         remplir_démonstration(*Database::open(c), Démonstration{élèves});
         return c;
     }();
@@ -51,7 +27,7 @@ const QString& base() {
 // A fresh run state for each measurement: the scripted user in place, the school open.
 feuille_élève& ouvrir() {
     module1().réinitialiser();
-    module1().setInteraction(std::make_shared<RéponseNon>());
+    module1().setInteraction(std::make_shared<banc::RéponseFixe>(vbNo));
     module1().base_en_cours = base();
     ouvrir_table_élèves();
     feuille_élève& f = module1().feuilles().get<feuille_élève>();
@@ -96,12 +72,5 @@ BENCHMARK(BM_élève_suivant)->Unit(benchmark::kMicrosecond);
 } // namespace
 
 int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    base(); // the school is built once, before any timing
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    return banc::lancer(argc, argv, [] { base(); }); // the school is built before any timing
 }

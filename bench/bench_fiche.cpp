@@ -1,12 +1,10 @@
 // The record screen frame on a table of 100,000 rows: a move of the data control with its bound boxes,
 // a write of an edited row, and the grid reading the lines at the end of the table.
+#include "BenchSupport.h"
 #include "platform/forms/DBGrid.h"
 #include "platform/forms/DataControl.h"
 
-#include <QApplication>
 #include <QLineEdit>
-#include <QTemporaryDir>
-#include <benchmark/benchmark.h>
 #include <memory>
 #include <sqlite3.h>
 
@@ -14,8 +12,8 @@ namespace {
 
 constexpr int lignes = 100000;
 
-QString fabriquer_base(const QTemporaryDir& dossier) {
-    const QString chemin = dossier.filePath(QStringLiteral("banc.mdb"));
+QString fabriquer_base() {
+    const QString chemin = banc::dossier().filePath(QStringLiteral("banc.mdb"));
     sqlite3* db = nullptr;
     sqlite3_open(chemin.toUtf8().constData(), &db);
     sqlite3_exec(
@@ -49,13 +47,8 @@ struct Écran {
     }
 };
 
-QTemporaryDir& dossier() {
-    static QTemporaryDir d;
-    return d;
-}
-
 const QString& base() {
-    static const QString chemin = fabriquer_base(dossier());
+    static const QString chemin = fabriquer_base();
     return chemin;
 }
 
@@ -100,11 +93,5 @@ BENCHMARK(BM_grille_au_bout_de_la_table);
 } // namespace
 
 int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    return banc::lancer(argc, argv);
 }

@@ -1,40 +1,19 @@
 // The pupil screen's searches and orders on a school of 100,000 pupils: a jump by name to a surname near
 // the end of the alphabetical order, a jump by matricule with a leading wildcard, and a new order.
+#include "BenchSupport.h"
 #include "people/ordres_élèves.h"
 #include "people/recherches_élèves.h"
 #include "platform/dao/Database.h"
 #include "platform/forms/DataControl.h"
-#include "platform/ui/Interaction.h"
 
-#include <QApplication>
-#include <QFile>
 #include <QLineEdit>
-#include <QTemporaryDir>
-#include <benchmark/benchmark.h>
 
 namespace {
 
 constexpr int élèves = 100000;
 
-// Answers every input box with the same text and every message box with OK.
-class RéponseFixe : public Interaction {
-public:
-    explicit RéponseFixe(QString réponse) : réponse_(std::move(réponse)) {}
-    int MsgBox(const QString&, int, const QString&) override { return vbOK; }
-    QString InputBox(const QString&, const QString&, const QString&) override { return réponse_; }
-    void showModal(Feuille&) override {}
-    void setMousePointer(int pointer) override { pointeur_ = pointer; }
-    int mousePointer() const override { return pointeur_; }
-
-private:
-    QString réponse_;
-    int pointeur_ = vbDefault;
-};
-
-QString fabriquer_base(const QTemporaryDir& dossier) {
-    const QString chemin = dossier.filePath(QStringLiteral("école.mdb"));
-    QFile::copy(QStringLiteral(NORVANE_TEMPLATE_PATH), chemin);
-    QFile::setPermissions(chemin, QFile::permissions(chemin) | QFileDevice::WriteOwner);
+QString fabriquer_base() {
+    const QString chemin = banc::copie_du_modèle(QStringLiteral("école.mdb"));
     auto base = Database::open(chemin);
     base->BeginTrans();
     for (int i = 1; i <= élèves; ++i) {
@@ -52,13 +31,8 @@ QString fabriquer_base(const QTemporaryDir& dossier) {
     return chemin;
 }
 
-QTemporaryDir& dossier() {
-    static QTemporaryDir d;
-    return d;
-}
-
 const QString& base() {
-    static const QString chemin = fabriquer_base(dossier());
+    static const QString chemin = fabriquer_base();
     return chemin;
 }
 
@@ -77,7 +51,7 @@ struct Fiche {
 
 void BM_recherche_par_nom_en_fin_d_ordre(benchmark::State& state) {
     Fiche fiche(QStringLiteral("Par ordre alphabétique"));
-    RéponseFixe utilisateur(QStringLiteral("nom0999"));
+    banc::RéponseFixe utilisateur(vbOK, QStringLiteral("nom0999"));
     for (auto _ : state)
         positionner_par_nom(*fiche.datPrimaryRS, utilisateur);
     state.counters["position"] = fiche.datPrimaryRS->Recordset().AbsolutePosition();
@@ -86,7 +60,7 @@ BENCHMARK(BM_recherche_par_nom_en_fin_d_ordre)->Unit(benchmark::kMillisecond);
 
 void BM_recherche_par_matricule_avec_joker(benchmark::State& state) {
     Fiche fiche(QStringLiteral("Par ordre des matricules"));
-    RéponseFixe utilisateur(QStringLiteral("*99999"));
+    banc::RéponseFixe utilisateur(vbOK, QStringLiteral("*99999"));
     for (auto _ : state)
         positionner_par_matricule(*fiche.datPrimaryRS, utilisateur);
     state.counters["position"] = fiche.datPrimaryRS->Recordset().AbsolutePosition();
@@ -105,11 +79,5 @@ BENCHMARK(BM_nouvel_ordre_par_âge)->Unit(benchmark::kMillisecond);
 } // namespace
 
 int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    return banc::lancer(argc, argv);
 }

@@ -65,12 +65,4 @@ TEST_F(RègleDePréparation, UneSourceQuiNAPuÊtrePointéeÉchoueDansLaCommandeE
     EXPECT_FALSE(sexes()->conteneur().isVisible());
 }
 
-TEST_F(RègleDePréparation, SansBaseLesCommandesDeDonnéesSontHorsDAtteinte) {
-    démarrer_par_clic();
-    mdi()->cliquer("menuparamètresindex14");
-    mdi()->cliquer("menuparamètresindex4");
-    EXPECT_EQ(sexes(), nullptr);
-    EXPECT_TRUE(ui().boxes().empty());
-}
-
 } // namespace

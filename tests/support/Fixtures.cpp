@@ -21,13 +21,17 @@ ScriptedSession::~ScriptedSession() {
     processDeletions();
 }
 
-int error_of(const std::function<void()>& action) {
+VbError raised_by(const std::function<void()>& action) {
     try {
         action();
     } catch (const VbError& e) {
-        return e.number();
+        return e;
     }
-    return 0;
+    return VbError(0, QString());
+}
+
+int error_of(const std::function<void()>& action) {
+    return raised_by(action).number();
 }
 
 ::testing::AssertionResult une_boîte(const ScriptedInteraction& ui, const QString& début) {

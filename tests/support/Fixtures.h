@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/errors/VbError.h"
 #include "support/ScriptedInteraction.h"
 
 #include <QString>
@@ -25,6 +26,8 @@ private:
 
 // The number of the VbError that `action` raises, or 0 when it succeeds.
 int error_of(const std::function<void()>& action);
+// The VbError that `action` raises, or one numbered 0 when it succeeds.
+VbError raised_by(const std::function<void()>& action);
 
 // Whether the program showed exactly one box so far and its text begins with `début` (an error box
 // whose description names a file, say).

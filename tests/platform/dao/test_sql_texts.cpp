@@ -14,13 +14,6 @@ protected:
     void SetUp() override { remplir_démonstration(*db, Démonstration{60, 7}); }
 };
 
-TEST_F(SqlTexts, EveryWholeTableOpens) {
-    for (const QString& table : template_tables()) {
-        SCOPED_TRACE(table.toStdString());
-        EXPECT_EQ(error_of([&] { db->OpenRecordset("SELECT * FROM " + table); }), 0);
-    }
-}
-
 TEST_F(SqlTexts, PupilOrdersOpenOnTheWholeTableInTheirOrder) {
     for (const QString& column : pupil_orders) {
         for (const char* direction : {" ASC", " DESC"}) {

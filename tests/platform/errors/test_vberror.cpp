@@ -27,26 +27,18 @@ TEST(VbError, CatalogueKnowsEveryNumberTheProgramMeets) {
     }
 }
 
-TEST(VbError, FileErrorsReadAsTheFrenchRuntimeSaysThem) {
-    EXPECT_EQ(VbError(70).description(), QString::fromUtf8("Permission refusée"));
-    EXPECT_EQ(VbError(75).description(), QString::fromUtf8("Erreur d'accès au chemin/fichier"));
-    EXPECT_EQ(VbError(13).description(), QString::fromUtf8("Type incompatible"));
-}
-
 TEST(VbError, UnknownNumberGetsTheGenericText) {
     EXPECT_FALSE(error_known(4242));
     EXPECT_EQ(VbError(4242).description(), generic);
     EXPECT_EQ(VbError(4242).number(), 4242);
 }
 
-TEST(VbError, PlacesAreFilledInOrder) {
+TEST(VbError, PlacesAreFilledInOrderAndAnUnfilledQuotedOneGoesWithItsQuotes) {
     const VbError e = VbError::avec(3024, {QStringLiteral("/bases/école.mdb")});
     EXPECT_EQ(e.number(), 3024);
     EXPECT_EQ(e.description(), QString::fromUtf8("Fichier '/bases/école.mdb' introuvable."));
     EXPECT_EQ(error_text(3061, {QStringLiteral("2")}), QStringLiteral("Trop peu de paramètres. 2 attendu."));
-}
-
-TEST(VbError, AnUnfilledQuotedPlaceGoesWithItsQuotes) {
+    // A quoted place left unfilled goes with its quotes.
     EXPECT_EQ(error_text(3024), QStringLiteral("Fichier introuvable."));
     EXPECT_EQ(error_text(3343), QString::fromUtf8("Format de base de données non reconnu."));
 }

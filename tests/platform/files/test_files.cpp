@@ -115,19 +115,6 @@ TEST_F(Files, KillRefusalsLeaveTheFileInPlace) {
     EXPECT_EQ(contentOf(readOnly), "garde");
 }
 
-TEST_F(Files, KillOfAFileHeldByAnOpenDatabaseIs70UntilItIsReleased) {
-    const QString path = folder.write("ouverte.mdb", "en cours");
-    {
-        const dao::FileLock lock = held(path);
-        EXPECT_TRUE(fichier_verrouillé(path));
-        EXPECT_EQ(error_of([&] { Kill(path); }), 70);
-        EXPECT_EQ(contentOf(path), "en cours");
-    }
-    EXPECT_FALSE(fichier_verrouillé(path));
-    Kill(path);
-    EXPECT_FALSE(QFileInfo::exists(path));
-}
-
 TEST_F(Files, KillOfAFileTheSystemRefusesIs70) {
     const QString path = folder.write("immuable.mdb", "x");
     const ImmutableFile immutable(path);

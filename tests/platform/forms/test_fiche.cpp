@@ -112,13 +112,15 @@ TEST_F(FicheTest, typing_then_moving_writes_the_row_and_an_unchanged_row_is_neve
     EXPECT_EQ(f.nom->text(), "Bravo");
 }
 
-TEST_F(FicheTest, a_write_by_code_into_a_bound_box_is_an_edit) {
+TEST_F(FicheTest, a_write_by_code_into_a_bound_box_is_an_edit_which_valider_writes_in_place) {
     auto& f = ouvrir();
     f.nom->setText("Par le code");
     f.notes->setPlainText("note écrite");
     f.libellé->setText("étiquette");
     EXPECT_TRUE(f.datPrimaryRS->DataChanged());
     cliquer(f, "cmdMettreàjour");
+    EXPECT_EQ(légende(f), "Fiche: 1");
+    EXPECT_FALSE(f.datPrimaryRS->DataChanged());
     EXPECT_EQ(noms().first(), "Par le code");
     EXPECT_EQ(colonne_du_fichier(base, "fiches", "notes").first(), "note écrite");
     EXPECT_EQ(colonne_du_fichier(base, "fiches", "libellé").first(), "étiquette");
@@ -169,22 +171,13 @@ TEST_F(FicheTest, validate_receives_the_action_codes_and_the_pointer_cycles) {
     EXPECT_EQ(ui().mousePointer(), vbDefault) << "Form_Unload puts the pointer back after the final Validate";
 }
 
-TEST_F(FicheTest, valider_keeps_position_and_caption_and_writes_only_an_edit) {
+TEST_F(FicheTest, valider_on_an_unchanged_row_keeps_position_and_caption) {
     auto& f = ouvrir();
     cliquer(*f.datPrimaryRS, "suivant");
     cliquer(f, "cmdMettreàjour");
     EXPECT_EQ(légende(f), "Fiche: 2");
     EXPECT_EQ(f.nom->text(), "Bravo");
     EXPECT_TRUE(ui().boxes().empty());
-    EXPECT_EQ(ui().mousePointer(), vbDefault);
-    EXPECT_EQ(écritures_journalisées(base), 0);
-
-    cliquer(*f.datPrimaryRS, "dernier");
-    f.nom->setText("Charles");
-    cliquer(f, "cmdMettreàjour");
-    EXPECT_EQ(noms().last(), "Charles");
-    EXPECT_EQ(légende(f), "Fiche: 3");
-    EXPECT_FALSE(f.datPrimaryRS->DataChanged());
 }
 
 TEST_F(FicheTest, ajouter_shows_an_empty_row_numbered_0_which_valider_adds_only_once_typed_into) {
@@ -340,35 +333,24 @@ TEST_F(FicheTest, a_handler_without_trap_fails_up_to_the_standard_words_and_the_
     EXPECT_EQ(ui().mousePointer(), vbDefault);
 }
 
-TEST_F(FicheTest, the_bare_and_the_empty_captions_of_the_position) {
+TEST_F(FicheTest,
+       the_configuration_chooses_the_refresh_tooltip_the_add_and_delete_buttons_and_the_position_caption) {
+    const QString suite = " les données, dans le cas d'une utilisation multi-utilisateurs";
+    EXPECT_EQ(ouvrir().cmdRafraîchir->toolTip(), "Cliquez pour rafraîchir" + suite);
+    EXPECT_EQ(ouvrir<feuille_essai_muette>().cmdRafraîchir->toolTip(), "Cliquez pour rafraichir" + suite);
+    EXPECT_EQ(ouvrir<feuille_essai_bavarde>().cmdRafraîchir->toolTip(), "Cliquez pour rafraichier" + suite);
+    EXPECT_NE(ouvrir().cmdAjouter, nullptr);
+    auto& muette = ouvrir<feuille_essai_muette>();
+    EXPECT_EQ(muette.cmdAjouter, nullptr);
+    EXPECT_EQ(muette.cmdSupprimer, nullptr);
+
+    // The position caption: bare, or a blank.
     auto& nue = ouvrir<feuille_essai_bavarde>();
     cliquer(*nue.datPrimaryRS, "suivant");
     EXPECT_EQ(légende(nue), "2");
-    auto& muette = ouvrir<feuille_essai_muette>();
     cliquer(*muette.datPrimaryRS, "suivant");
     EXPECT_EQ(légende(muette), " ");
     EXPECT_EQ(muette.nom->text(), "Bravo");
-}
-
-TEST_F(FicheTest, buttons_carry_their_captions_and_tooltips_word_for_word) {
-    auto& f = ouvrir();
-    EXPECT_EQ(f.cmdAjouter->text(), "&Ajouter");
-    EXPECT_EQ(f.cmdAjouter->toolTip(), "Cliquez pour créer une nouvelle fiche de saisie");
-    EXPECT_EQ(f.cmdSupprimer->text(), "&Supprimer");
-    EXPECT_EQ(f.cmdSupprimer->toolTip(), "Cliquez pour supprimer la fiche en cours");
-    EXPECT_EQ(f.cmdRafraîchir->text(), "&Rafraîchir");
-    EXPECT_EQ(f.cmdMettreàjour->text(), "&Valider");
-    EXPECT_EQ(f.cmdMettreàjour->toolTip(), "Cliquez pour enregistrer les renseignements en cours");
-    EXPECT_EQ(f.cmdFermer->text(), "&Fermer");
-    EXPECT_EQ(f.cmdFermer->toolTip(), "Cliquez pour fermer cette fenêtre");
-    EXPECT_EQ(f.bouton_accepter, nullptr);
-
-    const QString suite = " les données, dans le cas d'une utilisation multi-utilisateurs";
-    EXPECT_EQ(f.cmdRafraîchir->toolTip(), "Cliquez pour rafraîchir" + suite);
-    EXPECT_EQ(ouvrir<feuille_essai_muette>().cmdRafraîchir->toolTip(), "Cliquez pour rafraichir" + suite);
-    EXPECT_EQ(ouvrir<feuille_essai_bavarde>().cmdRafraîchir->toolTip(), "Cliquez pour rafraichier" + suite);
-    EXPECT_EQ(ouvrir<feuille_essai_muette>().cmdAjouter, nullptr);
-    EXPECT_EQ(ouvrir<feuille_essai_muette>().cmdSupprimer, nullptr);
 }
 
 TEST_F(FicheTest, a_screen_not_yet_pointed_at_a_file_fails_with_the_engine_error_on_refresh) {

@@ -1,5 +1,4 @@
 #include "platform/forms/ListesFichiers.h"
-#include "support/BasesDeTest.h"
 #include "support/Fixtures.h"
 
 #include <QDir>
@@ -13,17 +12,6 @@ QStringList textes(const QListWidget& liste) {
     for (int i = 0; i < liste.count(); ++i)
         t << liste.item(i)->text().trimmed();
     return t;
-}
-
-TEST(ListesFichiers, ToutesCommencentSurLeDossierCourant) {
-    WorkFolder dossier;
-    DossierCourant courant(dossier.path());
-    DirListBox dossiers;
-    FileListBox fichiers;
-    DriveListBox lecteurs;
-    EXPECT_EQ(dossiers.Path(), QDir::toNativeSeparators(dossier.path()));
-    EXPECT_EQ(fichiers.Path(), QDir::toNativeSeparators(dossier.path()));
-    EXPECT_EQ(lecteurs.Drive(), QDir::toNativeSeparators(QDir(dossier.path()).rootPath()));
 }
 
 TEST(ListesFichiers, ReprendreLeLecteurEnCoursNEstPasUnChangement) {

@@ -3,16 +3,6 @@
 #include "support/Fixtures.h"
 
 #include <gtest/gtest.h>
-#include <limits>
-#include <type_traits>
-
-TEST(Module1, CallerOriginIsASigned16BitInteger) {
-    static_assert(std::is_same_v<decltype(Module1::origine_appel), int16_t>);
-    module1().origine_appel = std::numeric_limits<int16_t>::max();
-    ++module1().origine_appel;
-    EXPECT_EQ(module1().origine_appel, std::numeric_limits<int16_t>::min());
-    module1().réinitialiser();
-}
 
 // The start state: empty paths, 0, the real clock and the real dialogs.
 TEST(Module1, ResetBringsBackTheStartState) {
@@ -31,22 +21,4 @@ TEST(Module1, ResetBringsBackTheStartState) {
     EXPECT_EQ(module1().origine_appel, 0);
     EXPECT_NE(module1().horloge().aujourdhui(), QDate(2024, 9, 2));
     EXPECT_NE(dynamic_cast<QtInteraction*>(&module1().interaction()), nullptr);
-}
-
-TEST(Module1, TheClockCanBeFixedForATest) {
-    module1().horloge().fixer(QDateTime(QDate(2024, 9, 2), QTime(8, 30)));
-    EXPECT_EQ(module1().horloge().aujourdhui(), QDate(2024, 9, 2));
-    EXPECT_EQ(module1().horloge().maintenant().toString(QStringLiteral("dd/MM/yyyy")),
-              QStringLiteral("02/09/2024"));
-    module1().horloge().libérer();
-    EXPECT_EQ(module1().horloge().aujourdhui(), QDate::currentDate());
-}
-
-class Fixture : public WorkFolderTest {};
-
-TEST_F(Fixture, TheWorkFolderIsTheApplicationFolderAndTheScriptedUserIsInPlace) {
-    EXPECT_EQ(&module1().interaction(), &ui());
-    EXPECT_TRUE(module1().chemin_application.startsWith(folder.path()));
-    EXPECT_TRUE(module1().chemin_application.endsWith(QDir::separator()));
-    EXPECT_TRUE(QDir(folder.path()).exists());
 }

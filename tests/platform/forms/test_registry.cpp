@@ -155,7 +155,7 @@ TEST_F(Registry, AFormLoadMayTouchOtherScreensAndItself) {
     EXPECT_EQ(feuilles().chargées().size(), 2u);
 }
 
-TEST_F(Registry, ChildScreensGoIntoTheMainWindowAreaAndTopLevelOnesDoNot) {
+TEST_F(Registry, ChildScreensGoIntoTheMainWindowAreaWhereClosingTheirWindowUnloadsThem) {
     QMdiArea area;
     area.resize(800, 600);
     area.show();
@@ -173,27 +173,14 @@ TEST_F(Registry, ChildScreensGoIntoTheMainWindowAreaAndTopLevelOnesDoNot) {
     EXPECT_TRUE(child.conteneur().isVisible());
     EXPECT_EQ(area.activeSubWindow(), &child.conteneur());
 
-    EXPECT_TRUE(child.Unload());
-    processDeletions();
-    EXPECT_TRUE(area.subWindowList().isEmpty());
-    feuilles().toutDétruire();
-}
-
-TEST_F(Registry, ClosingTheSubWindowIsAnUnloadAndMayBeRefused) {
-    QMdiArea area;
-    area.show();
-    feuilles().setMdiArea(&area);
-    auto& f = feuilles().get<feuille_options_essai>();
-    f.Show();
-    f.refuseQuery = 1;
+    // Closing the sub-window is an unload, which the screen may refuse.
+    child.refuseQuery = 1;
     journal.clear();
-    f.conteneur().close();
+    child.conteneur().close();
     EXPECT_EQ(journal, (QStringList{"Form_QueryUnload"}));
-    EXPECT_TRUE(feuilles().isLoaded<feuille_options_essai>());
-    EXPECT_TRUE(f.conteneur().isVisible());
-
-    f.refuseQuery = 0;
-    f.conteneur().close();
+    EXPECT_TRUE(child.conteneur().isVisible());
+    child.refuseQuery = 0;
+    child.conteneur().close();
     EXPECT_FALSE(feuilles().isLoaded<feuille_options_essai>());
     EXPECT_EQ(journal.last(), QStringLiteral("Form_Unload"));
     processDeletions();

@@ -1,6 +1,7 @@
 // Record numbers are counted by converting typed text to numbers and back with leading zeros.
 #include "platform/errors/VbError.h"
 #include "platform/vb/Conversions.h"
+#include "support/Fixtures.h"
 
 #include <gtest/gtest.h>
 
@@ -39,14 +40,8 @@ TEST(CDbl, ReadsNumbersAndRefusesTheRestWithTypeMismatch) {
     EXPECT_DOUBLE_EQ(CDbl(u("000041")), 41.0);
     EXPECT_DOUBLE_EQ(CDbl(u("999999")), 999999.0);
     EXPECT_DOUBLE_EQ(CDbl(u("2,5")), 2.5);
-    for (const char* pas_un_nombre : {"", "   ", "abc", "12b", "--1", "1.2.3"}) {
-        try {
-            CDbl(u(pas_un_nombre));
-            ADD_FAILURE() << "no error for '" << pas_un_nombre << "'";
-        } catch (const VbError& e) {
-            EXPECT_EQ(e.number(), 13) << pas_un_nombre;
-        }
-    }
+    for (const char* pas_un_nombre : {"", "   ", "abc", "12b", "--1", "1.2.3"})
+        EXPECT_EQ(error_of([&] { CDbl(u(pas_un_nombre)); }), 13) << pas_un_nombre;
 }
 
 TEST(TexteDuNombre, WholeNumbersWithoutDecimals) {
