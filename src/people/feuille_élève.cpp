@@ -492,15 +492,7 @@ void feuille_élève::construire_documents(QWidget* page) {
     grdDataGrid->horizontalHeader()->setStretchLastSection(true);
     grdDataGrid->installEventFilter(new SansSuppression(grdDataGrid));
     // Nor does it offer the grid's empty line for a new template below the last one.
-    auto* lignes = grdDataGrid->model();
-    const auto cacher_ligne_nouvelle = [grille = grdDataGrid, lignes] {
-        for (int ligne = 0; ligne < lignes->rowCount(); ++ligne)
-            grille->setRowHidden(ligne, ligne == grille->newRow());
-    };
-    QObject::connect(lignes, &QAbstractItemModel::modelReset, grdDataGrid, cacher_ligne_nouvelle);
-    QObject::connect(lignes, &QAbstractItemModel::rowsInserted, grdDataGrid, cacher_ligne_nouvelle);
-    QObject::connect(lignes, &QAbstractItemModel::rowsRemoved, grdDataGrid, cacher_ligne_nouvelle);
-    cacher_ligne_nouvelle();
+    grdDataGrid->setAllowAddNew(false);
     pile->addWidget(grdDataGrid, 1);
 
     Check1 = new QCheckBox(QStringLiteral("Impression directe sans prévisualisation"), Frame1);
@@ -649,30 +641,8 @@ void feuille_élève::poser_tabulation() {
           << Command13 << Command15 << Command7 << Command5 << Command14 << Command12 << Command11
           << Command16 << Command8 << Command9 << Command10
           << findChild<QWidget*>(QStringLiteral("grdDataGrid")) << Check1 << Command6 << documents_suite;
-    for (qsizetype i = 1; i < suite.size(); ++i)
-        setTabOrder(suite[i - 1], suite[i]);
-    tabulation_ = suite;
-}
-
-// Qt's own walk skips the fields of hidden pages; the school's order runs through all eight pages.
-// A focus field that is no longer visible is on a page that a click on a tab is taking away: Qt's own
-// walk then finds it a new place, and the school's order must not turn back to the page being left.
-bool feuille_élève::focusNextPrevChild(bool next) {
-    const qsizetype ici = tabulation_.indexOf(focusWidget());
-    if (ici < 0 || !focusWidget()->isVisible())
-        return Feuille::focusNextPrevChild(next);
-    const qsizetype n = tabulation_.size();
-    for (qsizetype pas = 1; pas < n; ++pas) {
-        QWidget* w = tabulation_[((ici + (next ? pas : -pas)) % n + n) % n];
-        if (!w->isEnabled() || w->isHidden() || !(w->focusPolicy() & Qt::TabFocus))
-            continue;
-        for (int page = 0; page < SSTab1->count(); ++page)
-            if (SSTab1->widget(page)->isAncestorOf(w))
-                SSTab1->setCurrentIndex(page);
-        w->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-        return true;
-    }
-    return false;
+    // The school's order runs through all eight pages.
+    tabuler_à_travers_onglets(SSTab1, suite);
 }
 
 void feuille_élève::Form_Load() {

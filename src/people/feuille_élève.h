@@ -173,10 +173,6 @@ public:
     void Command11_Click();
     void Command12_Click();
 
-protected:
-    // The Tab key walks the declared order across the pages, turning to the page of the next field.
-    bool focusNextPrevChild(bool next) override;
-
 private:
     struct Grille;
 
@@ -206,7 +202,6 @@ private:
     void poser_champ(Grille& g, const Champ& c, QWidget* champ, QPushButton* légende, int paires_de_la_ligne);
 
     std::vector<Grille> grilles_;
-    QList<QWidget*> tabulation_;
 };
 
 // What the command "Gestion du fichier des &Elèves" does besides the preparing rule of every record

@@ -161,6 +161,9 @@ DBGrid::DBGrid(QWidget* parent) : QTableView(parent) {
                     QAbstractItemView::SelectedClicked);
     horizontalHeader()->setStretchLastSection(true);
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    connect(model_, &QAbstractItemModel::modelReset, this, &DBGrid::showNewRowAsAllowed);
+    connect(model_, &QAbstractItemModel::rowsInserted, this, &DBGrid::showNewRowAsAllowed);
+    connect(model_, &QAbstractItemModel::rowsRemoved, this, &DBGrid::showNewRowAsAllowed);
 }
 
 DBGrid::~DBGrid() = default;
@@ -198,6 +201,24 @@ QString DBGrid::Text() {
 
 int DBGrid::newRow() const {
     return model_->newRow();
+}
+
+void DBGrid::setAllowAddNew(bool allow) {
+    if (allow == allowAddNew_)
+        return;
+    allowAddNew_ = allow;
+    if (allow)
+        setRowHidden(newRow(), false);
+    else
+        showNewRowAsAllowed();
+}
+
+// The new row moves down as rows are added: every line is shown again but the new row's.
+void DBGrid::showNewRowAsAllowed() {
+    if (allowAddNew_)
+        return;
+    for (int row = 0; row < model_->rowCount(); ++row)
+        setRowHidden(row, !allowAddNew_ && row == newRow());
 }
 
 void DBGrid::stepDown() {

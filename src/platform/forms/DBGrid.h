@@ -28,6 +28,10 @@ public:
 
     // The line of the empty new row.
     int newRow() const;
+    // AllowAddNew: when false the empty new row is hidden, so the grid offers no line to start a
+    // new record from. True by default.
+    void setAllowAddNew(bool allow);
+    bool AllowAddNew() const { return allowAddNew_; }
     // One step down, as the Down key pressed in the grid; landing on the empty new row starts the
     // editing of its first cell, so the user types straight in.
     void stepDown();
@@ -46,9 +50,11 @@ private:
     void leaveRow(int from, int to);
     void deleteCurrentRow();
     void setCurrentLine(int row, int column);
+    void showNewRowAsAllowed();
 
     QPointer<DataControl> source_;
     GridModel* model_ = nullptr; // child of this grid
     QPointer<QWidget> editor_;
     bool syncing_ = false;
+    bool allowAddNew_ = true;
 };

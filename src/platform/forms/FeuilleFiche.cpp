@@ -10,6 +10,7 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QShortcut>
+#include <QTabWidget>
 #include <QVBoxLayout>
 
 ConfigurationFiche table_de_consultation(QString nom, QString titre, QString table,
@@ -149,6 +150,33 @@ bool FeuilleFiche::eventFilter(QObject* surveillé, QEvent* événement) {
         for (QShortcut* touche : touches_accepter_)
             touche->setEnabled(événement->type() == QEvent::ShowToParent);
     return Feuille::eventFilter(surveillé, événement);
+}
+
+void FeuilleFiche::tabuler_à_travers_onglets(QTabWidget* onglets, QList<QWidget*> ordre) {
+    for (qsizetype i = 1; i < ordre.size(); ++i)
+        setTabOrder(ordre[i - 1], ordre[i]);
+    onglets_tabulés_ = onglets;
+    ordre_tabulation_ = std::move(ordre);
+}
+
+// A focus field that is no longer visible is on a page that a click on a tab is taking away: Qt's own
+// walk then finds it a new place, and the declared order must not turn back to the page being left.
+bool FeuilleFiche::focusNextPrevChild(bool next) {
+    const qsizetype ici = ordre_tabulation_.indexOf(focusWidget());
+    if (!onglets_tabulés_ || ici < 0 || !focusWidget()->isVisible())
+        return Feuille::focusNextPrevChild(next);
+    const qsizetype n = ordre_tabulation_.size();
+    for (qsizetype pas = 1; pas < n; ++pas) {
+        QWidget* w = ordre_tabulation_[((ici + (next ? pas : -pas)) % n + n) % n];
+        if (!w->isEnabled() || w->isHidden() || !(w->focusPolicy() & Qt::TabFocus))
+            continue;
+        for (int page = 0; page < onglets_tabulés_->count(); ++page)
+            if (onglets_tabulés_->widget(page)->isAncestorOf(w))
+                onglets_tabulés_->setCurrentIndex(page);
+        w->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+        return true;
+    }
+    return false;
 }
 
 void FeuilleFiche::pointer_sur(const QString& base, const QString& source) {

@@ -2,6 +2,8 @@
 
 #include "platform/forms/Feuille.h"
 
+#include <QList>
+#include <QPointer>
 #include <QString>
 #include <vector>
 
@@ -9,6 +11,7 @@ class DataControl;
 class DBGrid;
 class QPushButton;
 class QShortcut;
+class QTabWidget;
 class QVBoxLayout;
 
 // What a record screen shows between the navigator's arrows after each move.
@@ -123,6 +126,12 @@ public:
 
 protected:
     bool eventFilter(QObject* surveillé, QEvent* événement) override;
+    bool focusNextPrevChild(bool next) override;
+
+    // A tabbed screen's choice: the Tab key walks `ordre` (also set as Qt's tab order) through every
+    // page of `onglets`, bringing forward the page of the field it lands on, where Qt's own walk
+    // skips the fields of hidden pages.
+    void tabuler_à_travers_onglets(QTabWidget* onglets, QList<QWidget*> ordre);
 
     // Where a screen of bound boxes lays out its own controls, above the navigator.
     QWidget* corps() const { return corps_; }
@@ -135,6 +144,8 @@ private:
     QWidget* corps_ = nullptr;
     bool écriture_finale_refusée_ = false;
     std::vector<QShortcut*> touches_accepter_; // children of the screen
+    QPointer<QTabWidget> onglets_tabulés_;
+    QList<QWidget*> ordre_tabulation_; // children of the screen
 };
 
 // The tooltip of "&Rafraîchir" in the spelling the screen uses.

@@ -57,6 +57,27 @@ TEST_F(GrilleTest, shows_every_row_under_its_heading_and_an_empty_new_row_at_the
     EXPECT_EQ(f.datPrimaryRS->Caption(), "Fiche: 1");
 }
 
+TEST_F(GrilleTest, without_allow_add_new_the_empty_new_row_stays_hidden_as_rows_come_and_go) {
+    auto& f = ouvrir();
+    DBGrid& g = *f.grdDataGrid;
+    g.setAllowAddNew(false);
+    EXPECT_FALSE(g.AllowAddNew());
+    EXPECT_TRUE(g.isRowHidden(g.newRow()));
+    EXPECT_FALSE(g.isRowHidden(2));
+
+    aller(g, 1, 0);
+    g.setFocus();
+    QTest::keyClick(&g, Qt::Key_Delete);
+    ASSERT_EQ(g.newRow(), 2);
+    EXPECT_TRUE(g.isRowHidden(2));
+    EXPECT_FALSE(g.isRowHidden(1));
+    cliquer(f, "cmdRafraîchir");
+    EXPECT_TRUE(g.isRowHidden(g.newRow()));
+
+    g.setAllowAddNew(true);
+    EXPECT_FALSE(g.isRowHidden(g.newRow()));
+}
+
 TEST_F(GrilleTest, the_grid_and_the_navigator_follow_each_other) {
     auto& f = ouvrir();
     DBGrid& g = *f.grdDataGrid;
