@@ -38,99 +38,36 @@ const char* const rafraichir =
     "Cliquez pour rafraichir les données, dans le cas d'une utilisation multi-utilisateurs";
 
 const std::vector<Déclaration>& déclarations() {
+    // clang-format off
     static const std::vector<Déclaration> d = {
-        {"menuparamètresindex6",
-         "feuille_adresses",
-         "Tables des adresses (Rues avoisinantes)",
-         "adresses",
-         {u("détails")},
-         false,
-         rafraichir},
-        {"menuparamètresindex23",
-         "feuille_assertions",
-         "Table des assertions",
-         "assertions",
-         {u("détails")},
-         false,
-         rafraîchir},
-        {"menuparamètresindex7",
-         "feuille_assurances",
-         "Tables des assurances",
-         "assurances",
-         {u("détails")},
-         false,
-         rafraichir},
-        {"menuparamètresindex8",
-         "feuille_csp",
-         "Table des CSP (Catégories Socio-Professionnelles)",
-         "csp",
-         {u("code"), u("détails")},
-         false,
-         rafraichir},
-        {"menuparamètresindex19",
-         "feuille_genres",
-         "Table des genres",
-         "genres",
-         {u("détails")},
-         false,
-         rafraîchir},
-        {"menuparamètresindex9",
-         "feuille_hôpitaux",
-         "Table des hôpitaux",
-         "hôpitaux",
-         {u("nom"), u("téléphone"), u("adresse"), u("ville")},
-         true,
-         rafraîchir},
-        {"menuparamètresindex13",
-         "feuille_langues_vivantes",
-         "Table des langues vivantes",
-         "langues_vivantes",
-         {u("détails")},
-         true,
-         rafraîchir},
-        {"menuparamètresindex12",
-         "feuille_médecins",
-         "Table des médecins",
-         "médecins",
-         {u("nom"), u("téléphone"), u("adresse"), u("ville")},
-         true,
-         rafraîchir},
-        {"menuparamètresindex15",
-         "feuille_nationalités",
-         "Table des nationalités",
-         "nationalités",
-         {u("détails"), u("code")},
-         true,
-         rafraîchir},
-        {"menuparamètresindex18",
-         "feuille_niveaux",
-         "Table des niveaux et des cycles",
-         "niveaux",
-         {u("code"), u("détails"), u("cycle")},
-         true,
-         rafraîchir},
-        {"menuparamètresindex14",
-         "feuille_sexe",
-         "Table des sexes",
-         "sexe",
-         {u("détails")},
-         true,
-         rafraîchir},
-        {"menuparamètresindex17",
-         "feuille_situations_familiales",
-         "Table des situations familiales",
-         "situations_familiales",
-         {u("détails")},
-         true,
-         rafraîchir},
-        {"menuparamètresindex16",
-         "feuille_villes",
-         "Table des villes",
-         "villes",
-         {u("codes postaux"), u("détails")},
-         true,
-         rafraîchir},
+        {"menuparamètresindex6", "feuille_adresses", "Tables des adresses (Rues avoisinantes)",
+         "adresses", {u("détails")}, false, rafraichir},
+        {"menuparamètresindex23", "feuille_assertions", "Table des assertions",
+         "assertions", {u("détails")}, false, rafraîchir},
+        {"menuparamètresindex7", "feuille_assurances", "Tables des assurances",
+         "assurances", {u("détails")}, false, rafraichir},
+        {"menuparamètresindex8", "feuille_csp", "Table des CSP (Catégories Socio-Professionnelles)",
+         "csp", {u("code"), u("détails")}, false, rafraichir},
+        {"menuparamètresindex19", "feuille_genres", "Table des genres",
+         "genres", {u("détails")}, false, rafraîchir},
+        {"menuparamètresindex9", "feuille_hôpitaux", "Table des hôpitaux",
+         "hôpitaux", {u("nom"), u("téléphone"), u("adresse"), u("ville")}, true, rafraîchir},
+        {"menuparamètresindex13", "feuille_langues_vivantes", "Table des langues vivantes",
+         "langues_vivantes", {u("détails")}, true, rafraîchir},
+        {"menuparamètresindex12", "feuille_médecins", "Table des médecins",
+         "médecins", {u("nom"), u("téléphone"), u("adresse"), u("ville")}, true, rafraîchir},
+        {"menuparamètresindex15", "feuille_nationalités", "Table des nationalités",
+         "nationalités", {u("détails"), u("code")}, true, rafraîchir},
+        {"menuparamètresindex18", "feuille_niveaux", "Table des niveaux et des cycles",
+         "niveaux", {u("code"), u("détails"), u("cycle")}, true, rafraîchir},
+        {"menuparamètresindex14", "feuille_sexe", "Table des sexes",
+         "sexe", {u("détails")}, true, rafraîchir},
+        {"menuparamètresindex17", "feuille_situations_familiales", "Table des situations familiales",
+         "situations_familiales", {u("détails")}, true, rafraîchir},
+        {"menuparamètresindex16", "feuille_villes", "Table des villes",
+         "villes", {u("codes postaux"), u("détails")}, true, rafraîchir},
     };
+    // clang-format on
     return d;
 }
 
@@ -150,6 +87,23 @@ protected:
             if (élève.SSTab1->widget(page)->isAncestorOf(b))
                 élève.SSTab1->setCurrentIndex(page);
         QTest::mouseClick(b, Qt::LeftButton);
+    }
+    // The lookup that a pupil's button opens.
+    FeuilleFiche& consulter(feuille_élève& élève, const char* bouton, const char* écran) {
+        presser(élève, bouton);
+        FeuilleFiche* f = chargée(u(écran));
+        if (!f)
+            throw std::runtime_error(écran);
+        return *f;
+    }
+    // The pupil screen closed after one of its lookups, so that origine_appel still names it.
+    void fermer_après(const char* bouton, const char* écran) {
+        feuille_élève& élève = ouvrir_élève();
+        cliquer(consulter(élève, bouton, écran), u("cmdFermer"));
+        élève.Unload();
+        processDeletions();
+        ASSERT_EQ(module1().feuilles().siChargée<feuille_élève>(), nullptr);
+        ASSERT_EQ(module1().origine_appel, 1);
     }
 };
 
@@ -199,13 +153,7 @@ TEST_F(Consultations, OnAnEmptyTableTheMenuAddsAFirstRowThatIsNotWritten) {
 }
 
 TEST_F(Consultations, FromTheMenuADoubleClickAcceptsWithTheLastValueIntoAClosedCallerLeftHidden) {
-    feuille_élève& élève = ouvrir_élève();
-    presser(élève, "Command7");
-    cliquer(*chargée(u("feuille_sexe")), u("cmdFermer"));
-    cliquer(élève, u("cmdFermer"));
-    processDeletions();
-    ASSERT_EQ(module1().feuilles().siChargée<feuille_élève>(), nullptr);
-    ASSERT_EQ(module1().origine_appel, 1);
+    fermer_après("Command7", "feuille_sexe");
 
     FeuilleFiche& nationalités = ouvrir_par_le_menu("menuparamètresindex15", "feuille_nationalités");
     EXPECT_TRUE(nationalités.bouton_accepter->isHidden());
@@ -226,11 +174,7 @@ TEST_F(Consultations, FromTheMenuADoubleClickAcceptsWithTheLastValueIntoAClosedC
 }
 
 TEST_F(Consultations, AFocusFieldOnAHiddenCallerFailsWithTheStandardBoxAfterTheCopy) {
-    feuille_élève& élève = ouvrir_élève();
-    presser(élève, "Command9");
-    cliquer(*chargée(u("feuille_villes")), u("cmdFermer"));
-    élève.Unload();
-    processDeletions();
+    fermer_après("Command9", "feuille_villes");
 
     FeuilleFiche& villes = ouvrir_par_le_menu("menuparamètresindex16", "feuille_villes");
     ui().expectMsgBox();
@@ -301,8 +245,7 @@ TEST_F(Consultations, ALookupOpenedAgainFromAnotherFieldReturnsToItsFirstRow) {
 
 TEST_F(Consultations, SexeAcceptingByTheLanguagesValueOnlyHidesItsButton) {
     feuille_élève& élève = ouvrir_élève();
-    presser(élève, "Command7");
-    FeuilleFiche* sexe = chargée(u("feuille_sexe"));
+    FeuilleFiche* sexe = &consulter(élève, "Command7", "feuille_sexe");
     presser(élève, "Command11");
     ASSERT_EQ(module1().origine_appel, 7);
     cliquer_cellule(*sexe->grdDataGrid, 1);
@@ -341,8 +284,7 @@ TEST_F(Consultations, GenresHasNoDoubleClickAndFromTheMenuNoWayToAccept) {
 
 TEST_F(Consultations, AfterTheSexTheBirthDateTakesTheFocusAndTheIdentityTabComesForward) {
     feuille_élève& élève = ouvrir_élève();
-    presser(élève, "Command7");
-    FeuilleFiche* sexe = chargée(u("feuille_sexe"));
+    FeuilleFiche* sexe = &consulter(élève, "Command7", "feuille_sexe");
     élève.SSTab1->setCurrentIndex(5);
     cliquer_cellule(*sexe->grdDataGrid, 1);
     cliquer(*sexe, u("bouton_accepter"));
@@ -353,8 +295,7 @@ TEST_F(Consultations, AfterTheSexTheBirthDateTakesTheFocusAndTheIdentityTabComes
 
 TEST_F(Consultations, EnterPressesTheShownAcceptAndEscapeCloses) {
     feuille_élève& élève = ouvrir_élève();
-    presser(élève, "Command7");
-    FeuilleFiche* sexe = chargée(u("feuille_sexe"));
+    FeuilleFiche* sexe = &consulter(élève, "Command7", "feuille_sexe");
     QTest::keyClick(sexe->grdDataGrid, Qt::Key_Escape);
     processDeletions();
     EXPECT_EQ(chargée(u("feuille_sexe")), nullptr);
@@ -371,8 +312,7 @@ TEST_F(Consultations, EnterPressesTheShownAcceptAndEscapeCloses) {
 
 TEST_F(Consultations, ClosingTheLookupHidesItsButtonAgainAndLeavesTheFieldsAndTheValue) {
     feuille_élève& élève = ouvrir_élève();
-    presser(élève, "Command8");
-    FeuilleFiche* adresses = chargée(u("feuille_adresses"));
+    FeuilleFiche* adresses = &consulter(élève, "Command8", "feuille_adresses");
     ASSERT_FALSE(adresses->bouton_accepter->isHidden());
     cliquer(*adresses, u("cmdFermer"));
     EXPECT_TRUE(adresses->bouton_accepter->isHidden());
@@ -383,8 +323,7 @@ TEST_F(Consultations, ClosingTheLookupHidesItsButtonAgainAndLeavesTheFieldsAndTh
 
 TEST_F(Consultations, ARowJustTypedInTheGridIsWhatTheAcceptCopies) {
     feuille_élève& élève = ouvrir_élève();
-    presser(élève, "Command8");
-    FeuilleFiche* adresses = chargée(u("feuille_adresses"));
+    FeuilleFiche* adresses = &consulter(élève, "Command8", "feuille_adresses");
     cliquer(*adresses, u("cmdAjouter"));
     taper_au_focus(u("chemin du Moulin"));
     cliquer(*adresses, u("bouton_accepter"));

@@ -23,21 +23,11 @@
 namespace {
 
 // The grid pickers; the team and the family picker take part in the protocol with their own screens.
-const std::set<QString> pickers_à_grille = {
-    u("feuille_adresses"),
-    u("feuille_assertions"),
-    u("feuille_assurances"),
-    u("feuille_csp"),
-    u("feuille_genres"),
-    u("feuille_hôpitaux"),
-    u("feuille_langues_vivantes"),
-    u("feuille_médecins"),
-    u("feuille_nationalités"),
-    u("feuille_niveaux"),
-    u("feuille_sexe"),
-    u("feuille_situations_familiales"),
-    u("feuille_villes"),
-};
+const QStringList pickers_à_grille =
+    u("feuille_adresses feuille_assertions feuille_assurances feuille_csp feuille_genres feuille_hôpitaux "
+      "feuille_langues_vivantes feuille_médecins feuille_nationalités feuille_niveaux feuille_sexe "
+      "feuille_situations_familiales feuille_villes")
+        .split(u' ');
 
 struct Cas {
     const Retour* retour;
