@@ -1,5 +1,14 @@
 #include "BaseEleves.h"
 
+#include "people/feuille_élève.h"
+#include "platform/forms/Module1.h"
+#include "shell/MDIForm1.h"
+#include "shell/commandes.h"
+#include "support/PiloteEcran.h"
+
+#include <QApplication>
+#include <stdexcept>
+
 QString créer_base_élèves(const WorkFolder& dossier) {
     return copie_du_modèle(dossier);
 }
@@ -13,4 +22,40 @@ void ajouter_élève(const QString& chemin, const QString& matricule, const QStr
     exécuter_par_le_moteur(chemin, QStringLiteral("INSERT INTO élèves (matricule, nom_élève, prénom_élève, "
                                                   "référence_famille) VALUES (%1, %2, %3, %4)")
                                        .arg(texte(matricule), texte(nom), texte(prénom), texte(référence)));
+}
+
+void ajouter_élèves(const QString& chemin, std::initializer_list<const char*> matricules) {
+    for (const char* m : matricules)
+        ajouter_élève(chemin, QString::fromUtf8(m), QStringLiteral("NOM") + QString::fromUtf8(m));
+}
+
+ÉcranÉlèveTest::ÉcranÉlèveTest() = default;
+ÉcranÉlèveTest::~ÉcranÉlèveTest() = default;
+
+void ÉcranÉlèveTest::SetUp() {
+    WorkFolderTest::SetUp();
+    base = créer_base_élèves(folder);
+    module1().base_en_cours = base;
+    mdi = std::make_unique<MDIForm1>();
+    mdi->show();
+    QApplication::setActiveWindow(mdi.get());
+}
+
+void ÉcranÉlèveTest::TearDown() {
+    WorkFolderTest::TearDown();
+    mdi.reset();
+}
+
+feuille_élève& ÉcranÉlèveTest::ouvrir() {
+    exécuter_commande(*mdi, QStringLiteral("menuenfantsindex1"));
+    auto* f = module1().feuilles().siChargée<feuille_élève>();
+    if (!f)
+        throw std::runtime_error("la fiche élève ne s'est pas ouverte");
+    if (activer)
+        montrer_active(*f);
+    return *f;
+}
+
+QStringList ÉcranÉlèveTest::matricules() const {
+    return colonne_du_fichier(base, QStringLiteral("élèves"), QStringLiteral("matricule"));
 }

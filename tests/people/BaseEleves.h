@@ -4,6 +4,16 @@
 #include "support/Fixtures.h"
 
 #include <QString>
+#include <QStringList>
+#include <initializer_list>
+#include <memory>
+
+class MDIForm1;
+class feuille_élève;
+
+inline QString u(const char* utf8) {
+    return QString::fromUtf8(utf8);
+}
 
 // A fresh work base for the pupil screens, copied from the template: no pupil, no parameters, the
 // template's letters.
@@ -12,3 +22,22 @@ QString créer_base_élèves(const WorkFolder& dossier);
 // A pupil written into the file behind the program's back.
 void ajouter_élève(const QString& chemin, const QString& matricule, const QString& nom = {},
                    const QString& prénom = {}, const QString& référence = {});
+// Pupils known by their matricule alone, each named "NOM" and the matricule.
+void ajouter_élèves(const QString& chemin, std::initializer_list<const char*> matricules);
+
+// The pupil screen over a fresh work base, in the main window, as the user reaches it.
+class ÉcranÉlèveTest : public WorkFolderTest {
+protected:
+    QString base;
+    std::unique_ptr<MDIForm1> mdi;
+    bool activer = false; // ouvrir() also brings the screen's window in front and active
+
+    ÉcranÉlèveTest();
+    ~ÉcranÉlèveTest() override;
+    void SetUp() override;
+    void TearDown() override;
+
+    // "Gestion du fichier des &Elèves", as the user picks it in the menu.
+    feuille_élève& ouvrir();
+    QStringList matricules() const;
+};

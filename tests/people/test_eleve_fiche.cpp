@@ -8,8 +8,6 @@
 #include "platform/forms/DataControl.h"
 #include "platform/forms/Module1.h"
 #include "reports/feuille_documents.h"
-#include "shell/MDIForm1.h"
-#include "shell/commandes.h"
 #include "support/PiloteEcran.h"
 
 #include <QApplication>
@@ -19,13 +17,8 @@
 #include <QPlainTextEdit>
 #include <QTabWidget>
 #include <QTest>
-#include <memory>
 
 namespace {
-
-QString u(const char* utf8) {
-    return QString::fromUtf8(utf8);
-}
 
 const QString ordre_des_matricules = u("SELECT * FROM élèves ORDER BY matricule ASC");
 const QString ordre_alphabétique = u("SELECT * FROM élèves ORDER BY nom_élève ASC, prénom_élève ASC");
@@ -33,33 +26,22 @@ const QString question_fratrie =
     u("Voulez-vous ajouter une fiche dans la fratrie en cours (OUI) ou ajouter une "
       "fiche sans référence à la fratrie en cours (NON)...");
 
-class FicheEleveSurBase : public WorkFolderTest {
+class FicheEleveSurBase : public ÉcranÉlèveTest {
 protected:
-    QString base;
-    std::unique_ptr<MDIForm1> mdi;
-
-    void SetUp() override {
-        WorkFolderTest::SetUp();
-        base = créer_base_élèves(folder);
-        module1().base_en_cours = base;
-        mdi = std::make_unique<MDIForm1>();
-        mdi->show();
-        QApplication::setActiveWindow(mdi.get());
+    // The screen unloaded, for the next case to open it afresh.
+    static void décharger(feuille_élève& f) {
+        f.Unload();
+        ScriptedTest::processDeletions();
     }
-    void TearDown() override {
-        WorkFolderTest::TearDown();
-        mdi.reset();
+    // The letter templates of the base replaced by these, then the screen opened on one pupil.
+    feuille_élève& ouvrir_sur_modèles(const QString& valeurs) {
+        exécuter_par_le_moteur(base, u("DELETE * FROM documents"));
+        exécuter_par_le_moteur(base, u("INSERT INTO documents (intitulé_bouton) VALUES ") + valeurs);
+        ajouter_élève(base, u("000001"), u("UN"));
+        feuille_élève& f = ouvrir();
+        f.grdDataGrid->setCurrentIndex(f.grdDataGrid->model()->index(0, 0));
+        return f;
     }
-
-    // "Gestion du fichier des &Elèves", as the user picks it in the menu.
-    feuille_élève& ouvrir() {
-        exécuter_commande(*mdi, u("menuenfantsindex1"));
-        auto* f = module1().feuilles().siChargée<feuille_élève>();
-        if (!f)
-            throw std::runtime_error("la fiche élève ne s'est pas ouverte");
-        return *f;
-    }
-    QStringList matricules() const { return colonne_du_fichier(base, u("élèves"), u("matricule")); }
 };
 
 void cliquer_ajouter(feuille_élève& f) {
@@ -104,8 +86,7 @@ TEST_F(FicheEleveSurBase, AnEmptyTableOpensOnANewPupil000001WrittenOnlyBySaveOrM
             cliquer(f, u("cmdMettreàjour"));
         EXPECT_EQ(matricules(), QStringList{u("000001")});
         EXPECT_EQ(colonne_du_fichier(base, u("élèves"), u("référence_famille")), QStringList{u("<null>")});
-        f.Unload();
-        ScriptedTest::processDeletions();
+        décharger(f);
     }
 }
 
@@ -141,8 +122,7 @@ TEST_F(FicheEleveSurBase, AddNumbersOneAboveTheHighestMatriculeWithLeadingZeros)
         cliquer(f, u("cmdMettreàjour"));
         EXPECT_TRUE(matricules().contains(u(c.attendu)));
         EXPECT_EQ(f.matricule->text(), u(c.attendu));
-        f.Unload();
-        ScriptedTest::processDeletions();
+        décharger(f);
     }
 }
 
@@ -211,13 +191,11 @@ TEST_F(FicheEleveSurBase, CancelChangesNothing) {
     EXPECT_EQ(f.datPrimaryRS->Caption(), u("Fiche: 0"));
     EXPECT_EQ(f.datPrimaryRS->RecordSource(), ordre_des_matricules);
     EXPECT_TRUE(matricules().isEmpty());
-    f.Unload();
-    ScriptedTest::processDeletions();
+    décharger(f);
     exécuter_par_le_moteur(base, u("DELETE FROM élèves"));
 
     // ... and on a pupil in the middle of the list, with the order the user had.
-    for (const char* m : {"000001", "000002", "000003"})
-        ajouter_élève(base, u(m), u("NOM") + u(m));
+    ajouter_élèves(base, {"000001", "000002", "000003"});
     feuille_élève& g = ouvrir();
     cliquer(*g.datPrimaryRS, u("suivant"));
     ui().expectMsgBox(vbCancel);
@@ -284,24 +262,17 @@ TEST_F(FicheEleveSurBase, DeletingAsksNothingAndLandsOnTheNextOrTheNewLastPupil)
     EXPECT_TRUE(ui().boxes().empty());
 }
 
-TEST_F(FicheEleveSurBase, DeletingTheOnlyPupilShowsTheNoCurrentRecordBoxAndKeepsTheScreen) {
+// With no pupil left, the add has no last matricule to count from: its move to the last row is
+// reported, no record is added, and the matricule order of that step stays.
+TEST_F(FicheEleveSurBase, DeletingTheOnlyPupilThenAddingReportsTheMissingRowEachTimeAndAddsNothing) {
     ajouter_élève(base, u("000001"), u("SEUL"));
     feuille_élève& f = ouvrir();
     ui().expectMsgBox(vbOK);
     cliquer(f, u("cmdSupprimer"));
     EXPECT_TRUE(ui().lastBox().text.startsWith(u("Le logiciel a rencontré l'erreur : 3021\n\n")));
-    EXPECT_TRUE(matricules().isEmpty());
-    EXPECT_TRUE(module1().feuilles().isLoaded<feuille_élève>());
-}
-
-// With no pupil left, the add has no last matricule to count from: its move to the last row is
-// reported, no record is added, and the matricule order of that step stays.
-TEST_F(FicheEleveSurBase, AddingOnceTheLastPupilIsDeletedReportsTheMissingRowAndAddsNothing) {
-    ajouter_élève(base, u("000001"), u("SEUL"));
-    feuille_élève& f = ouvrir();
-    ui().expectMsgBox(vbOK);
-    cliquer(f, u("cmdSupprimer"));
     ASSERT_TRUE(matricules().isEmpty());
+    EXPECT_TRUE(module1().feuilles().isLoaded<feuille_élève>());
+
     ui().expectMsgBox(vbNo).expectMsgBox(vbOK);
     cliquer_ajouter(f);
     ASSERT_EQ(ui().boxes().size(), 3u);
@@ -411,11 +382,7 @@ TEST_F(FicheEleveSurBase, TheLastTabListsTheTemplatesAndOpensThePickedOneForEdit
 }
 
 TEST_F(FicheEleveSurBase, ATemplateNameNoLongerInTheFileOpensANewTemplate) {
-    exécuter_par_le_moteur(base, u("DELETE * FROM documents"));
-    exécuter_par_le_moteur(base, u("INSERT INTO documents (intitulé_bouton) VALUES ('Ancien'), ('Autre')"));
-    ajouter_élève(base, u("000001"), u("UN"));
-    feuille_élève& f = ouvrir();
-    f.grdDataGrid->setCurrentIndex(f.grdDataGrid->model()->index(0, 0));
+    feuille_élève& f = ouvrir_sur_modèles(u("('Ancien'), ('Autre')"));
     exécuter_par_le_moteur(base, u("DELETE FROM documents WHERE intitulé_bouton = 'Ancien'"));
     cliquer(f, u("Command6"));
     auto& documents = module1().feuilles().get<feuille_documents>();
@@ -426,11 +393,7 @@ TEST_F(FicheEleveSurBase, ATemplateNameNoLongerInTheFileOpensANewTemplate) {
 }
 
 TEST_F(FicheEleveSurBase, EditingATemplateWhenNoneIsLeftReportsTheMissingRecord) {
-    exécuter_par_le_moteur(base, u("DELETE * FROM documents"));
-    exécuter_par_le_moteur(base, u("INSERT INTO documents (intitulé_bouton) VALUES ('Seul')"));
-    ajouter_élève(base, u("000001"), u("UN"));
-    feuille_élève& f = ouvrir();
-    f.grdDataGrid->setCurrentIndex(f.grdDataGrid->model()->index(0, 0));
+    feuille_élève& f = ouvrir_sur_modèles(u("('Seul')"));
     exécuter_par_le_moteur(base, u("DELETE FROM documents"));
     ui().expectMsgBox(vbOK);
     cliquer(f, u("Command6"));
@@ -482,8 +445,7 @@ TEST_F(FicheEleveSurBase, ButtonsWhoseWorkComesLaterDoNothingYet) {
 }
 
 TEST_F(FicheEleveSurBase, RefreshGoesBackToTheFirstPupilAndReportsAFailure) {
-    for (const char* m : {"000001", "000002"})
-        ajouter_élève(base, u(m), u("NOM") + u(m));
+    ajouter_élèves(base, {"000001", "000002"});
     feuille_élève& f = ouvrir();
     cliquer(*f.datPrimaryRS, u("dernier"));
     cliquer(f, u("cmdRafraîchir"));

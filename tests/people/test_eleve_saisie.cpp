@@ -45,64 +45,33 @@ protected:
 };
 
 TEST_F(SaisieEleve, TheTabKeyWalksTheFieldsAcrossThePagesInTheSchoolsOrder) {
+    // Page by page, the fields in the order the Tab key reaches them.
     const struct {
-        const char* champ;
         int onglet;
+        const char* champs;
     } ordre[] = {
-        {"matricule", 0},
-        {"nom_enfant", 0},
-        {"prénom_enfant", 0},
-        {"code_nationalité", 0},
-        {"date_naissance", 0},
-        {"lieu_naissance", 0},
-        {"date_inscription", 0},
-        {"cursus_allongé_élève", 1},
-        {"saisine_ccpe_élève", 1},
-        {"nom_contact1", 2},
-        {"prénom_contact1", 2},
-        {"téléphone_contact1", 2},
-        {"nom_contact2", 2},
-        {"prénom_contact2", 2},
-        {"téléphone_contact2", 2},
-        {"nom_contact3", 2},
-        {"prénom_contact3", 2},
-        {"téléphone_contact3", 2},
-        {"nom_contact4", 2},
-        {"prénom_contact4", 2},
-        {"téléphone_contact4", 2},
-        {"nom_contact5", 2},
-        {"prénom_contact5", 2},
-        {"téléphone_contact5", 2},
-        {"numéro_résidence", 3},
-        {"adresse2_résidence", 3},
-        {"téléphone1_résidence", 3},
-        {"téléphone2_résidence", 3},
-        {"vaccinations", 4},
-        {"allergies", 4},
-        {"contre_indications", 4},
-        {"observations_médicales", 4},
-        {"coopérative_scolaire", 4},
-        {"restauration_scolaire", 4},
-        {"participation_usep", 4},
-        {"observations_générales", 4},
-        {"champ_paramétable1", 5},
-        {"champ_paramétable2", 5},
-        {"champ_paramétable3", 5},
-        {"champ_paramétable4", 5},
-        {"champ_paramétable5", 5},
-        {"champ_paramétable6", 6},
-        {"champ_paramétable7", 6},
-        {"champ_paramétable8", 6},
-        {"champ_paramétable9", 6},
-        {"champ_paramétable10", 6},
+        {0, "matricule nom_enfant prénom_enfant code_nationalité date_naissance lieu_naissance "
+            "date_inscription"},
+        {1, "cursus_allongé_élève saisine_ccpe_élève"},
+        {2, "nom_contact1 prénom_contact1 téléphone_contact1 nom_contact2 prénom_contact2 téléphone_contact2 "
+            "nom_contact3 prénom_contact3 téléphone_contact3 nom_contact4 prénom_contact4 téléphone_contact4 "
+            "nom_contact5 prénom_contact5 téléphone_contact5"},
+        {3, "numéro_résidence adresse2_résidence téléphone1_résidence téléphone2_résidence"},
+        {4, "vaccinations allergies contre_indications observations_médicales coopérative_scolaire "
+            "restauration_scolaire participation_usep observations_générales"},
+        {5, "champ_paramétable1 champ_paramétable2 champ_paramétable3 champ_paramétable4 champ_paramétable5"},
+        {6,
+         "champ_paramétable6 champ_paramétable7 champ_paramétable8 champ_paramétable9 champ_paramétable10"},
     };
     focus(f->matricule);
-    for (const auto& étape : ordre) {
-        SCOPED_TRACE(étape.champ);
-        ASSERT_NE(QApplication::focusWidget(), nullptr);
-        EXPECT_EQ(QApplication::focusWidget()->objectName(), u(étape.champ));
-        EXPECT_EQ(f->SSTab1->currentIndex(), étape.onglet);
-        tab();
+    for (const auto& page : ordre) {
+        for (const QString& champ : u(page.champs).split(u' ')) {
+            SCOPED_TRACE(champ.toStdString());
+            ASSERT_NE(QApplication::focusWidget(), nullptr);
+            EXPECT_EQ(QApplication::focusWidget()->objectName(), champ);
+            EXPECT_EQ(f->SSTab1->currentIndex(), page.onglet);
+            tab();
+        }
     }
     // Neither the radiation fields nor a disabled lookup field come before the buttons.
     EXPECT_NE(QApplication::focusWidget()->objectName(), u("établissement_accueil"));
@@ -152,9 +121,6 @@ TEST_F(SaisieEleve, TheInscriptionButtonWritesTodayOverWhatStood) {
     EXPECT_EQ(f->date_inscription->text(), u("03/09/2026"));
 }
 
-} // namespace
-
-namespace {
 TEST_F(SaisieEleve, AFocusGivenByCodeToAFieldOfAHiddenPageTurnsToThatPage) {
     const struct {
         const char* champ;
@@ -173,9 +139,7 @@ TEST_F(SaisieEleve, AFocusGivenByCodeToAFieldOfAHiddenPageTurnsToThatPage) {
         EXPECT_EQ(QApplication::focusWidget(), champ);
     }
 }
-} // namespace
 
-namespace {
 // A click on a tab shows that page, also when the focus stood in a field of the page it leaves: the
 // field's neighbour in the school's order must not pull the old page back over the new one.
 TEST_F(SaisieEleve, AClickOnATabShowsItsPageWhereverTheFocusStood) {
