@@ -282,17 +282,6 @@ TEST_F(Consultations, GenresHasNoDoubleClickAndFromTheMenuNoWayToAccept) {
     EXPECT_TRUE(ui().boxes().empty());
 }
 
-TEST_F(Consultations, AfterTheSexTheBirthDateTakesTheFocusAndTheIdentityTabComesForward) {
-    feuille_élève& élève = ouvrir_élève();
-    FeuilleFiche* sexe = &consulter(élève, "Command7", "feuille_sexe");
-    élève.SSTab1->setCurrentIndex(5);
-    cliquer_cellule(*sexe->grdDataGrid, 1);
-    cliquer(*sexe, u("bouton_accepter"));
-    EXPECT_EQ(élève.sexe->text(), u("Féminin"));
-    EXPECT_EQ(QApplication::focusWidget(), élève.date_naissance);
-    EXPECT_EQ(élève.SSTab1->currentIndex(), 0);
-}
-
 TEST_F(Consultations, EnterPressesTheShownAcceptAndEscapeCloses) {
     feuille_élève& élève = ouvrir_élève();
     FeuilleFiche* sexe = &consulter(élève, "Command7", "feuille_sexe");
