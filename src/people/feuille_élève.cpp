@@ -1,4 +1,5 @@
 #include "people/feuille_élève.h"
+#include "platform/forms/Disposition.h"
 
 #include "people/ordres_élèves.h"
 #include "people/recherches_élèves.h"
@@ -58,20 +59,6 @@ protected:
         return event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Delete;
     }
 };
-
-// Takes a widget out of whatever layout holds it, so that another layout can take it in.
-bool retirer_de(QLayout* disposition, QWidget* w) {
-    if (!disposition)
-        return false;
-    if (disposition->indexOf(w) >= 0) {
-        disposition->removeWidget(w);
-        return true;
-    }
-    for (int i = 0; i < disposition->count(); ++i)
-        if (retirer_de(disposition->itemAt(i)->layout(), w))
-            return true;
-    return false;
-}
 
 QString texte(const char* utf8) {
     return QString::fromUtf8(utf8);

@@ -1,4 +1,5 @@
 #include "reference/feuille_équipe.h"
+#include "platform/forms/Disposition.h"
 
 #include "platform/errors/ErrorBoxes.h"
 #include "platform/forms/DataControl.h"
@@ -35,20 +36,6 @@ ConfigurationFiche configuration_équipe() {
     c.suppression = FormeSuppression::piégée;
     c.bouton_accepter = BoutonAccepter::désactivé;
     return c;
-}
-
-// Takes a widget out of whatever layout of the screen holds it, so that a group can take it in.
-bool retirer_de(QLayout* disposition, QWidget* w) {
-    if (disposition == nullptr)
-        return false;
-    if (disposition->indexOf(w) >= 0) {
-        disposition->removeWidget(w);
-        return true;
-    }
-    for (int i = 0; i < disposition->count(); ++i)
-        if (retirer_de(disposition->itemAt(i)->layout(), w))
-            return true;
-    return false;
 }
 
 } // namespace
