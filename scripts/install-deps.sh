@@ -5,8 +5,8 @@ set -euo pipefail
 
 packages=(
     cmake ninja-build g++ pkg-config
-    qt6-base-dev qt6-charts-dev libgl-dev qt6-translations-l10n
-    libsqlite3-dev
+    qt6-base-dev libqt6opengl6-dev qt6-charts-dev libgl-dev qt6-translations-l10n
+    libsqlite3-dev libicu-dev
     libgtest-dev libgmock-dev googletest libbenchmark-dev
     fonts-dejavu-core xvfb xauth
 )
