@@ -1,0 +1,44 @@
+#include "platform/files/SafeSave.h"
+#include "support/FailingDevice.h"
+#include "support/Fixtures.h"
+
+#include <QDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(SafeSave, AWriteThatFailsHalfWayLeavesTheOldFileAndNoLeftover) {
+    WorkFolder folder;
+    const QString target = folder.write(QStringLiteral("liste.rtf"), "ancien");
+    const VbError error = raised_by([&] {
+        saveWhole(target, [](QIODevice& out) {
+            writeAll(out, "début d'un nouveau contenu");
+            throw VbError(61);
+        });
+    });
+    EXPECT_EQ(error.number(), 61);
+    EXPECT_EQ(contentOf(target), "ancien");
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{QStringLiteral("liste.rtf")});
+}
+
+TEST(SafeSave, ACompleteWriteReplacesTheFile) {
+    WorkFolder folder;
+    const QString target = folder.write(QStringLiteral("liste.rtf"), "ancien");
+    saveWhole(target, [](QIODevice& out) { writeAll(out, "nouveau"); });
+    EXPECT_EQ(contentOf(target), "nouveau");
+}
+
+TEST(SafeSave, AFolderThatIsNotThereIsRefusedWithNothingWritten) {
+    WorkFolder folder;
+    const QString target = folder.file(QStringLiteral("absent/liste.rtf"));
+    EXPECT_NE(error_of([&] { saveWhole(target, [](QIODevice& out) { writeAll(out, "x"); }); }), 0);
+    EXPECT_EQ(contentOf(target), "<absent>");
+}
+
+TEST(SafeSave, AShortWriteIsAnErrorNotASilentTruncation) {
+    FailingDevice device(4);
+    EXPECT_EQ(error_of([&] { writeAll(device, "abcdefgh"); }), 75);
+    EXPECT_EQ(device.written(), "abcd");
+}
+
+} // namespace
