@@ -406,12 +406,37 @@ void remplir_démonstration(Database& base, const Démonstration& options) {
     }
 }
 
-QStringList scripts_modèle() {
-    QStringList scripts;
-    for (const char* name : {":/modele/schema.sql", ":/modele/seed.sql"}) {
-        QFile file(QString::fromUtf8(name));
-        if (file.open(QIODevice::ReadOnly))
-            scripts << QString::fromUtf8(file.readAll());
+namespace {
+
+QString texte_ressource(const QString& nom) {
+    QFile file(nom);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+// The towns of France (villes.tsv: a header line, then postal code TAB commune) as INSERTs of a few
+// hundred rows each, which keeps every statement small for the engine.
+QString insertions_villes(const QString& tableau) {
+    constexpr int lignes_par_insertion = 500;
+    const auto littéral = [](QString texte) {
+        return u'\'' + texte.replace(u'\'', QStringLiteral("''")) + u'\'';
+    };
+    QStringList valeurs;
+    for (const QString& ligne : tableau.split(u'\n', Qt::SkipEmptyParts).mid(1)) {
+        const QStringList cellules = ligne.split(u'\t');
+        if (cellules.size() == 2)
+            valeurs << u'(' + littéral(cellules[0]) + QStringLiteral(", ") + littéral(cellules[1]) + u')';
     }
-    return scripts;
+    QString sql;
+    for (qsizetype début = 0; début < valeurs.size(); début += lignes_par_insertion)
+        sql += QStringLiteral("INSERT INTO villes (code_postal, détails) VALUES ") +
+               valeurs.mid(début, lignes_par_insertion).join(QStringLiteral(", ")) + QStringLiteral(";\n");
+    return sql;
+}
+
+} // namespace
+
+QStringList scripts_modèle() {
+    return {texte_ressource(QStringLiteral(":/modele/schema.sql")),
+            texte_ressource(QStringLiteral(":/modele/seed.sql")),
+            insertions_villes(texte_ressource(QStringLiteral(":/modele/villes.tsv")))};
 }

@@ -109,6 +109,15 @@ TEST_F(Template, LookupTablesCarryUsefulFrenchRows) {
     EXPECT_TRUE(values("langues_vivantes", "détails").contains("Anglais"));
 }
 
+TEST_F(Template, TownsAreThoseOfFrance) {
+    EXPECT_EQ(values("SELECT * FROM villes WHERE code_postal = \"75001\"", "détails"), QStringList{"Paris"});
+    EXPECT_EQ(values("SELECT * FROM villes WHERE code_postal = \"94240\"", "détails"),
+              QStringList{"L'Haÿ-les-Roses"});
+    const int towns = db->OpenRecordset("villes")->RecordCount();
+    EXPECT_GT(towns, 30000);
+    EXPECT_LT(towns, 60000);
+}
+
 TEST_F(Template, ThreeLetterTemplatesAndAnEmptyAccessCode) {
     EXPECT_EQ(values("documents", "intitulé_bouton"),
               (QStringList{"Certificat de scolarité", "Certificat de radiation", "Réunion de parents"}));
