@@ -1,9 +1,11 @@
-// A pick from a lookup of every town of France (about 36,000 rows): the pupil's "code postal" opens
-// the towns, the user goes to the last one and accepts, which copies two cells into the pupil screen,
-// closes the lookup and gives the focus to the telephone.
+// A pick from the lookup of every town of France that the template carries (about 35,700 rows): the
+// pupil's "code postal" opens the towns, the user goes to the last one and accepts, which copies two
+// cells into the pupil screen, closes the lookup and gives the focus to the telephone. The goal is that
+// of an answer the user does not wait for.
 #include "BenchSupport.h"
 #include "people/feuille_élève.h"
 #include "platform/dao/Database.h"
+#include "platform/dao/Recordset.h"
 #include "platform/forms/DBGrid.h"
 #include "platform/forms/DataControl.h"
 #include "platform/forms/Module1.h"
@@ -13,33 +15,31 @@
 
 #include <QLineEdit>
 #include <QPushButton>
-#include <sqlite3.h>
 
 namespace {
 
-constexpr int villes = 36000;
+constexpr int objectif_ms = 100;
 
-QString fabriquer_base() {
+struct Base {
+    QString chemin;
+    QString dernière_ville;
+};
+
+// The template as it is, with one pupil to open the pupil screen on.
+Base fabriquer_base() {
     const QString chemin = banc::copie_du_modèle(QStringLiteral("banc.mdb"));
-    sqlite3* db = nullptr;
-    sqlite3_open(chemin.toUtf8().constData(), &db);
-    const std::string sql = "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < " +
-                            std::to_string(villes) +
-                            ") INSERT INTO villes (code_postal, détails) "
-                            "SELECT printf('%05d', i), 'Commune ' || i FROM n;";
-    char* erreur = nullptr;
-    if (sqlite3_exec(db, sql.c_str(), nullptr, nullptr, &erreur) != SQLITE_OK)
-        qFatal("base du banc : %s", erreur);
-    sqlite3_close(db);
-    // The pupils' indexes use the store's own sort key: the pupil goes in through the store.
-    Database::open(chemin)->Execute(
+    auto base = Database::open(chemin);
+    base->Execute(
         QStringLiteral("INSERT INTO élèves (matricule, nom_élève) VALUES (\"000001\", \"MARTIN\")"));
-    return chemin;
+    auto villes = base->OpenRecordset(QStringLiteral("villes"));
+    villes->MoveLast();
+    return {chemin, villes->field(QStringLiteral("détails")).toString()};
 }
 
 void BM_choix_de_la_dernière_ville(benchmark::State& state) {
     Module1& m = module1();
-    m.base_en_cours = fabriquer_base();
+    const Base base = fabriquer_base();
+    m.base_en_cours = base.chemin;
     faire_connaître_les_écrans();
     ouvrir_table_élèves();
     feuille_élève& élève = m.feuilles().get<feuille_élève>();
@@ -51,8 +51,9 @@ void BM_choix_de_la_dernière_ville(benchmark::State& state) {
         lookup.bouton_accepter_Click();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
-    if (élève.ville_résidence->text() != QStringLiteral("Commune %1").arg(villes))
+    if (élève.ville_résidence->text() != base.dernière_ville)
         state.SkipWithError("la ville choisie n'est pas arrivée");
+    state.SetLabel("objectif < " + std::to_string(objectif_ms) + " ms");
     m.réinitialiser();
 }
 BENCHMARK(BM_choix_de_la_dernière_ville)->Unit(benchmark::kMillisecond);

@@ -136,6 +136,29 @@ constexpr std::array<Ville, 6> villes = {{{"69100", "Villeurbanne"},
                                           {"69200", "Vénissieux"},
                                           {"69140", "Rillieux-la-Pape"}}};
 
+// The family doctors and hospitals of the neighbourhood, at an address of rues in a town of villes (indexes).
+struct Praticien {
+    const char* nom;
+    const char* téléphone;
+    const char* numéro;
+    int rue;
+    int ville;
+};
+constexpr std::array<Praticien, 6> médecins = {{{"Dr Anne Mercier", "04 00 00 10 01", "14", 7, 0},
+                                                {"Dr Hélène Fabre", "04 00 00 10 02", "3", 1, 1},
+                                                {"Dr Julien Marchal", "04 00 00 10 03", "27", 0, 2},
+                                                {"Dr Sophie Renaud", "04 00 00 10 04", "8", 3, 3},
+                                                {"Dr Olivier Caron", "04 00 00 10 05", "41", 2, 4},
+                                                {"Dr Sandrine Lacroix", "04 00 00 10 06", "5", 10, 5}}};
+constexpr std::array<Praticien, 3> hôpitaux = {
+    {{"Centre hospitalier des Acacias", "04 00 00 20 01", "2", 8, 0},
+     {"Hôpital pédiatrique du Parc", "04 00 00 20 02", "60", 1, 2},
+     {"Clinique des Lilas", "04 00 00 20 03", "12", 9, 4}}};
+
+const QStringList assurances = {
+    QStringLiteral("Assurance scolaire du Rhône"), QStringLiteral("Mutuelle des Tilleuls"),
+    QStringLiteral("Prévoyance familiale des Lilas"), QStringLiteral("Caisse mutuelle des Acacias")};
+
 const QStringList professions = {
     QStringLiteral("Infirmière"),  QStringLiteral("Technicien"),  QStringLiteral("Comptable"),
     QStringLiteral("Boulanger"),   QStringLiteral("Enseignante"), QStringLiteral("Ingénieur"),
@@ -201,6 +224,48 @@ QString courriel(const QString& prénom, const QString& nom) {
     return adresse + QStringLiteral("@exemple.fr");
 }
 
+QString adresse_de(const Praticien& p) {
+    return QString::fromUtf8(p.numéro) + u' ' + rues[p.rue];
+}
+
+// The four columns of a doctor or a hospital, copied together as its lookup copies them.
+void copier_praticien(Recordset& familles, const QString& colonne, const Praticien& p) {
+    familles.setField(colonne, QString::fromUtf8(p.nom));
+    familles.setField(QStringLiteral("téléphone_") + colonne, QString::fromUtf8(p.téléphone));
+    familles.setField(QStringLiteral("adresse_") + colonne, adresse_de(p));
+    familles.setField(QStringLiteral("ville_") + colonne, QString::fromUtf8(villes[p.ville].nom));
+}
+
+// The lookups hold every street, insurer, doctor and hospital that the records name; the towns are
+// the template's own.
+void écrire_listes(Database& base) {
+    auto adresses = base.OpenRecordset(QStringLiteral("adresses"));
+    for (const QString& rue : rues) {
+        adresses->AddNew();
+        adresses->setField(QStringLiteral("détails"), rue);
+        adresses->Update();
+    }
+    auto sociétés = base.OpenRecordset(QStringLiteral("assurances"));
+    for (const QString& société : assurances) {
+        sociétés->AddNew();
+        sociétés->setField(QStringLiteral("détails"), société);
+        sociétés->Update();
+    }
+    const auto écrire = [&base](const QString& table, const auto& praticiens) {
+        auto rs = base.OpenRecordset(table);
+        for (const Praticien& p : praticiens) {
+            rs->AddNew();
+            rs->setField(QStringLiteral("nom"), QString::fromUtf8(p.nom));
+            rs->setField(QStringLiteral("téléphone"), QString::fromUtf8(p.téléphone));
+            rs->setField(QStringLiteral("adresse"), adresse_de(p));
+            rs->setField(QStringLiteral("ville"), QString::fromUtf8(villes[p.ville].nom));
+            rs->Update();
+        }
+    };
+    écrire(QStringLiteral("médecins"), médecins);
+    écrire(QStringLiteral("hôpitaux"), hôpitaux);
+}
+
 struct Famille {
     QString référence, nom, numéro, rue, code_postal, ville, téléphone;
 };
@@ -235,9 +300,15 @@ Famille écrire_famille(Recordset& familles, Dés& dés, int numéro) {
     familles.setField(QStringLiteral("code_postal_responsable"), f.code_postal);
     familles.setField(QStringLiteral("ville_responsable"), f.ville);
     familles.setField(QStringLiteral("communication_données"), dés.chance(85) ? "oui" : "non");
-    familles.setField(QStringLiteral("société_assurance"), QStringLiteral("Assurance scolaire du Rhône"));
+    familles.setField(QStringLiteral("société_assurance"), dés.parmi(assurances));
     familles.setField(QStringLiteral("police_assurance"),
                       QStringLiteral("AS-%1").arg(dés.entre(100000, 999999)));
+    if (dés.chance(85))
+        copier_praticien(familles, QStringLiteral("médecin_traitant"),
+                         médecins[dés.entre(0, static_cast<int>(médecins.size()) - 1)]);
+    if (dés.chance(60))
+        copier_praticien(familles, QStringLiteral("hôpital_préférentiel"),
+                         hôpitaux[dés.entre(0, static_cast<int>(hôpitaux.size()) - 1)]);
     if (dés.chance(75)) {
         const QString prénom2 = dés.parmi(mère_d_abord ? prénoms_adultes_hommes : prénoms_adultes_femmes);
         const int métier2 = dés.entre(0, static_cast<int>(professions.size()) - 1);
@@ -380,6 +451,7 @@ void remplir_démonstration(Database& base, const Démonstration& options) {
     const std::vector<Classe> classes = classes_pour(options.élèves);
     base.BeginTrans();
     try {
+        écrire_listes(base);
         écrire_école(base);
         écrire_équipe(base, dés, classes);
         auto familles = base.OpenRecordset(QStringLiteral("familles"));
@@ -406,12 +478,37 @@ void remplir_démonstration(Database& base, const Démonstration& options) {
     }
 }
 
-QStringList scripts_modèle() {
-    QStringList scripts;
-    for (const char* name : {":/modele/schema.sql", ":/modele/seed.sql"}) {
-        QFile file(QString::fromUtf8(name));
-        if (file.open(QIODevice::ReadOnly))
-            scripts << QString::fromUtf8(file.readAll());
+namespace {
+
+QString texte_ressource(const QString& nom) {
+    QFile file(nom);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+// The towns of France (villes.tsv: a header line, then postal code TAB commune) as INSERTs of a few
+// hundred rows each, which keeps every statement small for the engine.
+QString insertions_villes(const QString& tableau) {
+    constexpr int lignes_par_insertion = 500;
+    const auto littéral = [](QString texte) {
+        return u'\'' + texte.replace(u'\'', QStringLiteral("''")) + u'\'';
+    };
+    QStringList valeurs;
+    for (const QString& ligne : tableau.split(u'\n', Qt::SkipEmptyParts).mid(1)) {
+        const QStringList cellules = ligne.split(u'\t');
+        if (cellules.size() == 2)
+            valeurs << u'(' + littéral(cellules[0]) + QStringLiteral(", ") + littéral(cellules[1]) + u')';
     }
-    return scripts;
+    QString sql;
+    for (qsizetype début = 0; début < valeurs.size(); début += lignes_par_insertion)
+        sql += QStringLiteral("INSERT INTO villes (code_postal, détails) VALUES ") +
+               valeurs.mid(début, lignes_par_insertion).join(QStringLiteral(", ")) + QStringLiteral(";\n");
+    return sql;
+}
+
+} // namespace
+
+QStringList scripts_modèle() {
+    return {texte_ressource(QStringLiteral(":/modele/schema.sql")),
+            texte_ressource(QStringLiteral(":/modele/seed.sql")),
+            insertions_villes(texte_ressource(QStringLiteral(":/modele/villes.tsv")))};
 }

@@ -19,7 +19,9 @@ void ConsultationsTest::SetUp() {
     WorkFolderTest::SetUp();
     base = copie_du_modèle(folder);
     module1().base_en_cours = base;
+    // Two known towns in place of the template's thousands, so that a grid row names a known town.
     for (const char* sql : {
+             "DELETE * FROM villes",
              "INSERT INTO adresses (détails) VALUES (\"rue des Écoles\")",
              "INSERT INTO adresses (détails) VALUES (\"allée des Tilleuls\")",
              "INSERT INTO assurances (détails) VALUES (\"Mutuelle des Écoles\")",

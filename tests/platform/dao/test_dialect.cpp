@@ -61,9 +61,11 @@ class Execute : public StoreTest {};
 
 TEST_F(Execute, ReportsTheRowsItChangedInOneTransaction) {
     for (int i = 0; i < 3; ++i)
-        add("villes", {{"détails", QString("Ville %1").arg(i)}});
-    EXPECT_EQ(db->Execute("UPDATE villes SET code_postal = \"69000\" WHERE détails LIKE \"Ville [01]\""), 2);
-    EXPECT_EQ(db->Execute("DELETE * FROM villes"), 3);
+        add("familles", {{"ville_responsable", QString("Ville %1").arg(i)}});
+    EXPECT_EQ(db->Execute("UPDATE familles SET code_postal_responsable = \"69000\" WHERE ville_responsable "
+                          "LIKE \"Ville [01]\""),
+              2);
+    EXPECT_EQ(db->Execute("DELETE * FROM familles"), 3);
 }
 
 TEST_F(Execute, ErrorsCarryJetNumbers) {
@@ -77,19 +79,24 @@ TEST_F(Execute, ErrorsCarryJetNumbers) {
 }
 
 TEST_F(Execute, AFailedStatementChangesNothing) {
-    add("villes", {{"détails", "Bron"}});
-    db->Execute("CREATE UNIQUE INDEX villes_unique ON villes (détails)");
-    add("villes", {{"détails", "Lyon"}});
-    EXPECT_EQ(error_of([&] { db->Execute("UPDATE villes SET code_postal = '1', détails = 'Bron'"); }), 3022);
-    EXPECT_EQ(values("SELECT * FROM villes WHERE code_postal = '1'", "détails"), QStringList{});
+    add("familles", {{"ville_responsable", "Bron"}});
+    db->Execute("CREATE UNIQUE INDEX une_famille_par_ville ON familles (ville_responsable)");
+    add("familles", {{"ville_responsable", "Lyon"}});
+    EXPECT_EQ(error_of([&] {
+                  db->Execute(
+                      "UPDATE familles SET code_postal_responsable = '1', ville_responsable = 'Bron'");
+              }),
+              3022);
+    EXPECT_EQ(values("SELECT * FROM familles WHERE code_postal_responsable = '1'", "ville_responsable"),
+              QStringList{});
 }
 
 TEST_F(Execute, TransactionsGroupWritesAndRollBackTogether) {
     db->BeginTrans();
-    add("villes", {{"détails", "Bron"}});
+    add("familles", {{"ville_responsable", "Bron"}});
     db->Execute("DELETE * FROM niveaux");
     db->Rollback();
-    EXPECT_EQ(db->OpenRecordset("villes")->RecordCount(), 0);
+    EXPECT_EQ(db->OpenRecordset("familles")->RecordCount(), 0);
     EXPECT_EQ(db->OpenRecordset("niveaux")->RecordCount(), 12);
     EXPECT_EQ(error_of([&] { db->CommitTrans(); }), 3034);
 }

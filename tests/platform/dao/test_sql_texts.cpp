@@ -66,12 +66,12 @@ TEST_F(SqlTexts, BracketedSourcesOfTheSheetScreensOpen) {
 }
 
 TEST_F(SqlTexts, LookupSearchesFindTheirValue) {
-    add("adresses", {{"détails", "rue des Écoles"}});
-    add("assurances", {{"détails", "Assurance scolaire"}});
-    EXPECT_EQ(values("SELECT * FROM adresses WHERE détails LIKE \"rue des écoles\"", "détails"),
-              QStringList{"rue des Écoles"});
+    add("adresses", {{"détails", "quai des Écluses"}});
+    add("assurances", {{"détails", "Garantie scolaire"}});
+    EXPECT_EQ(values("SELECT * FROM adresses WHERE détails LIKE \"quai des écluses\"", "détails"),
+              QStringList{"quai des Écluses"});
     EXPECT_EQ(values("SELECT * FROM assertions WHERE détails LIKE \"OUI\"", "détails"), QStringList{"oui"});
-    EXPECT_EQ(values("SELECT * FROM assurances WHERE détails LIKE \"assurance*\"", "détails").size(), 1);
+    EXPECT_EQ(values("SELECT * FROM assurances WHERE détails LIKE \"garantie*\"", "détails").size(), 1);
     EXPECT_EQ(values("SELECT * FROM langues_vivantes WHERE détails LIKE \"anglais\"", "détails"),
               QStringList{"Anglais"});
     EXPECT_EQ(values("SELECT * FROM sexe WHERE détails LIKE \"féminin\"", "détails"), QStringList{"Féminin"});

@@ -109,6 +109,15 @@ TEST_F(Template, LookupTablesCarryUsefulFrenchRows) {
     EXPECT_TRUE(values("langues_vivantes", "détails").contains("Anglais"));
 }
 
+TEST_F(Template, TownsAreThoseOfFrance) {
+    EXPECT_EQ(values("SELECT * FROM villes WHERE code_postal = \"75001\"", "détails"), QStringList{"Paris"});
+    EXPECT_EQ(values("SELECT * FROM villes WHERE code_postal = \"94240\"", "détails"),
+              QStringList{"L'Haÿ-les-Roses"});
+    const int towns = db->OpenRecordset("villes")->RecordCount();
+    EXPECT_GT(towns, 30000);
+    EXPECT_LT(towns, 60000);
+}
+
 TEST_F(Template, ThreeLetterTemplatesAndAnEmptyAccessCode) {
     EXPECT_EQ(values("documents", "intitulé_bouton"),
               (QStringList{"Certificat de scolarité", "Certificat de radiation", "Réunion de parents"}));
@@ -144,6 +153,50 @@ TEST(Demonstration, FillsFamiliesAndPupilsThatBelongTogether) {
     for (families->MoveFirst(); !families->isEOF(); families->MoveNext())
         EXPECT_TRUE(references.contains(families->field("référence_famille").toString()));
     EXPECT_GE(db->OpenRecordset("équipe")->RecordCount(), 8);
+}
+
+// The values of `columns` in the rows `sql` gives, each row's joined by '|'.
+QSet<QString> rows_of(Database& db, const QString& sql, const QStringList& columns) {
+    QSet<QString> out;
+    for (auto rs = db.OpenRecordset(sql); !rs->isEOF(); rs->MoveNext()) {
+        QStringList cells;
+        for (const QString& column : columns)
+            cells << rs->field(column).toString();
+        out.insert(cells.join(u'|'));
+    }
+    return out;
+}
+
+TEST(Demonstration, NamesOnlyRowsOfTheLookups) {
+    TemplateBase base;
+    auto db = Database::open(base.path());
+    remplir_démonstration(*db, Démonstration{60, 5});
+    const auto expect_rows_of = [&](const QString& records, const QStringList& fields, const QString& lookup,
+                                    const QStringList& columns) {
+        const QSet<QString> named = rows_of(*db, records, fields);
+        EXPECT_FALSE(named.isEmpty()) << records.toStdString();
+        for (const QString& row : named) {
+            const QString candidates = QString("SELECT * FROM %1 WHERE %2 = \"%3\"")
+                                           .arg(lookup, columns[0], row.section(u'|', 0, 0));
+            EXPECT_TRUE(rows_of(*db, candidates, columns).contains(row)) << qPrintable(lookup + ": " + row);
+        }
+    };
+    const QStringList town{"code_postal", "détails"}, practice{"nom", "téléphone", "adresse", "ville"};
+    expect_rows_of("familles", {"code_postal_responsable", "ville_responsable"}, "villes", town);
+    expect_rows_of("élèves", {"code_postal_résidence", "ville_résidence"}, "villes", town);
+    expect_rows_of("école", {"code_postal_école", "ville_école"}, "villes", town);
+    expect_rows_of("élèves", {"lieu_naissance_élève"}, "villes", {"détails"});
+    expect_rows_of("familles", {"adresse_responsable"}, "adresses", {"détails"});
+    expect_rows_of("élèves", {"adresse_résidence"}, "adresses", {"détails"});
+    expect_rows_of("familles", {"société_assurance"}, "assurances", {"détails"});
+    expect_rows_of("SELECT * FROM familles WHERE médecin_traitant <> \"\"",
+                   {"médecin_traitant", "téléphone_médecin_traitant", "adresse_médecin_traitant",
+                    "ville_médecin_traitant"},
+                   "médecins", practice);
+    expect_rows_of("SELECT * FROM familles WHERE hôpital_préférentiel <> \"\"",
+                   {"hôpital_préférentiel", "téléphone_hôpital_préférentiel", "adresse_hôpital_préférentiel",
+                    "ville_hôpital_préférentiel"},
+                   "hôpitaux", practice);
 }
 
 TEST(Demonstration, TheSameSeedGivesTheSameSchool) {
