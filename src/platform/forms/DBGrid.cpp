@@ -287,28 +287,17 @@ void DBGrid::leaveRow(int from, int to) {
 
 void DBGrid::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Delete && state() != QAbstractItemView::EditingState) {
-        deleteCurrentRow();
+        clearCurrentCell();
         return;
     }
     QTableView::keyPressEvent(event);
 }
 
-// The Delete key on a line of the grid removes that row; the grid lands on the next one.
-void DBGrid::deleteCurrentRow() {
-    if (!model_->open() || !currentIndex().isValid() || currentIndex().row() == newRow())
+// The Delete key acts on the text of the cell, as typing does: the cell opens with its text gone, which
+// Escape brings back. A whole row goes only by the screen's own button.
+void DBGrid::clearCurrentCell() {
+    if (!currentIndex().isValid() || !edit(currentIndex(), QAbstractItemView::EditKeyPressed, nullptr))
         return;
-    DataControl& source = *source_;
-    source.runOutsideCode([&source] {
-        DataRecordset& rs = source.Recordset();
-        rs.Delete();
-        rs.MoveNext();
-        if (!rs.isEOF())
-            return;
-        try {
-            rs.MoveLast();
-        } catch (const VbError& error) {
-            if (error.number() != 3021) // no row left: the grid shows only its new row
-                throw;
-        }
-    });
+    if (auto* line = qobject_cast<QLineEdit*>(editor_.data()))
+        line->clear();
 }

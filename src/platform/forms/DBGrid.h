@@ -48,7 +48,7 @@ private:
     void rowsOfSourceChanged();
     void reopened();
     void leaveRow(int from, int to);
-    void deleteCurrentRow();
+    void clearCurrentCell();
     void setCurrentLine(int row, int column);
     void showNewRowAsAllowed();
 

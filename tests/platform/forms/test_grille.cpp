@@ -66,8 +66,7 @@ TEST_F(GrilleTest, without_allow_add_new_the_empty_new_row_stays_hidden_as_rows_
     EXPECT_FALSE(g.isRowHidden(2));
 
     aller(g, 1, 0);
-    g.setFocus();
-    QTest::keyClick(&g, Qt::Key_Delete);
+    cliquer(f, "cmdSupprimer");
     ASSERT_EQ(g.newRow(), 2);
     EXPECT_TRUE(g.isRowHidden(2));
     EXPECT_FALSE(g.isRowHidden(1));
@@ -165,7 +164,7 @@ TEST_F(GrilleTest, closing_the_screen_while_typing_in_the_new_row_writes_it) {
     EXPECT_EQ(colonne_du_fichier(base, "valeurs", "code").last(), "E");
 }
 
-TEST_F(GrilleTest, supprimer_or_the_delete_key_removes_the_line_and_the_row) {
+TEST_F(GrilleTest, supprimer_removes_the_row_and_the_delete_key_only_clears_the_cell) {
     auto& f = ouvrir();
     DBGrid& g = *f.grdDataGrid;
     aller(g, 1, 0);
@@ -177,8 +176,10 @@ TEST_F(GrilleTest, supprimer_or_the_delete_key_removes_the_line_and_the_row) {
 
     g.setFocus();
     QTest::keyClick(&g, Qt::Key_Delete);
-    EXPECT_EQ(détails(), QStringList{"Ananas"});
-    EXPECT_EQ(g.currentIndex().row(), 0);
+    auto* éditeur = qobject_cast<QLineEdit*>(focus_actuel());
+    ASSERT_NE(éditeur, nullptr) << "the cell opens for typing, its text gone";
+    EXPECT_EQ(éditeur->text(), "");
+    EXPECT_EQ(détails(), (QStringList{"Ananas", "Cerise"}));
 }
 
 TEST_F(GrilleTest, a_line_the_engine_refuses_shows_the_error_event_box_and_stays_under_edit) {
