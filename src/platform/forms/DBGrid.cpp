@@ -301,3 +301,23 @@ void DBGrid::clearCurrentCell() {
     if (auto* line = qobject_cast<QLineEdit*>(editor_.data()))
         line->clear();
 }
+
+// Tab walks the cells of one line and no further: past its last cell (or before its first with
+// Shift+Tab) it leaves the grid for the next control, so that no other row comes under the user's
+// fingers unasked.
+QModelIndex DBGrid::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+    const QModelIndex here = currentIndex();
+    const QModelIndex there = QTableView::moveCursor(action, modifiers);
+    if ((action == MoveNext || action == MovePrevious) && here.isValid() && there.row() != here.row())
+        return {};
+    return there;
+}
+
+void DBGrid::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
+    const bool forward = hint == QAbstractItemDelegate::EditNextItem;
+    const bool leaves = (forward || hint == QAbstractItemDelegate::EditPreviousItem) &&
+                        !moveCursor(forward ? MoveNext : MovePrevious, Qt::NoModifier).isValid();
+    QTableView::closeEditor(editor, leaves ? QAbstractItemDelegate::NoHint : hint);
+    if (leaves)
+        QWidget::focusNextPrevChild(forward);
+}

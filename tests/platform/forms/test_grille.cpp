@@ -249,3 +249,16 @@ TEST_F(GrilleTest, an_arrow_of_the_navigator_writes_the_cell_being_typed_in) {
     EXPECT_EQ(colonne_du_fichier(base, "valeurs", "code").first(), "Z");
     EXPECT_EQ(g.currentIndex().row(), 1);
 }
+
+TEST_F(GrilleTest, tab_past_the_last_cell_leaves_the_grid_and_opens_no_other_row) {
+    auto& f = ouvrir();
+    cliquer(f, "cmdAjouter");
+    taper_au_focus("D");
+    touche_au_focus(Qt::Key_Tab);
+    taper_au_focus("Datte");
+    touche_au_focus(Qt::Key_Tab);
+    EXPECT_EQ(focus_actuel(), f.cmdAjouter) << "the next control";
+    taper_au_focus("X");
+    cliquer(f, "cmdMettreàjour");
+    EXPECT_EQ(colonne_du_fichier(base, "valeurs", "code"), (QStringList{"A", "B", "C", "D"}));
+}
