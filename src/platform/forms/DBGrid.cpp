@@ -233,6 +233,14 @@ void DBGrid::commitEditor() {
         commitData(editor_);
 }
 
+void DBGrid::finishEditing() {
+    if (!editor_ || state() != QAbstractItemView::EditingState)
+        return;
+    QWidget* editor = editor_;
+    commitData(editor);
+    closeEditor(editor, QAbstractItemDelegate::NoHint);
+}
+
 void DBGrid::setCurrentLine(int row, int column) {
     if (row < 0 || row >= model_->rowCount())
         return;

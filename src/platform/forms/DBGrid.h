@@ -37,6 +37,8 @@ public:
     void stepDown();
     // Carries the text of an open cell editor into the row being edited.
     void commitEditor();
+    // Carries it over and closes the editor, as the focus leaving the grid does.
+    void finishEditing();
 
 protected:
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;

@@ -262,3 +262,12 @@ TEST_F(GrilleTest, tab_past_the_last_cell_leaves_the_grid_and_opens_no_other_row
     cliquer(f, "cmdMettreàjour");
     EXPECT_EQ(colonne_du_fichier(base, "valeurs", "code"), (QStringList{"A", "B", "C", "D"}));
 }
+
+TEST_F(GrilleTest, an_access_key_of_the_frame_takes_the_cell_being_typed_in_as_a_click_does) {
+    auto& f = ouvrir();
+    cliquer(f, "cmdAjouter");
+    taper_au_focus("E");
+    QTest::keyClick(focus_actuel(), Qt::Key_V, Qt::AltModifier);
+    ASSERT_TRUE(QTest::qWaitFor([&f] { return !f.cmdMettreàjour->isDown(); })); // its press shows a moment
+    EXPECT_EQ(colonne_du_fichier(base, "valeurs", "code").last(), "E");
+}
