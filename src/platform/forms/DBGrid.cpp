@@ -9,7 +9,9 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QStyle>
 #include <QStyledItemDelegate>
+#include <algorithm>
 #include <vector>
 
 // The lines of the grid: the row set's live rows by position, then the empty new row. Typed cells go to the
@@ -270,7 +272,31 @@ void DBGrid::reopened() {
     syncing_ = true;
     model_->reset();
     syncing_ = false;
+    fitColumns();
     followDataControl();
+}
+
+// A short column (a code, a cycle, a postal code) takes the room of its heading or of its longest
+// value; the others share what is left, so that a text such as a level's details reads whole.
+void DBGrid::fitColumns() {
+    if (!model_->open())
+        return;
+    constexpr int shortColumn = 10; // characters
+    QHeaderView& header = *horizontalHeader();
+    const int cellMargins = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1);
+    bool shared = false;
+    for (int column = 0; column < model_->columnCount(); ++column) {
+        const int size = model_->limitOf(column);
+        if (size <= 0 || size > shortColumn) {
+            header.setSectionResizeMode(column, QHeaderView::Stretch);
+            shared = true;
+            continue;
+        }
+        header.setSectionResizeMode(column, QHeaderView::Interactive);
+        const int values = fontMetrics().averageCharWidth() * size + cellMargins;
+        setColumnWidth(column, std::max(header.sectionSizeHint(column), values));
+    }
+    header.setStretchLastSection(!shared);
 }
 
 void DBGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {

@@ -53,6 +53,7 @@ private:
     void reopened();
     void leaveRow(int from, int to);
     void clearCurrentCell();
+    void fitColumns();
     void setCurrentLine(int row, int column);
     void showNewRowAsAllowed();
 
