@@ -143,6 +143,13 @@ TEST_F(Consultations, EachMenuCommandShowsItsLookupInFrontWithItsDeclarationAndT
     EXPECT_TRUE(ui().boxes().empty());
 }
 
+TEST_F(Consultations, TheLevelsShowTheirDetailsWhole) {
+    FeuilleFiche& niveaux = ouvrir_par_le_menu("menuparamètresindex18", "feuille_niveaux");
+    const DBGrid& g = *niveaux.grdDataGrid;
+    for (const QString& détails : fichier("niveaux", "détails"))
+        EXPECT_GT(g.columnWidth(1), g.fontMetrics().horizontalAdvance(détails)) << détails.toStdString();
+}
+
 TEST_F(Consultations, OnAnEmptyTableTheMenuAddsAFirstRowThatIsNotWritten) {
     exécuter_par_le_moteur(base, u("DELETE * FROM villes"));
     FeuilleFiche& villes = ouvrir_par_le_menu("menuparamètresindex16", "feuille_villes");

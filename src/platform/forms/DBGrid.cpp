@@ -9,7 +9,9 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QStyle>
 #include <QStyledItemDelegate>
+#include <algorithm>
 #include <vector>
 
 // The lines of the grid: the row set's live rows by position, then the empty new row. Typed cells go to the
@@ -233,6 +235,14 @@ void DBGrid::commitEditor() {
         commitData(editor_);
 }
 
+void DBGrid::finishEditing() {
+    if (!editor_ || state() != QAbstractItemView::EditingState)
+        return;
+    QWidget* editor = editor_;
+    commitData(editor);
+    closeEditor(editor, QAbstractItemDelegate::NoHint);
+}
+
 void DBGrid::setCurrentLine(int row, int column) {
     if (row < 0 || row >= model_->rowCount())
         return;
@@ -262,7 +272,31 @@ void DBGrid::reopened() {
     syncing_ = true;
     model_->reset();
     syncing_ = false;
+    fitColumns();
     followDataControl();
+}
+
+// A short column (a code, a cycle, a postal code) takes the room of its heading or of its longest
+// value; the others share what is left, so that a text such as a level's details reads whole.
+void DBGrid::fitColumns() {
+    if (!model_->open())
+        return;
+    constexpr int shortColumn = 10; // characters
+    QHeaderView& header = *horizontalHeader();
+    const int cellMargins = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1);
+    bool shared = false;
+    for (int column = 0; column < model_->columnCount(); ++column) {
+        const int size = model_->limitOf(column);
+        if (size <= 0 || size > shortColumn) {
+            header.setSectionResizeMode(column, QHeaderView::Stretch);
+            shared = true;
+            continue;
+        }
+        header.setSectionResizeMode(column, QHeaderView::Interactive);
+        const int values = fontMetrics().averageCharWidth() * size + cellMargins;
+        setColumnWidth(column, std::max(header.sectionSizeHint(column), values));
+    }
+    header.setStretchLastSection(!shared);
 }
 
 void DBGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
@@ -287,28 +321,37 @@ void DBGrid::leaveRow(int from, int to) {
 
 void DBGrid::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Delete && state() != QAbstractItemView::EditingState) {
-        deleteCurrentRow();
+        clearCurrentCell();
         return;
     }
     QTableView::keyPressEvent(event);
 }
 
-// The Delete key on a line of the grid removes that row; the grid lands on the next one.
-void DBGrid::deleteCurrentRow() {
-    if (!model_->open() || !currentIndex().isValid() || currentIndex().row() == newRow())
+// The Delete key acts on the text of the cell, as typing does: the cell opens with its text gone, which
+// Escape brings back. A whole row goes only by the screen's own button.
+void DBGrid::clearCurrentCell() {
+    if (!currentIndex().isValid() || !edit(currentIndex(), QAbstractItemView::EditKeyPressed, nullptr))
         return;
-    DataControl& source = *source_;
-    source.runOutsideCode([&source] {
-        DataRecordset& rs = source.Recordset();
-        rs.Delete();
-        rs.MoveNext();
-        if (!rs.isEOF())
-            return;
-        try {
-            rs.MoveLast();
-        } catch (const VbError& error) {
-            if (error.number() != 3021) // no row left: the grid shows only its new row
-                throw;
-        }
-    });
+    if (auto* line = qobject_cast<QLineEdit*>(editor_.data()))
+        line->clear();
+}
+
+// Tab walks the cells of one line and no further: past its last cell (or before its first with
+// Shift+Tab) it leaves the grid for the next control, so that no other row comes under the user's
+// fingers unasked.
+QModelIndex DBGrid::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+    const QModelIndex here = currentIndex();
+    const QModelIndex there = QTableView::moveCursor(action, modifiers);
+    if ((action == MoveNext || action == MovePrevious) && here.isValid() && there.row() != here.row())
+        return {};
+    return there;
+}
+
+void DBGrid::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
+    const bool forward = hint == QAbstractItemDelegate::EditNextItem;
+    const bool leaves = (forward || hint == QAbstractItemDelegate::EditPreviousItem) &&
+                        !moveCursor(forward ? MoveNext : MovePrevious, Qt::NoModifier).isValid();
+    QTableView::closeEditor(editor, leaves ? QAbstractItemDelegate::NoHint : hint);
+    if (leaves)
+        QWidget::focusNextPrevChild(forward);
 }

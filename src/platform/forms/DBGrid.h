@@ -37,10 +37,14 @@ public:
     void stepDown();
     // Carries the text of an open cell editor into the row being edited.
     void commitEditor();
+    // Carries it over and closes the editor, as the focus leaving the grid does.
+    void finishEditing();
 
 protected:
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void keyPressEvent(QKeyEvent* event) override;
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
 
 private:
     friend class GridModel;
@@ -48,7 +52,8 @@ private:
     void rowsOfSourceChanged();
     void reopened();
     void leaveRow(int from, int to);
-    void deleteCurrentRow();
+    void clearCurrentCell();
+    void fitColumns();
     void setCurrentLine(int row, int column);
     void showNewRowAsAllowed();
 

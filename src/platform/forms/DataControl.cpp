@@ -114,9 +114,13 @@ DataControl::DataControl(QWidget* parent) : QWidget(parent) {
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    auto arrow = [this, layout](const char* name, Qt::ArrowType type, bool bar, void (DataControl::*move)()) {
+    auto arrow = [this, layout](const char* name, const char* says, Qt::ArrowType type, bool bar,
+                                void (DataControl::*move)()) {
         auto* button = new QToolButton(this);
         button->setObjectName(QString::fromUtf8(name));
+        // An arrow has no text: its name is what a screen reader says and what the pointer shows.
+        button->setAccessibleName(QString::fromUtf8(says));
+        button->setToolTip(QString::fromUtf8(says));
         button->setIcon(navigation_icon(type, bar, palette().color(QPalette::ButtonText)));
         button->setIconSize(QSize(navigation_icon_side, navigation_icon_side));
         button->setToolButtonStyle(Qt::ToolButtonIconOnly);
@@ -125,8 +129,8 @@ DataControl::DataControl(QWidget* parent) : QWidget(parent) {
         connect(button, &QToolButton::clicked, this, move);
         layout->addWidget(button);
     };
-    arrow("premier", Qt::LeftArrow, true, &DataControl::navigateFirst);
-    arrow("précédent", Qt::LeftArrow, false, &DataControl::navigatePrevious);
+    arrow("premier", "Première fiche", Qt::LeftArrow, true, &DataControl::navigateFirst);
+    arrow("précédent", "Fiche précédente", Qt::LeftArrow, false, &DataControl::navigatePrevious);
     caption_ = new QLabel(this);
     caption_->setObjectName(QStringLiteral("caption"));
     caption_->setAlignment(Qt::AlignCenter);
@@ -134,8 +138,8 @@ DataControl::DataControl(QWidget* parent) : QWidget(parent) {
     caption_->setFrameShadow(QFrame::Sunken);
     caption_->setText(QStringLiteral(" "));
     layout->addWidget(caption_, 1);
-    arrow("suivant", Qt::RightArrow, false, &DataControl::navigateNext);
-    arrow("dernier", Qt::RightArrow, true, &DataControl::navigateLast);
+    arrow("suivant", "Fiche suivante", Qt::RightArrow, false, &DataControl::navigateNext);
+    arrow("dernier", "Dernière fiche", Qt::RightArrow, true, &DataControl::navigateLast);
 }
 
 DataControl::~DataControl() = default;

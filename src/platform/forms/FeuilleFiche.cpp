@@ -88,14 +88,20 @@ FeuilleFiche::~FeuilleFiche() = default;
 
 void FeuilleFiche::construireBoutons(QVBoxLayout* disposition) {
     auto* rangée = new QHBoxLayout;
-    // A button of the row, whose click runs the screen's own handler.
+    // A button of the row, whose click runs the screen's own handler. A click hands the grid's cell
+    // being typed in over to its row as the focus leaves it; an access key takes no focus, so the
+    // handler is preceded by that same hand-over, whichever way the button was pressed.
     const auto ajouter = [&](const char* nom, const QString& légende, const QString& infobulle,
                              void (FeuilleFiche::*clic)()) {
         auto* b = new QPushButton(légende, this);
         b->setObjectName(QString::fromUtf8(nom));
         b->setToolTip(infobulle);
         b->setAutoDefault(false);
-        connect(b, &QPushButton::clicked, this, [this, clic] { (this->*clic)(); });
+        connect(b, &QPushButton::clicked, this, [this, clic] {
+            if (grdDataGrid)
+                grdDataGrid->finishEditing();
+            (this->*clic)();
+        });
         rangée->addWidget(b);
         return b;
     };

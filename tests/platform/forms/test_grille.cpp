@@ -66,8 +66,7 @@ TEST_F(GrilleTest, without_allow_add_new_the_empty_new_row_stays_hidden_as_rows_
     EXPECT_FALSE(g.isRowHidden(2));
 
     aller(g, 1, 0);
-    g.setFocus();
-    QTest::keyClick(&g, Qt::Key_Delete);
+    cliquer(f, "cmdSupprimer");
     ASSERT_EQ(g.newRow(), 2);
     EXPECT_TRUE(g.isRowHidden(2));
     EXPECT_FALSE(g.isRowHidden(1));
@@ -165,7 +164,7 @@ TEST_F(GrilleTest, closing_the_screen_while_typing_in_the_new_row_writes_it) {
     EXPECT_EQ(colonne_du_fichier(base, "valeurs", "code").last(), "E");
 }
 
-TEST_F(GrilleTest, supprimer_or_the_delete_key_removes_the_line_and_the_row) {
+TEST_F(GrilleTest, supprimer_removes_the_row_and_the_delete_key_only_clears_the_cell) {
     auto& f = ouvrir();
     DBGrid& g = *f.grdDataGrid;
     aller(g, 1, 0);
@@ -177,8 +176,10 @@ TEST_F(GrilleTest, supprimer_or_the_delete_key_removes_the_line_and_the_row) {
 
     g.setFocus();
     QTest::keyClick(&g, Qt::Key_Delete);
-    EXPECT_EQ(détails(), QStringList{"Ananas"});
-    EXPECT_EQ(g.currentIndex().row(), 0);
+    auto* éditeur = qobject_cast<QLineEdit*>(focus_actuel());
+    ASSERT_NE(éditeur, nullptr) << "the cell opens for typing, its text gone";
+    EXPECT_EQ(éditeur->text(), "");
+    EXPECT_EQ(détails(), (QStringList{"Ananas", "Cerise"}));
 }
 
 TEST_F(GrilleTest, a_line_the_engine_refuses_shows_the_error_event_box_and_stays_under_edit) {
@@ -247,4 +248,26 @@ TEST_F(GrilleTest, an_arrow_of_the_navigator_writes_the_cell_being_typed_in) {
     cliquer(*f.datPrimaryRS, "suivant");
     EXPECT_EQ(colonne_du_fichier(base, "valeurs", "code").first(), "Z");
     EXPECT_EQ(g.currentIndex().row(), 1);
+}
+
+TEST_F(GrilleTest, tab_past_the_last_cell_leaves_the_grid_and_opens_no_other_row) {
+    auto& f = ouvrir();
+    cliquer(f, "cmdAjouter");
+    taper_au_focus("D");
+    touche_au_focus(Qt::Key_Tab);
+    taper_au_focus("Datte");
+    touche_au_focus(Qt::Key_Tab);
+    EXPECT_EQ(focus_actuel(), f.cmdAjouter) << "the next control";
+    taper_au_focus("X");
+    cliquer(f, "cmdMettreàjour");
+    EXPECT_EQ(colonne_du_fichier(base, "valeurs", "code"), (QStringList{"A", "B", "C", "D"}));
+}
+
+TEST_F(GrilleTest, an_access_key_of_the_frame_takes_the_cell_being_typed_in_as_a_click_does) {
+    auto& f = ouvrir();
+    cliquer(f, "cmdAjouter");
+    taper_au_focus("E");
+    QTest::keyClick(focus_actuel(), Qt::Key_V, Qt::AltModifier);
+    ASSERT_TRUE(QTest::qWaitFor([&f] { return !f.cmdMettreàjour->isDown(); })); // its press shows a moment
+    EXPECT_EQ(colonne_du_fichier(base, "valeurs", "code").last(), "E");
 }

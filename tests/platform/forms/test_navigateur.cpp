@@ -39,7 +39,7 @@ bool colonne_pleine(const QImage& image, double de, double à) {
     return false;
 }
 
-TEST(Navigateur, LesBoutsPortentUneBarreDuCôtéOùIlsMènent) {
+TEST(Navigateur, LesFlèchesDisentOùEllesMènentEnImageEtEnMots) {
     DataControl navigateur;
     const QImage premier = image_de(navigateur, "premier"), précédent = image_de(navigateur, "précédent"),
                  suivant = image_de(navigateur, "suivant"), dernier = image_de(navigateur, "dernier");
@@ -52,6 +52,16 @@ TEST(Navigateur, LesBoutsPortentUneBarreDuCôtéOùIlsMènent) {
     // And the triangles point the way: their straight base on the other side.
     EXPECT_TRUE(colonne_pleine(précédent, 0.6, 1.0));
     EXPECT_TRUE(colonne_pleine(suivant, 0.0, 0.4));
+    // And in words, for the pointer and for a screen reader.
+    const char* const mots[][2] = {{"premier", "Première fiche"},
+                                   {"précédent", "Fiche précédente"},
+                                   {"suivant", "Fiche suivante"},
+                                   {"dernier", "Dernière fiche"}};
+    for (const auto& [nom, texte] : mots) {
+        const auto* b = navigateur.findChild<QToolButton*>(QString::fromUtf8(nom));
+        EXPECT_EQ(b->accessibleName(), QString::fromUtf8(texte));
+        EXPECT_EQ(b->toolTip(), QString::fromUtf8(texte));
+    }
 }
 
 } // namespace
