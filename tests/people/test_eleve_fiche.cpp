@@ -285,6 +285,17 @@ TEST_F(FicheEleveSurBase, DeletingTheOnlyPupilThenAddingReportsTheMissingRowEach
     EXPECT_TRUE(matricules().isEmpty());
 }
 
+TEST_F(FicheEleveSurBase, DeletingANewPupilNotYetSavedReportsTheMissingRowAndDeletesNoOther) {
+    ajouter_élèves(base, {"000001", "000002"});
+    feuille_élève& f = ouvrir();
+    ui().expectMsgBox(vbNo).expectMsgBox(vbOK);
+    cliquer_ajouter(f);
+    cliquer(f, u("cmdSupprimer"));
+    EXPECT_TRUE(ui().lastBox().text.startsWith(u("Le logiciel a rencontré l'erreur : 3021\n\n")));
+    EXPECT_EQ(matricules(), (QStringList{u("000001"), u("000002")}));
+    EXPECT_EQ(f.matricule->text(), u("000003"));
+}
+
 TEST_F(FicheEleveSurBase, ADuplicateMatriculeRefusedByTheFileIsSilentOnAMoveAndReportedOnSave) {
     ajouter_élève(base, u("000001"), u("UN"));
     ajouter_élève(base, u("000002"), u("DEUX"));

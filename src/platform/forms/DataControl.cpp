@@ -456,9 +456,10 @@ void DataRecordset::Delete() {
         control_.Validate(action, save);
     if (action == vbDataActionCancel)
         return;
-    // A row about to go is not written first.
-    control_.discardEdits();
+    // The engine refuses first (3021 on a new row not yet saved, no current row): the buffer and what
+    // the screen shows stay, still to be saved. A row that goes is not written first.
     raw().Delete();
+    control_.discardEdits();
     emit control_.rowsChanged();
 }
 

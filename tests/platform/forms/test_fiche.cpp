@@ -277,6 +277,21 @@ TEST_F(FicheTest, deleting_the_only_row_shows_3021_and_leaves_the_screen_open_on
     EXPECT_EQ(ui().mousePointer(), vbDefault);
 }
 
+TEST_F(FicheTest, supprimer_on_a_new_unsaved_row_shows_3021_deletes_nothing_and_the_row_can_be_saved) {
+    sql_direct(base, "DELETE FROM fiches");
+    for (const bool vide : {true, false}) {
+        auto& f = ouvrir();
+        cliquer(f, "cmdAjouter");
+        taper(f.nom, vide ? "Delta" : "Echo");
+        ui().expectMsgBox();
+        cliquer(f, "cmdSupprimer");
+        EXPECT_EQ(ui().lastBox().text, texte_erreur(ErrorBoxKind::standard, VbError(3021)));
+        EXPECT_EQ(noms().size(), vide ? 0 : 1) << "nothing is deleted";
+        cliquer(f, "cmdMettreàjour");
+        EXPECT_EQ(noms(), vide ? QStringList{"Delta"} : QStringList({"Delta", "Echo"}));
+    }
+}
+
 TEST_F(FicheTest, a_refused_save_shows_the_box_and_keeps_the_edit_on_screen) {
     auto& f = ouvrir();
     f.naissance->selectAll();
