@@ -325,6 +325,10 @@ bool DataControl::isAddingNew() const {
     return recordset_ && recordset_->editMode() == EditMode::AddNew;
 }
 
+bool DataControl::isStartingEmptySet() const {
+    return rs().editMode() == EditMode::AddNew && rs().RecordCount() == 0 && !DataChanged();
+}
+
 QVariant DataControl::pendingValue(const QString& column, bool* found) const {
     const auto it = pending_.constFind(column);
     *found = it != pending_.cend();
@@ -359,7 +363,11 @@ void DataControl::commitRow() {
 }
 
 void DataControl::moveWith(int action, const std::function<void(::Recordset&)>& move) {
-    rs();
+    // The new row of a set that holds none (the first record a menu command starts on an empty table)
+    // is the only row there is: untouched, a move has nowhere to go and keeps it, where dropping it
+    // first would leave no row to move to.
+    if (isStartingEmptySet())
+        return;
     if (!leaveRow(action))
         return;
     move(rs());
