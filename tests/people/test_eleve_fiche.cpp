@@ -139,6 +139,16 @@ TEST_F(FicheEleveSurBase, AfterASevenDigitMatriculeTheTextOrderKeepsGivingTheSam
     EXPECT_EQ(f.matricule->text(), u("1000000"));
 }
 
+TEST_F(FicheEleveSurBase, AMatriculeLongerThanItsBoxIsShownAndSavedWhole) {
+    ajouter_élève(base, u("9999999999"), u("DERNIER"));
+    feuille_élève& f = ouvrir();
+    ui().expectMsgBox(vbNo);
+    cliquer_ajouter(f);
+    EXPECT_EQ(f.matricule->text(), u("10000000000"));
+    cliquer(f, u("cmdMettreàjour"));
+    EXPECT_TRUE(matricules().contains(u("10000000000")));
+}
+
 TEST_F(FicheEleveSurBase, YesGivesTheNewPupilTheSiblingsReferenceAndNothingElse) {
     ajouter_élève(base, u("000001"), u("DURAND"), u("Paul"), u("000007"));
     exécuter_par_le_moteur(base, u("UPDATE élèves SET ville_résidence = 'Lyon', nom_contact1 = 'Mamie'"));
