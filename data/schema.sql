@@ -5,14 +5,16 @@
 -- sorts by date, BOOLEAN a yes/no column (0 or 1). Every text type names TEXT or CHAR, so that the
 -- engine keeps "000001" as text and never turns it into a number. Text compares with the collation FR
 -- (case and accents ignored); its order is that of the store's sort key tri_fr() (French order).
--- A lookup column is never longer than the boxes it feeds.
+-- A lookup column is never longer than the boxes it feeds. The two record numbers, matricule and
+-- référence_famille, take the longest text instead: the program counts them up past what their boxes
+-- let a user type, and a number must reach the file whole.
 
 -- Pages of 16 KiB: compaction and whole-table searches move fewer, larger blocks.
 PRAGMA page_size = 16384;
 
 -- One row a pupil.
 CREATE TABLE élèves (
-    matricule              VARCHAR(10) COLLATE FR,
+    matricule              VARCHAR(255) COLLATE FR,
     référence_famille      LONGTEXT COLLATE FR,
     nom_élève              VARCHAR(30) COLLATE FR,
     prénom_élève           VARCHAR(30) COLLATE FR,
@@ -76,7 +78,7 @@ CREATE TABLE élèves (
 
 -- One row a family: the legal guardian (Parent 1) and the spouse (Parent 2).
 CREATE TABLE familles (
-    référence_famille                          VARCHAR(10) COLLATE FR,
+    référence_famille                          VARCHAR(255) COLLATE FR,
     genre_responsable_légal                    VARCHAR(20) COLLATE FR,
     nom_responsable_légal                      VARCHAR(30) COLLATE FR,
     prénom_responsable_légal                   VARCHAR(30) COLLATE FR,

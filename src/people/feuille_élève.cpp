@@ -9,6 +9,7 @@
 #include "platform/forms/Clignotement.h"
 #include "platform/forms/DBGrid.h"
 #include "platform/forms/DataControl.h"
+#include "platform/forms/LimiteSaisie.h"
 #include "platform/forms/Module1.h"
 #include "platform/forms/SuiviOnglets.h"
 #include "platform/vb/Conversions.h"
@@ -384,7 +385,7 @@ void feuille_élève::construire_contacts(QWidget* page) {
     auto ligne = [&](const QString& nom, int longueur, const char* aide) {
         auto* e = new QLineEdit(Frame5);
         e->setObjectName(nom);
-        e->setMaxLength(longueur);
+        limiter_saisie(*e, longueur);
         e->setToolTip(texte(aide));
         return e;
     };
@@ -453,7 +454,7 @@ void feuille_élève::construire_paramétrables(QWidget* page, int premier) {
             saisie = zone_de_texte(cadre_page);
         } else {
             auto* e = new QLineEdit(cadre_page);
-            e->setMaxLength(50);
+            limiter_saisie(*e, 50);
             saisie = e;
         }
         saisie->setObjectName(QStringLiteral("champ_paramétable") + n);
@@ -564,7 +565,7 @@ QWidget* feuille_élève::créer(const Champ& c, QWidget* parent) {
     w->setObjectName(texte(c.nom));
     if (auto* e = qobject_cast<QLineEdit*>(w)) {
         if (c.longueur > 0)
-            e->setMaxLength(c.longueur);
+            limiter_saisie(*e, c.longueur);
         ajuster_largeur(e, c.longueur);
     }
     if (auto* l = qobject_cast<QLabel*>(w)) {

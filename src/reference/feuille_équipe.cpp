@@ -3,6 +3,7 @@
 
 #include "platform/errors/ErrorBoxes.h"
 #include "platform/forms/DataControl.h"
+#include "platform/forms/LimiteSaisie.h"
 #include "reference/FeuilleConsultation.h"
 #include "reference/feuille_adresses.h"
 #include "reference/feuille_genres.h"
@@ -104,7 +105,7 @@ void feuille_équipe::construire() {
         QWidget* parent = grilles[g]->parentWidget();
         auto* boîte = new QLineEdit(parent);
         boîte->setObjectName(QString::fromUtf8(c.nom));
-        boîte->setMaxLength(c.longueur);
+        limiter_saisie(*boîte, c.longueur);
         boîte->setToolTip(QString::fromUtf8(c.infobulle));
         boîte->setEnabled(!c.désactivé);
         if (g == 2)

@@ -46,7 +46,7 @@ void feuille_documents::construireChamps() {
     auto ligne_simple = [&](const char* nom, const QString& colonne, int limite, const QString& légende) {
         auto* boîte = new QLineEdit(corps());
         boîte->setObjectName(QString::fromUtf8(nom));
-        boîte->setMaxLength(limite);
+        limiter_saisie(*boîte, limite);
         datPrimaryRS->bind(boîte, colonne);
         placer(légende, boîte);
         return boîte;

@@ -1,5 +1,6 @@
 // What a user reads and may type on the pupil screen: captions, entry limits and help texts of every tab.
 #include "people/feuille_élève.h"
+#include "platform/forms/LimiteSaisie.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -177,7 +178,7 @@ TEST_F(FicheEleve, EveryFieldOfTheTabsHasItsCaptionLimitHelpAndPage) {
         } else {
             auto* ligne = qobject_cast<QLineEdit*>(champ);
             ASSERT_NE(ligne, nullptr);
-            EXPECT_EQ(ligne->maxLength(), a.longueur == une_ligne_sans_limite ? 32767 : a.longueur);
+            EXPECT_EQ(limite_saisie(*ligne), a.longueur == une_ligne_sans_limite ? 32767 : a.longueur);
         }
     }
 }
@@ -198,12 +199,12 @@ TEST_F(FicheEleve, ButtonsCarryTheirCaptionsAndHelpTexts) {
 TEST_F(FicheEleve, TheBandAboveTheTabs) {
     EXPECT_EQ(f->windowTitle(), u("Fiche élève"));
     EXPECT_FALSE(f->SSTab1->isAncestorOf(f->matricule));
-    EXPECT_EQ(f->matricule->maxLength(), 10);
-    EXPECT_EQ(f->nom_enfant->maxLength(), 30);
-    EXPECT_EQ(f->prénom_enfant->maxLength(), 30);
+    EXPECT_EQ(limite_saisie(*f->matricule), 10);
+    EXPECT_EQ(limite_saisie(*f->nom_enfant), 30);
+    EXPECT_EQ(limite_saisie(*f->prénom_enfant), 30);
     EXPECT_EQ(étiquette_de(f->prénom_enfant), u("prénom"));
     EXPECT_EQ(étiquette_de(f->référence_famille), u("Référence famille"));
-    EXPECT_EQ(f->référence_famille->maxLength(), 32767);
+    EXPECT_EQ(limite_saisie(*f->référence_famille), 32767);
     EXPECT_EQ(f->référence_famille->toolTip(), u("Référence de la famille : ne pas modifier..."));
     EXPECT_TRUE(f->référence_famille->alignment() & Qt::AlignRight);
     EXPECT_EQ(f->Combo1->toolTip(), u("Cliquez pour modifier l'ordre d'apparition des fiches"));

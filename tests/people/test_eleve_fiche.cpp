@@ -139,6 +139,16 @@ TEST_F(FicheEleveSurBase, AfterASevenDigitMatriculeTheTextOrderKeepsGivingTheSam
     EXPECT_EQ(f.matricule->text(), u("1000000"));
 }
 
+TEST_F(FicheEleveSurBase, AMatriculeLongerThanItsBoxIsShownAndSavedWhole) {
+    ajouter_élève(base, u("9999999999"), u("DERNIER"));
+    feuille_élève& f = ouvrir();
+    ui().expectMsgBox(vbNo);
+    cliquer_ajouter(f);
+    EXPECT_EQ(f.matricule->text(), u("10000000000"));
+    cliquer(f, u("cmdMettreàjour"));
+    EXPECT_TRUE(matricules().contains(u("10000000000")));
+}
+
 TEST_F(FicheEleveSurBase, YesGivesTheNewPupilTheSiblingsReferenceAndNothingElse) {
     ajouter_élève(base, u("000001"), u("DURAND"), u("Paul"), u("000007"));
     exécuter_par_le_moteur(base, u("UPDATE élèves SET ville_résidence = 'Lyon', nom_contact1 = 'Mamie'"));
@@ -283,6 +293,17 @@ TEST_F(FicheEleveSurBase, DeletingTheOnlyPupilThenAddingReportsTheMissingRowEach
     EXPECT_EQ(f.datPrimaryRS->RecordSource(), ordre_des_matricules);
     EXPECT_FALSE(f.datPrimaryRS->isAddingNew());
     EXPECT_TRUE(matricules().isEmpty());
+}
+
+TEST_F(FicheEleveSurBase, DeletingANewPupilNotYetSavedReportsTheMissingRowAndDeletesNoOther) {
+    ajouter_élèves(base, {"000001", "000002"});
+    feuille_élève& f = ouvrir();
+    ui().expectMsgBox(vbNo).expectMsgBox(vbOK);
+    cliquer_ajouter(f);
+    cliquer(f, u("cmdSupprimer"));
+    EXPECT_TRUE(ui().lastBox().text.startsWith(u("Le logiciel a rencontré l'erreur : 3021\n\n")));
+    EXPECT_EQ(matricules(), (QStringList{u("000001"), u("000002")}));
+    EXPECT_EQ(f.matricule->text(), u("000003"));
 }
 
 TEST_F(FicheEleveSurBase, ADuplicateMatriculeRefusedByTheFileIsSilentOnAMoveAndReportedOnSave) {

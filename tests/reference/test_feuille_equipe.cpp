@@ -4,6 +4,7 @@
 #include "people/feuille_élève.h"
 #include "platform/errors/ErrorBoxes.h"
 #include "platform/forms/DataControl.h"
+#include "platform/forms/LimiteSaisie.h"
 #include "platform/forms/Module1.h"
 #include "reference/feuille_équipe.h"
 #include "support/BaseDirecte.h"
@@ -75,7 +76,7 @@ TEST_F(FicheEnseignant, DeclaresItsFieldsInKeyboardOrderWithTheirLimitsTooltipsA
         SCOPED_TRACE(a.nom);
         auto* boîte = f.findChild<QLineEdit*>(u(a.nom));
         ASSERT_NE(boîte, nullptr);
-        EXPECT_EQ(boîte->maxLength(), a.longueur);
+        EXPECT_EQ(limite_saisie(*boîte), a.longueur);
         EXPECT_EQ(boîte->toolTip(), u(a.infobulle));
         EXPECT_EQ(boîte->isEnabled(), a.saisissable);
         EXPECT_EQ(boîte->parentWidget()->objectName(), u(a.groupe));

@@ -1,6 +1,7 @@
 // The letter templates on a copy of the template base: a screen of bound boxes and check boxes on the
 // shared frame, with form A of add and the delete without a trap.
 #include "platform/forms/DataControl.h"
+#include "platform/forms/LimiteSaisie.h"
 #include "platform/forms/Module1.h"
 #include "reports/feuille_documents.h"
 #include "support/BaseDirecte.h"
@@ -47,7 +48,7 @@ TEST_F(FeuilleDocumentsTest, limits_of_the_boxes_and_the_two_odd_texts_it_keeps)
     const std::pair<QLineEdit*, int> limites[] = {
         {f.intitulé, 30}, {f.titre, 50}, {f.destinataire, 50}, {f.politesse, 254}, {f.post_scriptum, 254}};
     for (const auto& [boîte, limite] : limites)
-        EXPECT_EQ(boîte->maxLength(), limite) << boîte->objectName().toStdString();
+        EXPECT_EQ(limite_saisie(*boîte), limite) << boîte->objectName().toStdString();
     for (QPlainTextEdit* p :
          {f.paragraphe1, f.paragraphe2, f.paragraphe3, f.paragraphe4, f.paragraphe5, f.paragraphe6})
         EXPECT_EQ(p->property("maxLength").toInt(), 254) << p->objectName().toStdString();

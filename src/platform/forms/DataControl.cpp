@@ -329,6 +329,10 @@ bool DataControl::isAddingNew() const {
     return recordset_ && recordset_->editMode() == EditMode::AddNew;
 }
 
+bool DataControl::isStartingEmptySet() const {
+    return rs().editMode() == EditMode::AddNew && rs().RecordCount() == 0 && !DataChanged();
+}
+
 QVariant DataControl::pendingValue(const QString& column, bool* found) const {
     const auto it = pending_.constFind(column);
     *found = it != pending_.cend();
@@ -363,7 +367,11 @@ void DataControl::commitRow() {
 }
 
 void DataControl::moveWith(int action, const std::function<void(::Recordset&)>& move) {
-    rs();
+    // The new row of a set that holds none (the first record a menu command starts on an empty table)
+    // is the only row there is: untouched, a move has nowhere to go and keeps it, where dropping it
+    // first would leave no row to move to.
+    if (isStartingEmptySet())
+        return;
     if (!leaveRow(action))
         return;
     move(rs());
@@ -460,9 +468,10 @@ void DataRecordset::Delete() {
         control_.Validate(action, save);
     if (action == vbDataActionCancel)
         return;
-    // A row about to go is not written first.
-    control_.discardEdits();
+    // The engine refuses first (3021 on a new row not yet saved, no current row): the buffer and what
+    // the screen shows stay, still to be saved. A row that goes is not written first.
     raw().Delete();
+    control_.discardEdits();
     emit control_.rowsChanged();
 }
 

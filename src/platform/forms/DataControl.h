@@ -147,6 +147,8 @@ private:
     struct Binding;
 
     ::Recordset& rs() const;
+    // On an untouched new row of a set with no row at all.
+    bool isStartingEmptySet() const;
     // Validate then, when Save stays set, the edited row written; false when Validate cancels.
     bool leaveRow(int action);
     void moveWith(int action, const std::function<void(::Recordset&)>& move);

@@ -2,6 +2,7 @@
 
 #include "platform/forms/DBGrid.h"
 #include "platform/forms/DataControl.h"
+#include "platform/forms/LimiteSaisie.h"
 
 #include "support/BaseDirecte.h"
 #include <QCheckBox>
@@ -61,7 +62,7 @@ feuille_essai::feuille_essai(ConfigurationFiche configuration) : FeuilleFiche(st
     disposition->addWidget(SSTab1);
 
     nom = lié<QLineEdit>(*datPrimaryRS, identité, "nom", "nom");
-    nom->setMaxLength(30);
+    limiter_saisie(*nom, 30);
     naissance = lié<QLineEdit>(*datPrimaryRS, identité, "naissance", "naissance");
     actif = lié<QCheckBox>(*datPrimaryRS, identité, "actif", "actif");
     notes = lié<QPlainTextEdit>(*datPrimaryRS, suite, "notes", "notes");

@@ -4,6 +4,7 @@
 
 #include "platform/errors/ErrorBoxes.h"
 #include "platform/forms/DataControl.h"
+#include "platform/forms/LimiteSaisie.h"
 #include "platform/forms/Module1.h"
 #include "platform/forms/SuiviOnglets.h"
 #include "support/PiloteEcran.h"
@@ -216,23 +217,21 @@ TEST_F(FicheTest, closing_with_an_edited_or_new_row_writes_it_without_a_question
     EXPECT_EQ(noms().last(), "Echo");
 }
 
-TEST_F(FicheTest, a_value_longer_than_its_box_is_kept_whole_when_the_row_is_saved) {
+TEST_F(FicheTest, a_value_longer_than_its_box_stays_whole_on_screen_and_in_the_file_and_typing_stops_at_it) {
     sql_direct(base, "UPDATE fiches SET nom = 'Alphonsine-Bérénice' WHERE nom = 'Alpha'");
     auto& f = ouvrir();
+    limiter_saisie(*f.nom, 5);
     cliquer(*f.datPrimaryRS, "suivant");
-    f.nom->setMaxLength(5);
     cliquer(*f.datPrimaryRS, "premier");
-    ASSERT_EQ(f.nom->text(), "Alpho");
-    f.notes->setPlainText(QStringLiteral("changée"));
+    EXPECT_EQ(f.nom->text(), "Alphonsine-Bérénice");
+    f.nom->setText("Bernadette-Sophie");
     cliquer(f, "cmdMettreàjour");
-    EXPECT_EQ(noms().first(), "Alphonsine-Bérénice");
-    EXPECT_EQ(colonne_du_fichier(base, QStringLiteral("fiches"), QStringLiteral("notes")).first(), "changée");
+    EXPECT_EQ(noms().first(), "Bernadette-Sophie") << "what the program writes is saved whole";
 
-    // What the user types over it is written, as any edit.
     f.nom->selectAll();
-    taper(f.nom, "Anne");
+    taper(f.nom, "Annabelle");
     cliquer(f, "cmdMettreàjour");
-    EXPECT_EQ(noms().first(), "Anne");
+    EXPECT_EQ(noms().first(), "Annab");
 }
 
 TEST_F(FicheTest, refresh_goes_back_to_the_first_record_and_sees_other_users_rows) {
@@ -275,6 +274,21 @@ TEST_F(FicheTest, deleting_the_only_row_shows_3021_and_leaves_the_screen_open_on
     EXPECT_TRUE(module1().feuilles().isLoaded<feuille_essai>());
     EXPECT_TRUE(f.isVisible());
     EXPECT_EQ(ui().mousePointer(), vbDefault);
+}
+
+TEST_F(FicheTest, supprimer_on_a_new_unsaved_row_shows_3021_deletes_nothing_and_the_row_can_be_saved) {
+    sql_direct(base, "DELETE FROM fiches");
+    for (const bool vide : {true, false}) {
+        auto& f = ouvrir();
+        cliquer(f, "cmdAjouter");
+        taper(f.nom, vide ? "Delta" : "Echo");
+        ui().expectMsgBox();
+        cliquer(f, "cmdSupprimer");
+        EXPECT_EQ(ui().lastBox().text, texte_erreur(ErrorBoxKind::standard, VbError(3021)));
+        EXPECT_EQ(noms().size(), vide ? 0 : 1) << "nothing is deleted";
+        cliquer(f, "cmdMettreàjour");
+        EXPECT_EQ(noms(), vide ? QStringList{"Delta"} : QStringList({"Delta", "Echo"}));
+    }
 }
 
 TEST_F(FicheTest, a_refused_save_shows_the_box_and_keeps_the_edit_on_screen) {
@@ -394,3 +408,4 @@ TEST_F(FicheTest, a_last_row_the_engine_refuses_keeps_the_screen_open_with_its_e
     EXPECT_FALSE(module1().feuilles().isLoaded<feuille_essai>());
     EXPECT_EQ(colonne_du_fichier(base, "fiches", "naissance").first(), "2015-02-02");
 }
+
