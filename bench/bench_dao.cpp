@@ -222,6 +222,26 @@ void BM_CompactAgainstPlainCopy(benchmark::State& state) {
 }
 BENCHMARK(BM_CompactAgainstPlainCopy)->Unit(benchmark::kMillisecond)->Iterations(3);
 
+// The save of a row already stored, checked against what was read of it before it is written.
+void BM_EditUpdate(benchmark::State& state) {
+    const QString path = scratch_copy(QStringLiteral("norvane_bench_modif.mdb"));
+    {
+        auto db = Database::open(path);
+        auto rs = db->OpenRecordset(alphabetical);
+        rs->setAbsolutePosition(50000);
+        int turn = 0;
+        timed(
+            state, 5, [] {},
+            [&] {
+                rs->Edit();
+                rs->setField(QStringLiteral("ville_résidence"), QStringLiteral("Bron %1").arg(++turn));
+                rs->Update();
+            });
+    }
+    QFile::remove(path);
+}
+BENCHMARK(BM_EditUpdate)->Unit(benchmark::kMillisecond)->Iterations(200);
+
 // After the table of runs, one line a figure with its goal.
 class GoalReporter : public benchmark::ConsoleReporter {
 public:
@@ -266,7 +286,8 @@ private:
             {"BM_ThousandMoveNext", "1 000 MoveNext (lignes lues)"},
             {"BM_MoveLast", "MoveLast"},
             {"BM_FindFirstNamePrefix", "FindFirst nom_élève like 'DUP*'"},
-            {"BM_AddNewUpdate", "AddNew + Update"}};
+            {"BM_AddNewUpdate", "AddNew + Update"},
+            {"BM_EditUpdate", "Edit + Update (ligne relue)"}};
         for (const auto& [key, text] : labels)
             if (name.rfind(key, 0) == 0)
                 return text;

@@ -10,6 +10,12 @@
 #include <QRegularExpression>
 #include <sqlite3.h>
 
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
 namespace dao {
 namespace {
 
@@ -82,12 +88,26 @@ QVariant default_value(const FieldInfo& field, const QVariant& declaredDefault) 
     return {};
 }
 
+// Read without ever waiting: a FIFO put in the base's place after the check of its kind must not hold
+// the program at open() until somebody writes into it.
 bool has_sqlite_header(const QString& path) {
+    static const QByteArray magic("SQLite format 3\0", 16);
+#ifdef Q_OS_UNIX
+    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0)
+        return true; // unreadable: the lock or the engine will say why
+    struct stat status {};
+    QByteArray head(magic.size(), '\0');
+    const bool regular = ::fstat(fd, &status) == 0 && S_ISREG(status.st_mode);
+    const bool whole = regular && ::read(fd, head.data(), head.size()) == head.size();
+    ::close(fd);
+    return whole && head == magic;
+#else
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return true; // unreadable: the lock or the engine will say why
-    static const QByteArray magic("SQLite format 3\0", 16);
+        return true;
     return file.read(16) == magic;
+#endif
 }
 
 } // namespace
@@ -200,7 +220,8 @@ std::shared_ptr<Connection> Connection::open(const QString& path, Access access)
         fail_with_path(3024, path);
     if (!info.exists())
         fail_with_path(info.absoluteDir().exists() ? 3024 : 3044, path);
-    if (info.isDir() || !has_sqlite_header(path))
+    // Only a regular file can be a base; a folder, a FIFO or a device is refused before anything opens it.
+    if (!info.isFile() || !has_sqlite_header(path))
         fail_with_path(3343, path);
 
     FileLock lock;
@@ -227,7 +248,10 @@ std::shared_ptr<Connection> Connection::open(const QString& path, Access access)
                            "ORDER BY rowid"));
         while (names.step())
             connection->tableNames_ << names.column(0).toString();
-    } catch (const VbError&) {
+    } catch (const VbError& error) {
+        // Another program writing to the file is no damage: a head told "damaged" may restore over it.
+        if (error.number() == 3260)
+            throw;
         fail_with_path(3343, path);
     }
     return connection;

@@ -15,8 +15,9 @@ class Connection;
 // or copying the file fails while anybody uses it.
 //
 // Every failure is a VbError with the engine's number: 3024 missing file, 3343 not a database or
-// damaged, 3051 file locked, 3075 syntax in a query, 3022 duplicate key, 3163 text too long,
-// 3421 not a date, 3044 bad path, 3065 Execute of a SELECT, 3078 unknown table.
+// damaged (or no regular file at all), 3051 file locked, 3260 file held by another program's write,
+// 3075 syntax in a query, 3022 duplicate key, 3163 text too long, 3421 not a date, 3044 bad path,
+// 3065 Execute of a SELECT, 3078 unknown table.
 class Database {
 public:
     // Opens an existing file whatever its extension (.mdb, .mdz).

@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
@@ -34,9 +35,15 @@ FileLock& FileLock::operator=(FileLock&& other) noexcept {
 // Database on the same file, which the program's screens never leave open.
 FileLock::Result FileLock::acquire(const QString& path, Mode mode) {
     release();
-    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    // Never waits at open(), whatever the path names; only a regular file is locked.
+    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (fd < 0)
         return Result::Unreadable;
+    struct stat status {};
+    if (::fstat(fd, &status) != 0 || !S_ISREG(status.st_mode)) {
+        ::close(fd);
+        return Result::Unreadable;
+    }
     const int operation = (mode == Mode::Shared ? LOCK_SH : LOCK_EX) | LOCK_NB;
     int rc;
     do {

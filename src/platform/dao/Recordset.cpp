@@ -394,11 +394,10 @@ void Recordset::AddNew() {
     d->mode = EditMode::AddNew;
 }
 
+// The edit starts from the row as this recordset read it, which Update checks against the file.
 void Recordset::Edit() {
     d->db();
     d->requireRow();
-    if (!d->load(d->cur))
-        throw VbError(3167);
     d->buffer = d->row;
     d->dirty.assign(d->fields.size(), false);
     d->mode = EditMode::Edit;
@@ -447,20 +446,28 @@ void Recordset::Update() {
         for (const QString& column : columns)
             assignments << column + QStringLiteral(" = ?");
         dao::Connection::WriteScope scope(db);
+        // Optimistic locking: the row must still be what this recordset read, or another user's save
+        // would be lost without a word. Read inside the write transaction, nobody can change it between.
+        const auto stored = d->read(key);
+        if (!stored) {
+            d->markGone(d->cur);
+            d->dropEdit();
+            throw VbError(3167);
+        }
+        if (*stored != d->row)
+            throw VbError(3197);
         dao::Statement update = db.prepare(QStringLiteral("UPDATE %1 SET %2 WHERE rowid = ?")
                                                .arg(table, assignments.join(QStringLiteral(", "))));
         for (size_t i = 0; i < values.size(); ++i)
             update.bind(static_cast<int>(i + 1), values[i]);
         update.bind(static_cast<int>(values.size() + 1), QVariant(qlonglong(key)));
         update.step();
-        if (db.changes() == 0) {
-            d->markGone(d->cur);
-            d->dropEdit();
-            throw VbError(3167);
-        }
+        // What the file now holds, as the next save will compare it (a column may store a value in a
+        // form of its own).
+        auto written = d->read(key).value_or(d->buffer);
         scope.commit();
+        d->row = std::move(written);
     }
-    d->row = d->buffer;
     d->lastModified = key;
     d->dropEdit();
 }

@@ -27,12 +27,14 @@ enum class EditMode { None, Edit, AddNew };
 // A dynaset, as a DAO Recordset of that type behaves. Opening fixes the ordered list of row keys; rows
 // are read on demand. A row added joins the end until Requery; a deleted row stays a hole that moves
 // skip and that reading reports (3167); so does a row another data source removed. A move forgets an
-// edit that Update did not write, as the engine does (the data control writes first). EOF and BOF are
-// spelt isEOF()/isBOF(), EOF being a C macro.
+// edit that Update did not write, as the engine does (the data control writes first). Locking is
+// optimistic: Update refuses a row that another data source changed since this one read it (3197).
+// EOF and BOF are spelt isEOF()/isBOF(), EOF being a C macro.
 //
 // Errors (VbError): 3021 no current record, 3020 Update or CancelUpdate without AddNew/Edit,
-// 3167 record deleted, 3265 unknown column, 3077 syntax in a FindFirst criterion, 3163 text too long,
-// 3421 not a date, 3022 duplicate key, 3420 database closed.
+// 3167 record deleted, 3197 record changed by another user since it was read, 3265 unknown column,
+// 3077 syntax in a FindFirst criterion, 3163 text too long, 3421 not a date, 3022 duplicate key,
+// 3420 database closed.
 class Recordset {
 public:
     Recordset(std::shared_ptr<dao::Connection> connection, const QString& jetSelect);

@@ -69,8 +69,9 @@ const std::map<int, const char*>& catalogue() {
         {3163, "Le champ est trop petit pour accepter le volume de données que vous avez tenté d'ajouter. "
                "Essayez d'insérer ou de coller moins de données."},
         {3167, "L'enregistrement est supprimé."},
-        {3197, "Le moteur de base de données a arrêté le processus car vous et un autre utilisateur tentez "
-               "de modifier les mêmes données au même moment."},
+        {3197, "Un autre utilisateur a modifié cette fiche depuis que vous l'avez affichée : vos "
+               "modifications n'ont pas été enregistrées. Cliquez sur Rafraîchir pour voir la fiche telle "
+               "qu'elle est enregistrée, puis refaites vos modifications."},
         {3204, "La base de données existe déjà."},
         {3219, "Opération non valide."},
         {3251, "Opération non supportée pour ce type d'objet."},

@@ -211,6 +211,7 @@ void DataControl::closeDatabase() {
     lastWritten_.clear();
     pending_.clear();
     changed_ = false;
+    refusedByAnotherUser_ = false;
     emit reopened();
 }
 
@@ -223,13 +224,18 @@ bool DataControl::DataChanged() const {
     return false;
 }
 
+// An edit the file refused because another user changed or deleted the row can never be written:
+// refreshing or closing then gives it up, so the user is never held on that row. Every other way off
+// the row tries the write again, and tells the refusal again, rather than lose the edit unseen.
 bool DataControl::leaveRow(int action) {
     bool save = DataChanged();
     if (Validate)
         Validate(action, save);
     if (action == vbDataActionCancel)
         return false;
-    if (save)
+    const bool givenUp =
+        refusedByAnotherUser_ && (action == vbDataActionClose || action == vbDataActionUnload);
+    if (save && !givenUp)
         writeEdits();
     else
         discardEdits();
@@ -238,16 +244,21 @@ bool DataControl::leaveRow(int action) {
 
 void DataControl::writeEdits() {
     auto& r = rs();
-    if (r.editMode() == EditMode::None)
-        r.Edit();
-    const bool newRow = r.editMode() == EditMode::AddNew;
-    for (const auto& binding : bindings_)
-        if (binding->writable(newRow) && r.fieldIndex(binding->column) >= 0)
-            r.setField(binding->column, binding->value());
-    for (auto it = pending_.cbegin(); it != pending_.cend(); ++it)
-        r.setField(it.key(), it.value());
     const bool added = r.editMode() == EditMode::AddNew;
-    r.Update();
+    try {
+        if (r.editMode() == EditMode::None)
+            r.Edit();
+        for (const auto& binding : bindings_)
+            if (binding->writable(added) && r.fieldIndex(binding->column) >= 0)
+                r.setField(binding->column, binding->value());
+        for (auto it = pending_.cbegin(); it != pending_.cend(); ++it)
+            r.setField(it.key(), it.value());
+        r.Update();
+    } catch (const VbError& error) {
+        if (error.number() == 3167 || error.number() == 3197)
+            refusedByAnotherUser_ = true;
+        throw;
+    }
     lastWritten_ = r.LastModified();
     changed_ = false;
     pending_.clear();
@@ -271,6 +282,7 @@ void DataControl::discardEdits() {
 }
 
 void DataControl::showCurrentRow() {
+    refusedByAnotherUser_ = false;
     filling_ = true;
     for (const auto& binding : bindings_) {
         QVariant value;

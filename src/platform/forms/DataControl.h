@@ -92,7 +92,8 @@ public:
     QString Caption() const;
     void setCaption(const QString& caption);
 
-    // Writes an edited row, reruns the query on DatabaseName and shows the first record.
+    // Writes an edited row, reruns the query on DatabaseName and shows the first record. An edit the
+    // file refused because another user changed or deleted its row is given up, here and at unload.
     void Refresh();
     // Writes the bound controls to the current row without moving (Validate with vbDataActionUpdate).
     void UpdateRecord();
@@ -172,6 +173,8 @@ private:
     QHash<QString, QVariant> pending_;
     QByteArray lastWritten_;
     bool changed_ = false;
+    // The current row's edit was refused because another user changed or deleted the row (3197, 3167).
+    bool refusedByAnotherUser_ = false;
     int lastError_ = 0;
     bool filling_ = false;
     QLabel* caption_ = nullptr;

@@ -8,6 +8,8 @@
 #include <QDir>
 #include <QFile>
 #include <QRandomGenerator>
+#include <sqlite3.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -44,9 +46,12 @@ TEST(OpeningFiles, WhatIsNoBaseIs3343AndStaysUntouched) {
     f.close();
     QFile(base.file("vide.mdb")).open(QIODevice::WriteOnly);
     QDir(base.folder()).mkdir("dossier.mdb");
+    ASSERT_EQ(mkfifo(QFile::encodeName(base.file("tube.mdb")).constData(), 0600), 0);
     const QStringList before = files_in(base.folder());
-    for (const char* name : {"abîmée.mdb", "vide.mdb", "dossier.mdb"})
+    alarm(60); // waiting on the FIFO for a writer would hold the test for ever: end it instead
+    for (const char* name : {"abîmée.mdb", "vide.mdb", "dossier.mdb", "tube.mdb"})
         EXPECT_EQ(error_of([&] { Database::open(base.file(name)); }), 3343) << name;
+    alarm(0);
     EXPECT_EQ(digest(path), QCryptographicHash::hash(noise, QCryptographicHash::Sha256));
     EXPECT_EQ(files_in(base.folder()), before);
     EXPECT_FALSE(fichier_verrouillé(path));
@@ -207,6 +212,18 @@ TEST(Sharing, AWriterWaitsForAnotherThenGivesUpWithTheLockedError) {
     first->CommitTrans();
     EXPECT_EQ(second->OpenRecordset("sexe")->RecordCount(), 0);
     EXPECT_EQ(error_of([&] { second->Execute("DELETE * FROM genres"); }), 0);
+}
+
+// A file that another program is writing is busy, not damaged, and the attempt leaves it as it was.
+TEST(Sharing, ABaseAnotherProgramHoldsAtOpeningIsLockedNotDamaged) {
+    TemplateBase base;
+    sqlite3* other = nullptr;
+    sqlite3_open(QFile::encodeName(base.path()).constData(), &other);
+    ASSERT_EQ(sqlite3_exec(other, "BEGIN EXCLUSIVE; DELETE FROM sexe", nullptr, nullptr, nullptr), SQLITE_OK);
+    const QByteArray before = digest(base.path());
+    EXPECT_EQ(raised_by([&] { Database::open(base.path()); }).description(), error_text(3260));
+    EXPECT_EQ(digest(base.path()), before);
+    sqlite3_close(other);
 }
 
 } // namespace

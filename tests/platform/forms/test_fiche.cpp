@@ -336,6 +336,32 @@ TEST_F(FicheTest, the_error_event_box_names_the_error_on_screens_that_show_it) {
     EXPECT_EQ(ui().boxes(), std::vector(2, boîte));
 }
 
+// Another copy's save of the row on show stands: this copy's is refused, as is one of a row deleted
+// meanwhile, until "Rafraîchir" or "Fermer" leaves the row. A save of another row is no conflict.
+TEST_F(FicheTest, a_row_another_user_changed_or_deleted_since_it_was_shown_is_refused_until_left) {
+    auto& f = ouvrir<feuille_essai_bavarde>();
+    sql_direct(base, "UPDATE fiches SET nom = 'Bruno' WHERE nom = 'Bravo'");
+    f.nom->setText("Alfred");
+    cliquer(f, "cmdMettreàjour");
+    sql_direct(base, "UPDATE fiches SET nom = 'Albert' WHERE nom = 'Alfred'");
+    f.nom->setText("Alphonse");
+    ui().expectMsgBox();
+    cliquer(*f.datPrimaryRS, "suivant");
+    EXPECT_EQ(ui().lastBox().text, "Data error event hit err:" + error_text(3197));
+    cliquer(f, "cmdRafraîchir");
+    EXPECT_EQ(f.nom->text(), "Albert");
+
+    f.nom->setText("Perdu");
+    sql_direct(base, "DELETE FROM fiches WHERE nom = 'Albert'");
+    ui().expectMsgBox();
+    cliquer(f, "cmdMettreàjour");
+    EXPECT_EQ(ui().lastBox().text, texte_erreur(ErrorBoxKind::standard, VbError(3167)));
+    cliquer(f, "cmdFermer");
+    processDeletions();
+    EXPECT_FALSE(module1().feuilles().isLoaded<feuille_essai_bavarde>());
+    EXPECT_EQ(noms(), (QStringList{"Bruno", "Charlie"}));
+}
+
 TEST_F(FicheTest, a_handler_without_trap_fails_up_to_the_standard_words_and_the_screen_goes_on) {
     sql_direct(base, "DELETE FROM fiches");
     auto& f = ouvrir<feuille_essai_bavarde>();
