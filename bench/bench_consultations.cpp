@@ -3,7 +3,7 @@
 // cells into the pupil screen, closes the lookup and gives the focus to the telephone. The goal is that
 // of an answer the user does not wait for.
 #include "BenchSupport.h"
-#include "people/feuille_élève.h"
+#include "people/feuille_eleve.h"
 #include "platform/dao/Database.h"
 #include "platform/dao/Recordset.h"
 #include "platform/forms/DBGrid.h"

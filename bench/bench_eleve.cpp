@@ -2,7 +2,7 @@
 // command, after "&Ajouter" (two full re-queries and a move to the last matricule), and after a move.
 #include "BenchSupport.h"
 #include "generator/Demonstration.h"
-#include "people/feuille_élève.h"
+#include "people/feuille_eleve.h"
 #include "platform/dao/Database.h"
 #include "platform/forms/DataControl.h"
 #include "platform/forms/Module1.h"

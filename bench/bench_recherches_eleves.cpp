@@ -1,8 +1,8 @@
 // The pupil screen's searches and orders on a school of 100,000 pupils: a jump by name to a surname near
 // the end of the alphabetical order, a jump by matricule with a leading wildcard, and a new order.
 #include "BenchSupport.h"
-#include "people/ordres_élèves.h"
-#include "people/recherches_élèves.h"
+#include "people/ordres_eleves.h"
+#include "people/recherches_eleves.h"
 #include "platform/dao/Database.h"
 #include "platform/forms/DataControl.h"
 

@@ -1,8 +1,8 @@
 #include "shell/ecrans_connus.h"
 
-#include "people/feuille_élève.h"
+#include "people/feuille_eleve.h"
 #include "platform/forms/Module1.h"
-#include "reference/feuille_équipe.h"
+#include "reference/feuille_equipe.h"
 
 // A calling screen of the lookups' return table joins here, one line, as it is built: until then the
 // lookups treat its values of origine_appel as unknown (feuille_famille, feuille_école and

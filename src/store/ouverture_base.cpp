@@ -1,6 +1,6 @@
 #include "store/ouverture_base.h"
 
-#include "people/feuille_élève.h"
+#include "people/feuille_eleve.h"
 #include "platform/errors/ErrorBoxes.h"
 #include "platform/forms/DataControl.h"
 #include "platform/forms/Module1.h"

@@ -1,6 +1,6 @@
 #include "BaseEleves.h"
 
-#include "people/feuille_élève.h"
+#include "people/feuille_eleve.h"
 #include "platform/forms/Module1.h"
 #include "shell/MDIForm1.h"
 #include "shell/commandes.h"

@@ -1,5 +1,5 @@
 // The pupil's age as the screen shows it, computed from the birth date and the day it is.
-#include "people/âge.h"
+#include "people/age.h"
 
 #include <gtest/gtest.h>
 

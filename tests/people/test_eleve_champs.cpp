@@ -1,5 +1,5 @@
 // What a user reads and may type on the pupil screen: captions, entry limits and help texts of every tab.
-#include "people/feuille_élève.h"
+#include "people/feuille_eleve.h"
 #include "platform/forms/LimiteSaisie.h"
 
 #include <QApplication>

@@ -3,7 +3,7 @@
 // letter templates.
 #include "BaseEleves.h"
 
-#include "people/feuille_élève.h"
+#include "people/feuille_eleve.h"
 #include "platform/forms/DBGrid.h"
 #include "platform/forms/DataControl.h"
 #include "platform/forms/Module1.h"

@@ -2,7 +2,7 @@
 // names carry accents.
 #include "BaseEleves.h"
 
-#include "people/feuille_élève.h"
+#include "people/feuille_eleve.h"
 #include "platform/errors/ErrorBoxes.h"
 #include "platform/forms/DataControl.h"
 #include "platform/forms/Module1.h"

@@ -1,6 +1,6 @@
 // The texts that the pupil screen's order list is compared with, and the query each one sets.
-#include "people/feuille_élève.h"
-#include "people/ordres_élèves.h"
+#include "people/feuille_eleve.h"
+#include "people/ordres_eleves.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 #include "Consultations.h"
 
-#include "people/feuille_élève.h"
+#include "people/feuille_eleve.h"
 #include "platform/forms/DBGrid.h"
 #include "platform/forms/DataControl.h"
 #include "platform/forms/Module1.h"
-#include "reference/feuille_équipe.h"
+#include "reference/feuille_equipe.h"
 #include "shell/commandes.h"
 #include "support/BaseDirecte.h"
 

@@ -1,12 +1,12 @@
 // The teaching team: its record screen, and the class picker of the pupil screen.
 #include "Consultations.h"
 
-#include "people/feuille_élève.h"
+#include "people/feuille_eleve.h"
 #include "platform/errors/ErrorBoxes.h"
 #include "platform/forms/DataControl.h"
 #include "platform/forms/LimiteSaisie.h"
 #include "platform/forms/Module1.h"
-#include "reference/feuille_équipe.h"
+#include "reference/feuille_equipe.h"
 #include "support/BaseDirecte.h"
 #include "support/PiloteEcran.h"
 

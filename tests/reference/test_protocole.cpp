@@ -2,13 +2,13 @@
 // an accept by an old origine_appel, a second lookup opened meanwhile, the keys, and genres.
 #include "Consultations.h"
 
-#include "people/feuille_élève.h"
+#include "people/feuille_eleve.h"
 #include "platform/errors/ErrorBoxes.h"
 #include "platform/forms/DBGrid.h"
 #include "platform/forms/DataControl.h"
 #include "platform/forms/Module1.h"
 #include "platform/forms/Placement.h"
-#include "reference/feuille_équipe.h"
+#include "reference/feuille_equipe.h"
 #include "support/BaseDirecte.h"
 #include "support/PiloteEcran.h"
 

@@ -4,11 +4,11 @@
 // caller's row carries the values into the file.
 #include "Consultations.h"
 
-#include "people/feuille_élève.h"
+#include "people/feuille_eleve.h"
 #include "platform/forms/DBGrid.h"
 #include "platform/forms/DataControl.h"
 #include "platform/forms/Module1.h"
-#include "reference/feuille_équipe.h"
+#include "reference/feuille_equipe.h"
 #include "reference/retours.h"
 #include "support/PiloteEcran.h"
 

@@ -1,6 +1,6 @@
 #include "../shell/EtatDemarrage.h"
 
-#include "people/feuille_élève.h"
+#include "people/feuille_eleve.h"
 #include "platform/dao/Recordset.h"
 #include "platform/forms/DataControl.h"
 #include "platform/forms/EtiquetteElidee.h"

@@ -1,4 +1,4 @@
-#include "reference/feuille_médecins.h"
+#include "reference/feuille_medecins.h"
 
 feuille_médecins::feuille_médecins()
     : FeuilleConsultation(consultation(

@@ -1,9 +1,9 @@
-#include "people/feuille_élève.h"
+#include "people/feuille_eleve.h"
 #include "platform/forms/Disposition.h"
 
-#include "people/ordres_élèves.h"
-#include "people/recherches_élèves.h"
-#include "people/âge.h"
+#include "people/ordres_eleves.h"
+#include "people/recherches_eleves.h"
+#include "people/age.h"
 
 #include "platform/errors/ErrorBoxes.h"
 #include "platform/forms/Clignotement.h"

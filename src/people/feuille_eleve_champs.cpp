@@ -1,5 +1,5 @@
 // The bound fields of the pupil screen: names, columns, captions, limits and help texts, in screen order.
-#include "people/feuille_élève.h"
+#include "people/feuille_eleve.h"
 
 namespace {
 using F = feuille_élève;

@@ -1,4 +1,4 @@
-#include "reference/feuille_nationalités.h"
+#include "reference/feuille_nationalites.h"
 
 feuille_nationalités::feuille_nationalités()
     : FeuilleConsultation(consultation("feuille_nationalités", "Table des nationalités", "nationalités",

@@ -1,4 +1,4 @@
-#include "reference/feuille_équipe.h"
+#include "reference/feuille_equipe.h"
 #include "platform/forms/Disposition.h"
 
 #include "platform/errors/ErrorBoxes.h"

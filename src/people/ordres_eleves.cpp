@@ -1,4 +1,4 @@
-#include "people/ordres_élèves.h"
+#include "people/ordres_eleves.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "reference/feuille_hôpitaux.h"
+#include "reference/feuille_hopitaux.h"
 
 feuille_hôpitaux::feuille_hôpitaux()
     : FeuilleConsultation(consultation(

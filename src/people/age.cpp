@@ -1,4 +1,4 @@
-#include "people/âge.h"
+#include "people/age.h"
 
 #include "platform/dao/JetDate.h"
 

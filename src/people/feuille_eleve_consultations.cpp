@@ -1,16 +1,16 @@
 // The pupil screen's lookup buttons. Each opens its picker for this screen's value of origine_appel;
 // what the picker then copies, and where the focus goes, is the picker's own (reference/retours.h).
-#include "people/feuille_élève.h"
+#include "people/feuille_eleve.h"
 
 #include "platform/errors/ErrorBoxes.h"
 #include "platform/forms/DataControl.h"
 #include "reference/FeuilleConsultation.h"
 #include "reference/feuille_adresses.h"
 #include "reference/feuille_langues_vivantes.h"
-#include "reference/feuille_nationalités.h"
+#include "reference/feuille_nationalites.h"
 #include "reference/feuille_sexe.h"
 #include "reference/feuille_villes.h"
-#include "reference/feuille_équipe.h"
+#include "reference/feuille_equipe.h"
 #include "store/ouvrir_table.h"
 
 #include <QPushButton>

@@ -1,4 +1,4 @@
-#include "people/recherches_élèves.h"
+#include "people/recherches_eleves.h"
 
 #include "platform/forms/DataControl.h"
 #include "platform/ui/Interaction.h"
