@@ -15,7 +15,7 @@ public:
         if (sqlite3_open_v2(QFile::encodeName(path).constData(), &db_,
                             SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr) != SQLITE_OK)
             throw VbError(3043);
-        dao::register_jet_functions(db_);
+        dao::register_jet_functions(db_, collation_);
     }
     ~NewBase() { sqlite3_close_v2(db_); }
     NewBase(const NewBase&) = delete;
@@ -31,6 +31,7 @@ public:
     }
 
 private:
+    dao::FrenchCollation collation_; // called by the handle's collations and functions
     sqlite3* db_ = nullptr;
 };
 
