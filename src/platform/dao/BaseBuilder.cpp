@@ -45,6 +45,7 @@ void create_base(const QString& target, const QStringList& scripts) {
         base.run(QStringLiteral("BEGIN"), 3043);
         for (const QString& script : scripts)
             base.run(script, 3075);
+        base.run(dao::collation_version_pragma(), 3043);
         base.run(QStringLiteral("COMMIT"), 3043);
         base.run(QStringLiteral("VACUUM"), 3043); // also gives the file the page size the schema asks for
     } catch (...) {

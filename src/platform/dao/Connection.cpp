@@ -197,6 +197,10 @@ void register_jet_functions(sqlite3* db, const FrenchCollation& collation) {
     sqlite3_create_function_v2(db, "tri_fr", -1, pure, user, sort_key_function, nullptr, nullptr, nullptr);
 }
 
+QString collation_version_pragma() {
+    return QStringLiteral("PRAGMA user_version = %1").arg(FrenchCollation::version());
+}
+
 Connection::Connection(QString path, sqlite3* db, FileLock lock, std::unique_ptr<FrenchCollation> collation)
     : path_(std::move(path)), db_(db), lock_(std::move(lock)), collation_(std::move(collation)) {}
 
@@ -241,7 +245,29 @@ std::shared_ptr<Connection> Connection::open(const QString& path, Access access)
     } catch (const VbError&) {
         fail_with_path(3343, path);
     }
+    connection->rebuildStaleIndexes();
     return connection;
+}
+
+int Connection::recordedCollationVersion() const {
+    Statement version = prepare(QStringLiteral("PRAGMA user_version"));
+    return version.step() ? static_cast<int>(version.columnInt64(0)) : 0;
+}
+
+// The indexes hold sort keys and collation orders computed when their rows were written. Keys of another
+// French order (an older program, another ICU after a system upgrade) would make searches through them
+// miss rows and updates find the base damaged, so a base built under another version has them rebuilt
+// once. The version is read again inside the write transaction: another copy of the program may have
+// just done it. A read-only base keeps its indexes: it cannot be damaged by writes.
+void Connection::rebuildStaleIndexes() {
+    if (recordedCollationVersion() == FrenchCollation::version() || sqlite3_db_readonly(db_, "main") == 1)
+        return;
+    WriteScope scope(*this);
+    if (recordedCollationVersion() != FrenchCollation::version()) {
+        run(QStringLiteral("REINDEX"));
+        run(collation_version_pragma());
+    }
+    scope.commit();
 }
 
 void Connection::close() {

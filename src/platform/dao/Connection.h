@@ -100,6 +100,8 @@ public:
 
 private:
     Connection(QString path, sqlite3* db, FileLock lock, std::unique_ptr<FrenchCollation> collation);
+    int recordedCollationVersion() const;
+    void rebuildStaleIndexes();
 
     QString path_;
     sqlite3* db_;
@@ -114,6 +116,9 @@ private:
 // order), the sort key function tri_fr(column, ...) that orders and indexes use, and Jet's LIKE, all
 // through the given collation, which must outlive the connection.
 void register_jet_functions(sqlite3* db, const FrenchCollation& collation);
+
+// The statement that records in a base the version of the French order its indexes were built with.
+QString collation_version_pragma();
 
 // Thrown texts that name a file.
 [[noreturn]] void fail_with_path(int number, const QString& path);

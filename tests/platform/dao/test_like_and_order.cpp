@@ -3,6 +3,9 @@
 
 #include "platform/dao/FrenchText.h"
 
+#include <QFile>
+#include <sqlite3.h>
+
 namespace {
 
 // Text, pattern, whether it matches.
@@ -109,6 +112,49 @@ TEST_F(FrenchOrder, EqualValuesKeepTheOrderTheyWereWrittenIn) {
     db->Close();
     db = Database::open(base.path());
     EXPECT_EQ(values("SELECT * FROM élèves ORDER BY ville_résidence ASC", "matricule"), first);
+}
+
+// Rewrites a base's indexes as another French order would have them (here byte order backwards), with the
+// version of that order recorded.
+void index_under_another_order(const QString& path) {
+    sqlite3* raw = nullptr;
+    ASSERT_EQ(sqlite3_open_v2(QFile::encodeName(path).constData(), &raw, SQLITE_OPEN_READWRITE, nullptr),
+              SQLITE_OK);
+    const auto backwards = [](sqlite3_context* context, int argc, sqlite3_value** argv) {
+        std::string key;
+        for (int i = 0; i < argc; ++i)
+            key += reinterpret_cast<const char*>(sqlite3_value_text(argv[i])) + std::string(1, '\0');
+        for (char& c : key)
+            c = static_cast<char>(~c);
+        sqlite3_result_blob(context, key.data(), static_cast<int>(key.size()), SQLITE_TRANSIENT);
+    };
+    const auto backwardsText = [](void*, int na, const void* a, int nb, const void* b) {
+        return std::string_view(static_cast<const char*>(b), nb)
+            .compare({static_cast<const char*>(a), size_t(na)});
+    };
+    sqlite3_create_function_v2(raw, "tri_fr", -1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, backwards,
+                               nullptr, nullptr, nullptr);
+    sqlite3_create_collation_v2(raw, "FR", SQLITE_UTF8, nullptr, backwardsText, nullptr);
+    EXPECT_EQ(sqlite3_exec(raw, "REINDEX; PRAGMA user_version = 1", nullptr, nullptr, nullptr), SQLITE_OK);
+    sqlite3_close(raw);
+}
+
+TEST_F(FrenchOrder, IndexesOfAnotherOrderAreRebuiltAtOpening) {
+    addPupil("000001", "Bernard");
+    addPupil("000002", "Abel");
+    addPupil("000003", "Zola");
+    db->Close();
+    index_under_another_order(base.path());
+    db = Database::open(base.path());
+    const char* alphabetical = "SELECT * FROM élèves ORDER BY nom_élève ASC, prénom_élève ASC";
+    EXPECT_EQ(values(alphabetical, "nom_élève"), (QStringList{"Abel", "Bernard", "Zola"}));
+    auto rs = db->OpenRecordset(alphabetical);
+    rs->MoveLast();
+    rs->Edit();
+    rs->setField("matricule", "000009"); // finds its old entries in the rebuilt indexes
+    rs->Update();
+    rs->Delete();
+    EXPECT_EQ(values(alphabetical, "matricule"), (QStringList{"000002", "000001"}));
 }
 
 TEST_F(FrenchOrder, CaseOnlyBreaksTiesLowerCaseFirst) {
