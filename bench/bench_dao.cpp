@@ -16,6 +16,7 @@
 #include <ctime>
 #include <malloc.h>
 #include <map>
+#include <sqlite3.h>
 
 namespace {
 
@@ -109,6 +110,37 @@ void BM_OpenAndMoveFirstAlphabetical(benchmark::State& state) {
         });
 }
 BENCHMARK(BM_OpenAndMoveFirstAlphabetical)->Unit(benchmark::kMillisecond)->Iterations(10);
+
+// An order that no index keeps: the French sort key of every row is computed, then sorted.
+void BM_OpenOrderedByTown(benchmark::State& state) {
+    const QString path = school();
+    timed(
+        state, 300, [] {},
+        [&] {
+            auto db = Database::open(path);
+            auto rs = db->OpenRecordset(QStringLiteral("SELECT * FROM élèves ORDER BY ville_résidence ASC"));
+            rs->MoveFirst();
+            benchmark::DoNotOptimize(rs->field(QStringLiteral("ville_résidence")));
+        });
+}
+BENCHMARK(BM_OpenOrderedByTown)->Unit(benchmark::kMillisecond)->Iterations(5);
+
+// The first opening after the French order changed (another ICU after a system upgrade): every index
+// on the sort key is rebuilt, once.
+void BM_OpenABaseOfAnotherOrder(benchmark::State& state) {
+    const QString path = scratch_copy(QStringLiteral("norvane_bench_ordre.mdb"));
+    timed(
+        state, 3000,
+        [&] {
+            sqlite3* raw = nullptr;
+            sqlite3_open_v2(QFile::encodeName(path).constData(), &raw, SQLITE_OPEN_READWRITE, nullptr);
+            sqlite3_exec(raw, "PRAGMA user_version = 1", nullptr, nullptr, nullptr);
+            sqlite3_close(raw);
+        },
+        [&] { benchmark::DoNotOptimize(Database::open(path)); });
+    QFile::remove(path);
+}
+BENCHMARK(BM_OpenABaseOfAnotherOrder)->Unit(benchmark::kMillisecond)->Iterations(3);
 
 // A move as a data control makes it: the next row, and every column of it read for the bound boxes.
 void read_row(const Recordset& rs) {
@@ -283,6 +315,8 @@ private:
     static const char* label(const std::string& name) {
         static const std::map<std::string, const char*> labels = {
             {"BM_OpenAndMoveFirstAlphabetical", "ouverture + MoveFirst alphabétique"},
+            {"BM_OpenOrderedByTown", "ouverture par ville (sans index)"},
+            {"BM_OpenABaseOfAnotherOrder", "ouverture après changement d'ordre"},
             {"BM_ThousandMoveNext", "1 000 MoveNext (lignes lues)"},
             {"BM_MoveLast", "MoveLast"},
             {"BM_FindFirstNamePrefix", "FindFirst nom_élève like 'DUP*'"},

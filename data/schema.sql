@@ -296,6 +296,8 @@ CREATE TABLE villes (
 
 -- The orders that opening the pupil and family screens and adding a record use, kept ready. They are
 -- indexes on the store's French sort key tri_fr(), which the other orders compute when they are asked.
+-- The keys depend on the collator's version: the base records it (user_version), and the store rebuilds
+-- these indexes at opening when it differs.
 CREATE INDEX élèves_par_matricule ON élèves (tri_fr(matricule));
 CREATE INDEX élèves_par_nom ON élèves (tri_fr(nom_élève, prénom_élève));
 CREATE INDEX familles_par_nom ON familles (tri_fr(nom_responsable_légal, prénom_responsable_légal));

@@ -15,7 +15,7 @@ public:
         if (sqlite3_open_v2(QFile::encodeName(path).constData(), &db_,
                             SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr) != SQLITE_OK)
             throw VbError(3043);
-        dao::register_jet_functions(db_);
+        dao::register_jet_functions(db_, collation_);
     }
     ~NewBase() { sqlite3_close_v2(db_); }
     NewBase(const NewBase&) = delete;
@@ -31,6 +31,7 @@ public:
     }
 
 private:
+    dao::FrenchCollation collation_; // called by the handle's collations and functions
     sqlite3* db_ = nullptr;
 };
 
@@ -44,6 +45,7 @@ void create_base(const QString& target, const QStringList& scripts) {
         base.run(QStringLiteral("BEGIN"), 3043);
         for (const QString& script : scripts)
             base.run(script, 3075);
+        base.run(dao::collation_version_pragma(), 3043);
         base.run(QStringLiteral("COMMIT"), 3043);
         base.run(QStringLiteral("VACUUM"), 3043); // also gives the file the page size the schema asks for
     } catch (...) {

@@ -8,6 +8,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <array>
+#include <span>
 #include <sqlite3.h>
 
 #ifdef Q_OS_UNIX
@@ -21,14 +23,24 @@ namespace {
 
 constexpr int busy_wait_ms = 3000;
 
-int collate_primary(void*, int na, const void* a, int nb, const void* b) {
-    return compare_primary({static_cast<const char*>(a), static_cast<size_t>(na)},
-                           {static_cast<const char*>(b), static_cast<size_t>(nb)});
+const FrenchCollation& collation_of(void* userData) {
+    return *static_cast<const FrenchCollation*>(userData);
 }
 
-int collate_french(void*, int na, const void* a, int nb, const void* b) {
-    return compare_french(std::string_view{static_cast<const char*>(a), static_cast<size_t>(na)},
-                          std::string_view{static_cast<const char*>(b), static_cast<size_t>(nb)});
+int collate_primary(void* collation, int na, const void* a, int nb, const void* b) {
+    return collation_of(collation).comparePrimary({static_cast<const char*>(a), static_cast<size_t>(na)},
+                                                  {static_cast<const char*>(b), static_cast<size_t>(nb)});
+}
+
+int collate_french(void* collation, int na, const void* a, int nb, const void* b) {
+    return collation_of(collation).compare(
+        std::string_view{static_cast<const char*>(a), static_cast<size_t>(na)},
+        std::string_view{static_cast<const char*>(b), static_cast<size_t>(nb)});
+}
+
+std::string_view text_of(sqlite3_value* value) {
+    const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
+    return {text, static_cast<size_t>(sqlite3_value_bytes(value))};
 }
 
 // like(pattern, text), which SQLite calls for "text LIKE pattern". The pattern is read once a statement.
@@ -40,12 +52,10 @@ void like_function(sqlite3_context* context, int, sqlite3_value** argv) {
     auto* pattern = static_cast<LikePattern*>(sqlite3_get_auxdata(context, 0));
     std::unique_ptr<LikePattern> fresh;
     if (!pattern) {
-        const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(argv[0]));
-        fresh = std::make_unique<LikePattern>(std::string_view(text, sqlite3_value_bytes(argv[0])));
+        fresh = std::make_unique<LikePattern>(collation_of(sqlite3_user_data(context)), text_of(argv[0]));
         pattern = fresh.get();
     }
-    const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(argv[1]));
-    sqlite3_result_int(context, pattern->matches(std::string_view(text, sqlite3_value_bytes(argv[1]))));
+    sqlite3_result_int(context, pattern->matches(text_of(argv[1])));
     if (fresh) // the engine keeps it for the next rows, or deletes it at once
         sqlite3_set_auxdata(context, 0, fresh.release(),
                             [](void* p) { delete static_cast<LikePattern*>(p); });
@@ -53,17 +63,16 @@ void like_function(sqlite3_context* context, int, sqlite3_value** argv) {
 
 // tri_fr(column, ...): the French sort key of the columns taken together, compared byte by byte.
 void sort_key_function(sqlite3_context* context, int argc, sqlite3_value** argv) {
-    std::vector<std::optional<std::string_view>> columns;
-    columns.reserve(argc);
-    for (int i = 0; i < argc; ++i) {
-        if (sqlite3_value_type(argv[i]) == SQLITE_NULL) {
-            columns.emplace_back();
-            continue;
-        }
-        const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(argv[i]));
-        columns.emplace_back(std::string_view(text, sqlite3_value_bytes(argv[i])));
-    }
-    const std::string key = sort_key(columns);
+    std::array<std::optional<std::string_view>, 4> few;
+    std::vector<std::optional<std::string_view>> many;
+    if (argc > static_cast<int>(few.size()))
+        many.resize(argc);
+    const std::span<std::optional<std::string_view>> columns =
+        many.empty() ? std::span(few.data(), argc) : std::span(many);
+    for (int i = 0; i < argc; ++i)
+        if (sqlite3_value_type(argv[i]) != SQLITE_NULL)
+            columns[i] = text_of(argv[i]);
+    const std::string key = collation_of(sqlite3_user_data(context)).sortKey(columns);
     sqlite3_result_blob(context, key.data(), static_cast<int>(key.size()), SQLITE_TRANSIENT);
 }
 
@@ -199,16 +208,21 @@ qint64 Statement::columnInt64(int index) const {
 
 // --- Connection
 
-void register_jet_functions(sqlite3* db) {
-    sqlite3_create_collation_v2(db, "FR", SQLITE_UTF8, nullptr, collate_primary, nullptr);
-    sqlite3_create_collation_v2(db, "FR_TRI", SQLITE_UTF8, nullptr, collate_french, nullptr);
+void register_jet_functions(sqlite3* db, const FrenchCollation& collation) {
+    auto* user = const_cast<FrenchCollation*>(&collation); // only ever read through
+    sqlite3_create_collation_v2(db, "FR", SQLITE_UTF8, user, collate_primary, nullptr);
+    sqlite3_create_collation_v2(db, "FR_TRI", SQLITE_UTF8, user, collate_french, nullptr);
     constexpr int pure = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS;
-    sqlite3_create_function_v2(db, "like", 2, pure, nullptr, like_function, nullptr, nullptr, nullptr);
-    sqlite3_create_function_v2(db, "tri_fr", -1, pure, nullptr, sort_key_function, nullptr, nullptr, nullptr);
+    sqlite3_create_function_v2(db, "like", 2, pure, user, like_function, nullptr, nullptr, nullptr);
+    sqlite3_create_function_v2(db, "tri_fr", -1, pure, user, sort_key_function, nullptr, nullptr, nullptr);
 }
 
-Connection::Connection(QString path, sqlite3* db, FileLock lock)
-    : path_(std::move(path)), db_(db), lock_(std::move(lock)) {}
+QString collation_version_pragma() {
+    return QStringLiteral("PRAGMA user_version = %1").arg(FrenchCollation::version());
+}
+
+Connection::Connection(QString path, sqlite3* db, FileLock lock, std::unique_ptr<FrenchCollation> collation)
+    : path_(std::move(path)), db_(db), lock_(std::move(lock)), collation_(std::move(collation)) {}
 
 Connection::~Connection() {
     close();
@@ -224,6 +238,7 @@ std::shared_ptr<Connection> Connection::open(const QString& path, Access access)
     if (!info.isFile() || !has_sqlite_header(path))
         fail_with_path(3343, path);
 
+    auto collation = std::make_unique<FrenchCollation>();
     FileLock lock;
     const auto mode = access == Access::Shared ? FileLock::Mode::Shared : FileLock::Mode::Exclusive;
     if (lock.acquire(path, mode) != FileLock::Result::Held)
@@ -239,9 +254,9 @@ std::shared_ptr<Connection> Connection::open(const QString& path, Access access)
     }
     sqlite3_extended_result_codes(db, 1);
     sqlite3_busy_timeout(db, busy_wait_ms);
-    register_jet_functions(db);
+    register_jet_functions(db, *collation);
 
-    std::shared_ptr<Connection> connection(new Connection(path, db, std::move(lock)));
+    std::shared_ptr<Connection> connection(new Connection(path, db, std::move(lock), std::move(collation)));
     try {
         Statement names = connection->prepare(
             QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite*' "
@@ -254,7 +269,29 @@ std::shared_ptr<Connection> Connection::open(const QString& path, Access access)
             throw;
         fail_with_path(3343, path);
     }
+    connection->rebuildStaleIndexes();
     return connection;
+}
+
+int Connection::recordedCollationVersion() const {
+    Statement version = prepare(QStringLiteral("PRAGMA user_version"));
+    return version.step() ? static_cast<int>(version.columnInt64(0)) : 0;
+}
+
+// The indexes hold sort keys and collation orders computed when their rows were written. Keys of another
+// French order (an older program, another ICU after a system upgrade) would make searches through them
+// miss rows and updates find the base damaged, so a base built under another version has them rebuilt
+// once. The version is read again inside the write transaction: another copy of the program may have
+// just done it. A read-only base keeps its indexes: it cannot be damaged by writes.
+void Connection::rebuildStaleIndexes() {
+    if (recordedCollationVersion() == FrenchCollation::version() || sqlite3_db_readonly(db_, "main") == 1)
+        return;
+    WriteScope scope(*this);
+    if (recordedCollationVersion() != FrenchCollation::version()) {
+        run(QStringLiteral("REINDEX"));
+        run(collation_version_pragma());
+    }
+    scope.commit();
 }
 
 void Connection::close() {

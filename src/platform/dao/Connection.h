@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/dao/FileLock.h"
+#include "platform/dao/FrenchText.h"
 #include "platform/dao/Recordset.h"
 
 #include <QString>
@@ -98,19 +99,26 @@ public:
     int transactionDepth() const { return depth_; }
 
 private:
-    Connection(QString path, sqlite3* db, FileLock lock);
+    Connection(QString path, sqlite3* db, FileLock lock, std::unique_ptr<FrenchCollation> collation);
+    int recordedCollationVersion() const;
+    void rebuildStaleIndexes();
 
     QString path_;
     sqlite3* db_;
     FileLock lock_;
+    std::unique_ptr<FrenchCollation> collation_; // outlives the engine's handle, which calls it
     int depth_ = 0;
     std::map<QString, TableInfo> tables_;
     QStringList tableNames_;
 };
 
 // Registers on a connection the collations FR (equality ignoring case and accents) and FR_TRI (French
-// order), the sort key function tri_fr(column, ...) that orders and indexes use, and Jet's LIKE.
-void register_jet_functions(sqlite3* db);
+// order), the sort key function tri_fr(column, ...) that orders and indexes use, and Jet's LIKE, all
+// through the given collation, which must outlive the connection.
+void register_jet_functions(sqlite3* db, const FrenchCollation& collation);
+
+// The statement that records in a base the version of the French order its indexes were built with.
+QString collation_version_pragma();
 
 // Thrown texts that name a file.
 [[noreturn]] void fail_with_path(int number, const QString& path);
