@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/ui/Interaction.h"
+#include "shell/ecrans_connus.h"
 
 #include <QApplication>
 #include <QFile>
@@ -33,7 +34,7 @@ public:
     explicit RéponseFixe(int bouton, QString réponse = {}) : bouton_(bouton), réponse_(std::move(réponse)) {}
     int MsgBox(const QString&, int, const QString&) override { return bouton_; }
     QString InputBox(const QString&, const QString&, const QString&) override { return réponse_; }
-    void showModal(Feuille&) override {}
+    void showModal(ModalScreen&) override {}
     void setMousePointer(int pointer) override { pointeur_ = pointer; }
     int mousePointer() const override { return pointeur_; }
 
@@ -43,11 +44,13 @@ private:
     int pointeur_ = vbDefault;
 };
 
-// The benchmarks' main(): an offscreen application, `avant` run before any timing.
+// The benchmarks' main(): an offscreen application, the screens made known by name as the program's
+// start-up does, `avant` run before any timing.
 inline int lancer(int argc, char** argv, const std::function<void()>& avant = {}) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
+    faire_connaître_les_écrans();
     if (avant)
         avant();
     benchmark::Initialize(&argc, argv);

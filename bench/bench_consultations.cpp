@@ -8,9 +8,8 @@
 #include "platform/dao/Recordset.h"
 #include "platform/forms/DBGrid.h"
 #include "platform/forms/DataControl.h"
-#include "platform/forms/Module1.h"
 #include "reference/feuille_villes.h"
-#include "shell/ecrans_connus.h"
+#include "store/Module1.h"
 #include "store/ouvrir_table.h"
 
 #include <QLineEdit>
@@ -40,7 +39,6 @@ void BM_choix_de_la_dernière_ville(benchmark::State& state) {
     Module1& m = module1();
     const Base base = fabriquer_base();
     m.base_en_cours = base.chemin;
-    faire_connaître_les_écrans();
     ouvrir_table_élèves();
     feuille_élève& élève = m.feuilles().get<feuille_élève>();
     élève.Show();

@@ -5,7 +5,7 @@
 #include "people/feuille_eleve.h"
 #include "platform/dao/Database.h"
 #include "platform/forms/DataControl.h"
-#include "platform/forms/Module1.h"
+#include "store/Module1.h"
 #include "store/ouvrir_table.h"
 
 #include <QLineEdit>

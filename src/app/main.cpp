@@ -1,6 +1,7 @@
-#include "platform/forms/Module1.h"
+#include "platform/forms/Feuilles.h"
 #include "platform/ui/Application.h"
 #include "shell/dessins.h"
+#include "shell/ecrans_connus.h"
 #include "shell/feuille_accueil.h"
 
 #include <QIcon>
@@ -12,8 +13,9 @@ int main(int argc, char** argv) {
     app.setApplicationName(QStringLiteral("Norvane"));
     app.setQuitOnLastWindowClosed(false);
     app.setWindowIcon(QIcon(dessin_cahier(QSize(64, 64))));
-    module1().feuilles().get<feuille_accueil>();
+    faire_connaître_les_écrans();
+    feuilles().get<feuille_accueil>();
     const int code = app.exec();
-    module1().feuilles().toutDétruire();
+    feuilles().toutDétruire(); // the screens go before the application object they need
     return code;
 }

@@ -2,7 +2,7 @@
 // what the picker then copies, and where the focus goes, is the picker's own (reference/retours.h).
 #include "people/feuille_eleve.h"
 
-#include "platform/errors/ErrorBoxes.h"
+#include "platform/ui/ErrorBoxes.h"
 #include "platform/forms/DataControl.h"
 #include "reference/FeuilleConsultation.h"
 #include "reference/feuille_adresses.h"

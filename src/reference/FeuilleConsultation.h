@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/forms/FeuilleFiche.h"
-#include "platform/forms/Module1.h"
+#include "store/Module1.h"
 
 #include <QPushButton>
 #include <cstdint>
@@ -41,7 +41,7 @@ ConfigurationFiche consultation(const char* nom, const char* titre, const char* 
 // traps the failures.
 template <class F> void consulter(void (*ouvrir_table)(), int16_t origine_appel) {
     ouvrir_table();
-    F& lookup = module1().feuilles().get<F>();
+    F& lookup = feuilles().get<F>();
     lookup.bouton_accepter->setVisible(true);
     module1().origine_appel = origine_appel;
     lookup.Show();

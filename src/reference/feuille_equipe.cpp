@@ -1,7 +1,7 @@
 #include "reference/feuille_equipe.h"
 #include "platform/forms/Disposition.h"
 
-#include "platform/errors/ErrorBoxes.h"
+#include "platform/ui/ErrorBoxes.h"
 #include "platform/forms/DataControl.h"
 #include "platform/forms/LimiteSaisie.h"
 #include "reference/FeuilleConsultation.h"

@@ -1,11 +1,11 @@
 #include "reference/retours.h"
 
-#include "platform/errors/ErrorBoxes.h"
 #include "platform/forms/DBGrid.h"
 #include "platform/forms/DataControl.h"
 #include "platform/forms/FeuilleFiche.h"
 #include "platform/forms/Focus.h"
-#include "platform/forms/Module1.h"
+#include "platform/ui/ErrorBoxes.h"
+#include "store/Module1.h"
 
 #include <QLineEdit>
 #include <QPushButton>
@@ -115,7 +115,7 @@ QString valeur(FeuilleFiche& consultation, const Copie& copie) {
 
 // False when the calling screen is not part of the program yet: the pair then counts as unknown.
 bool rendre(FeuilleFiche& consultation, const Retour& r) {
-    Feuille* appelant = module1().feuilles().parNom(QString::fromUtf8(r.appelant));
+    Feuille* appelant = feuilles().parNom(QString::fromUtf8(r.appelant));
     if (appelant == nullptr)
         return false;
     for (const Copie& copie : r.copies)

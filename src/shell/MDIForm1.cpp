@@ -1,17 +1,18 @@
 #include "shell/MDIForm1.h"
 
-#include "platform/errors/ErrorBoxes.h"
+#include "people/feuille_eleve.h"
 #include "platform/forms/EtiquetteElidee.h"
-#include "platform/forms/Module1.h"
+#include "platform/ui/ErrorBoxes.h"
 #include "shell/commandes.h"
-#include "shell/ecrans_connus.h"
 #include "shell/feuille_options.h"
 #include "shell/options.h"
+#include "store/Module1.h"
 #include "store/feuille_choix_base.h"
 #include "store/ouverture_base.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QLabel>
@@ -131,6 +132,27 @@ private:
     QLabel *maj_, *num_, *inser_;
 };
 
+// The screens an opening shows when their option is ticked, in this order. They are only shown, not
+// pointed: a screen not loaded yet points itself as it loads. An empty entry is a screen that is not
+// part of the program yet.
+struct ÉcranAprèsOuverture {
+    QCheckBox* feuille_options::*option;
+    void (*montrer)();
+};
+
+// Shows screen F, loading it first if need be, and gives it the focus.
+template <class F> void montrer_avec_le_focus() {
+    F& écran = feuilles().get<F>();
+    écran.Show();
+    écran.setFocus();
+}
+
+const ÉcranAprèsOuverture écrans_après_ouverture[] = {
+    {&feuille_options::Check1, nullptr}, // feuille_famille
+    {&feuille_options::Check2, montrer_avec_le_focus<feuille_élève>},
+    {&feuille_options::Check4, nullptr}, // feuille_traitements
+};
+
 } // namespace
 
 MDIForm1::MDIForm1() : Feuille(QStringLiteral("MDIForm1"), Genre::haut_niveau) {
@@ -149,8 +171,7 @@ MDIForm1::MDIForm1() : Feuille(QStringLiteral("MDIForm1"), Genre::haut_niveau) {
     if (const QScreen* écran = QGuiApplication::primaryScreen())
         setGeometry(écran->availableGeometry());
     setWindowState(Qt::WindowMaximized);
-    module1().feuilles().setMdiArea(zone);
-    faire_connaître_les_écrans();
+    feuilles().setMdiArea(zone);
 }
 
 MDIForm1::~MDIForm1() = default;
@@ -221,7 +242,7 @@ void MDIForm1::construire_barre_d_état() {
 }
 
 void MDIForm1::mettre_à_jour_l_heure() {
-    const QDateTime maintenant = module1().horloge().maintenant();
+    const QDateTime maintenant = horloge().maintenant();
     panneau(2)->setText(maintenant.toString(QStringLiteral("dd/MM/yyyy")));
     panneau(3)->setText(maintenant.toString(QStringLiteral("HH:mm")));
 }
@@ -254,6 +275,13 @@ void MDIForm1::activer_menus() {
         menu(QString::fromUtf8(nom))->setEnabled(true);
 }
 
+void MDIForm1::montrer_écrans_après_ouverture() {
+    feuille_options& options = feuilles().get<feuille_options>();
+    for (const ÉcranAprèsOuverture& écran : écrans_après_ouverture)
+        if (valeur_case(options.*écran.option) == 1 && écran.montrer)
+            écran.montrer();
+}
+
 void MDIForm1::cliquer(const QString& nom) {
     const QAction* action = menu(nom);
     if (action == nullptr || !action->isEnabled())
@@ -270,10 +298,10 @@ void MDIForm1::Form_Load() {
     m.base_en_cours.clear();
     désactiver_menus();
     lire_options();
-    if (valeur_case(m.feuilles().get<feuille_options>().Check3) == 1 && !m.base_en_cours.isEmpty()) {
+    if (valeur_case(feuilles().get<feuille_options>().Check3) == 1 && !m.base_en_cours.isEmpty()) {
         ouvrir_base_choisie();
     } else {
-        feuille_choix_base& choix = m.feuilles().get<feuille_choix_base>();
+        feuille_choix_base& choix = feuilles().get<feuille_choix_base>();
         choix.Show();
         choix.ZOrder();
     }
@@ -281,8 +309,8 @@ void MDIForm1::Form_Load() {
 
 void MDIForm1::Form_QueryUnload(int& cancel) {
     en_silence([&] {
-        const int réponse = module1().interaction().MsgBox(QStringLiteral("Voulez-vous quitter le logiciel?"),
-                                                           vbYesNo + vbQuestion);
+        const int réponse =
+            interaction().MsgBox(QStringLiteral("Voulez-vous quitter le logiciel?"), vbYesNo + vbQuestion);
         if (réponse == vbNo)
             cancel = 1;
     });
@@ -290,16 +318,16 @@ void MDIForm1::Form_QueryUnload(int& cancel) {
 
 void MDIForm1::Form_Unload(int&) {
     // The open screens go with the main window; each data source writes its pending row as it goes.
-    Feuilles& feuilles = module1().feuilles();
-    for (Feuille* f : feuilles.chargées())
-        if (f != this && feuilles.contient(f))
-            en_silence([&] { feuilles.unload(*f); });
+    Feuilles& registre = feuilles();
+    for (Feuille* f : registre.chargées())
+        if (f != this && registre.contient(f))
+            en_silence([&] { registre.unload(*f); });
     QCoreApplication::exit(0);
 }
 
 void MDIForm1::menufichierindex1_Click() {
     avec_piège(ErrorBoxKind::standard, [] {
-        feuille_choix_base& choix = module1().feuilles().get<feuille_choix_base>();
+        feuille_choix_base& choix = feuilles().get<feuille_choix_base>();
         choix.accès_tentavive->setText(QString());
         choix.Show();
         choix.ZOrder();
@@ -311,10 +339,10 @@ void MDIForm1::menufichierindex3_Click() {
         Module1& m = module1();
         fermer_base();
         m.base_en_cours.clear();
-        m.feuilles().get<feuille_choix_base>().Label4->setText(QString());
+        feuilles().get<feuille_choix_base>().Label4->setText(QString());
         setPanel1(QString());
         désactiver_menus();
-        m.interaction().MsgBox(QStringLiteral("La base est fermée..."), vbInformation);
+        interaction().MsgBox(QStringLiteral("La base est fermée..."), vbInformation);
     });
 }
 
@@ -324,7 +352,7 @@ void MDIForm1::menufichierindex2_Click() {
 
 void MDIForm1::menuoptionsindex1_Click() {
     avec_piège(ErrorBoxKind::standard, [] {
-        feuille_options& options = module1().feuilles().get<feuille_options>();
+        feuille_options& options = feuilles().get<feuille_options>();
         options.Show();
         options.setFocus();
         options.ZOrder();

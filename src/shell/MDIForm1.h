@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/forms/Feuille.h"
+#include "store/feuille_principale.h"
 
 #include <QFile>
 #include <QString>
@@ -15,7 +16,7 @@ class QStatusBar;
 
 // The main window: menus, status bar, and the area where the child screens live. It is loaded once,
 // by the first touch, and lives until the user answers Yes to the quit question.
-class MDIForm1 : public Feuille {
+class MDIForm1 : public Feuille, public FeuillePrincipale {
     Q_OBJECT
 public:
     MDIForm1();
@@ -30,10 +31,11 @@ public:
     // Status bar panel 1 to 6.
     QLabel* panneau(int numéro) const;
     QString Panel1() const;
-    void setPanel1(const QString& texte);
+    void setPanel1(const QString& texte) override;
 
     void désactiver_menus();
-    void activer_menus();
+    void activer_menus() override;
+    void montrer_écrans_après_ouverture() override;
 
     void Form_Load() override; // MDIForm_Load
     void Form_QueryUnload(int& cancel) override;

@@ -1,5 +1,7 @@
 #include "shell/dessins.h"
 
+#include "platform/forms/Canvas.h"
+
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
@@ -8,17 +10,6 @@
 #include <functional>
 
 namespace {
-
-// Every picture is drawn on a 100 x 100 (or 160 x 100) canvas and scaled to the asked size.
-QPixmap toile(const QSize& taille, const QSizeF& repère, const std::function<void(QPainter&)>& dessiner) {
-    QPixmap image(taille);
-    image.fill(Qt::transparent);
-    QPainter p(&image);
-    p.setRenderHint(QPainter::Antialiasing);
-    p.scale(taille.width() / repère.width(), taille.height() / repère.height());
-    dessiner(p);
-    return image;
-}
 
 // A filled shape through its corners, with the current brush.
 void polygone(QPainter& p, std::initializer_list<QPointF> sommets) {
@@ -156,50 +147,10 @@ void cahier(QPainter& p) {
     p.restore();
 }
 
-void cadenas(QPainter& p) {
-    p.setPen(QPen(QColor(0x8a, 0x8f, 0x96), 9, Qt::SolidLine, Qt::RoundCap));
-    p.setBrush(Qt::NoBrush);
-    QPainterPath anse;
-    anse.moveTo(30, 48);
-    anse.lineTo(30, 32);
-    anse.arcTo(QRectF(30, 12, 40, 40), 180, -180);
-    anse.lineTo(70, 48);
-    p.drawPath(anse);
-    QLinearGradient corps(0, 44, 0, 92);
-    corps.setColorAt(0, QColor(0xf6, 0xc8, 0x4c));
-    corps.setColorAt(1, QColor(0xd4, 0x97, 0x1a));
-    p.setPen(Qt::NoPen);
-    p.setBrush(corps);
-    p.drawRoundedRect(QRectF(18, 44, 64, 48), 8, 8);
-    p.setBrush(QColor(0x4a, 0x3a, 0x10));
-    p.drawEllipse(QPointF(50, 62), 6, 6);
-    p.drawRect(QRectF(47.5, 62, 5, 16));
-}
-
-void clé(QPainter& p) {
-    p.save();
-    p.translate(50, 50);
-    p.rotate(-35);
-    p.setPen(Qt::NoPen);
-    QLinearGradient métal(0, -10, 0, 10);
-    métal.setColorAt(0, QColor(0xf6, 0xc8, 0x4c));
-    métal.setColorAt(1, QColor(0xc4, 0x87, 0x12));
-    p.setBrush(métal);
-    QPainterPath tête;
-    tête.addEllipse(QPointF(-26, 0), 16, 16);
-    QPainterPath trou;
-    trou.addEllipse(QPointF(-30, 0), 6, 6);
-    p.drawPath(tête.subtracted(trou));
-    p.drawRect(QRectF(-12, -4, 48, 8));
-    p.drawRect(QRectF(22, 4, 5, 10));
-    p.drawRect(QRectF(31, 4, 5, 7));
-    p.restore();
-}
-
 } // namespace
 
 QPixmap dessin_école(const QSize& taille) {
-    return toile(taille, QSizeF(160, 100), [](QPainter& p) {
+    return drawOnCanvas(taille, QSizeF(160, 100), [](QPainter& p) {
         ciel_et_sol(p);
         arbre(p, QPointF(16, 84), 40);
         arbre(p, QPointF(146, 86), 34);
@@ -208,11 +159,5 @@ QPixmap dessin_école(const QSize& taille) {
 }
 
 QPixmap dessin_cahier(const QSize& taille) {
-    return toile(taille, QSizeF(100, 100), cahier);
-}
-QPixmap dessin_cadenas(const QSize& taille) {
-    return toile(taille, QSizeF(100, 100), cadenas);
-}
-QPixmap dessin_clé(const QSize& taille) {
-    return toile(taille, QSizeF(100, 100), clé);
+    return drawOnCanvas(taille, QSizeF(100, 100), cahier);
 }

@@ -2,12 +2,12 @@
 
 #include "platform/forms/Clignotement.h"
 #include "platform/forms/ListesFichiers.h"
-#include "platform/forms/Module1.h"
 #include "platform/forms/Placement.h"
 #include "shell/MDIForm1.h"
 #include "shell/dessins.h"
 #include "shell/options.h"
 #include "shell/version.h"
+#include "store/Module1.h"
 
 #include <QDir>
 #include <QFrame>
@@ -140,7 +140,7 @@ void feuille_accueil::Timer1_Timer() {
 }
 
 bool feuille_accueil::encore_chargée() const {
-    return module1().feuilles().siChargée<feuille_accueil>() == this;
+    return feuilles().siChargée<feuille_accueil>() == this;
 }
 
 // By mouse, the splash goes first and the main window follows.
@@ -148,14 +148,14 @@ void feuille_accueil::Click() {
     if (!encore_chargée())
         return;
     Unload();
-    module1().feuilles().get<MDIForm1>().Show();
+    feuilles().get<MDIForm1>().Show();
 }
 
 // By keyboard, the main window comes first and the splash goes after.
 void feuille_accueil::Form_KeyPress() {
     if (!encore_chargée())
         return;
-    module1().feuilles().get<MDIForm1>().Show();
+    feuilles().get<MDIForm1>().Show();
     Unload();
 }
 

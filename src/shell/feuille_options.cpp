@@ -1,7 +1,7 @@
 #include "shell/feuille_options.h"
 
-#include "platform/forms/Module1.h"
 #include "platform/forms/Placement.h"
+#include "platform/ui/Interaction.h"
 #include "shell/options.h"
 
 #include <QCheckBox>
@@ -62,7 +62,7 @@ void feuille_options::Form_Load() {
 }
 
 void feuille_options::cmdFermer_Click() {
-    module1().interaction().setMousePointer(vbDefault);
+    interaction().setMousePointer(vbDefault);
     Hide();
     écrire_options();
 }

@@ -1,10 +1,10 @@
 #include "shell/options.h"
 
-#include "platform/errors/ErrorBoxes.h"
-#include "platform/forms/Module1.h"
+#include "platform/ui/ErrorBoxes.h"
 #include "shell/MDIForm1.h"
 #include "shell/feuille_options.h"
 #include "shell/fichier_options.h"
+#include "store/Module1.h"
 #include "store/feuille_choix_base.h"
 
 #include <QCheckBox>
@@ -23,16 +23,14 @@ QString chemin_options() {
 // A child screen cannot exist without the main window: the first touch of the options brings it up,
 // and its own load reads the options in its turn, before this reading goes on.
 feuille_options& options_chargées() {
-    Feuilles& feuilles = module1().feuilles();
-    feuilles.get<MDIForm1>();
-    return feuilles.get<feuille_options>();
+    feuilles().get<MDIForm1>();
+    return feuilles().get<feuille_options>();
 }
 
 // The file stays open after a failed reading, as the classic runtime leaves it: the next reading or
 // writing of this run meets it.
 void vérifier_fichier_fermé() {
-    if (const MDIForm1* mdi = module1().feuilles().siChargée<MDIForm1>();
-        mdi && mdi->fichier_options_resté_ouvert)
+    if (const MDIForm1* mdi = feuilles().siChargée<MDIForm1>(); mdi && mdi->fichier_options_resté_ouvert)
         throw VbError(erreur_fichier_déjà_ouvert);
 }
 
@@ -40,7 +38,7 @@ void laisser_ouvert(const QString& chemin) {
     auto fichier = std::make_unique<QFile>(chemin);
     if (!fichier->open(QIODevice::ReadOnly))
         return;
-    if (MDIForm1* mdi = module1().feuilles().siChargée<MDIForm1>())
+    if (MDIForm1* mdi = feuilles().siChargée<MDIForm1>())
         mdi->fichier_options_resté_ouvert = std::move(fichier);
 }
 
@@ -96,7 +94,7 @@ void lire_options() {
                 }
             } else {
                 m.base_en_cours = lecture.valeurs[i];
-                m.feuilles().get<feuille_choix_base>().Label4->setText(lecture.valeurs[i]);
+                feuilles().get<feuille_choix_base>().Label4->setText(lecture.valeurs[i]);
             }
         }
         if (lecture.erreur) {

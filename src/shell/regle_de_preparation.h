@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/errors/ErrorBoxes.h"
 #include "platform/forms/DataControl.h"
-#include "platform/forms/Module1.h"
+#include "platform/forms/Feuilles.h"
+#include "platform/ui/ErrorBoxes.h"
 #include "shell/commandes.h"
 
 #include <functional>
@@ -17,7 +17,7 @@ Commande préparer(void (*ouvrir)(), std::function<void(F&, bool table_vide)> en
     return [ouvrir, en_plus](MDIForm1&) {
         avec_piège(ErrorBoxKind::standard, [&] {
             ouvrir();
-            F& écran = module1().feuilles().get<F>();
+            F& écran = feuilles().get<F>();
             DataRecordset& rs = écran.datPrimaryRS->Recordset();
             const bool table_vide = rs.isEOF() && rs.isBOF();
             if (table_vide)

@@ -1,11 +1,11 @@
 #include "store/feuille_choix_base.h"
 
-#include "platform/errors/ErrorBoxes.h"
 #include "platform/forms/DataControl.h"
 #include "platform/forms/EtiquetteElidee.h"
 #include "platform/forms/ListesFichiers.h"
-#include "platform/forms/Module1.h"
 #include "platform/forms/Placement.h"
+#include "platform/ui/ErrorBoxes.h"
+#include "store/Module1.h"
 #include "store/ouverture_base.h"
 #include "store/ouvrir_table.h"
 
@@ -174,6 +174,6 @@ void feuille_choix_base::cmdMettreàjour_Click() {
 }
 
 void feuille_choix_base::cmdFermer_Click() {
-    module1().interaction().setMousePointer(vbDefault);
+    interaction().setMousePointer(vbDefault);
     Unload();
 }

@@ -1,10 +1,11 @@
 #include "store/feuille_login.h"
 
-#include "platform/errors/ErrorBoxes.h"
+#include "platform/forms/Canvas.h"
 #include "platform/forms/Clignotement.h"
-#include "platform/forms/Module1.h"
+#include "platform/forms/Feuilles.h"
 #include "platform/forms/Placement.h"
-#include "shell/dessins.h"
+#include "platform/ui/ErrorBoxes.h"
+#include "platform/ui/Interaction.h"
 #include "store/feuille_choix_base.h"
 
 #include <QFrame>
@@ -13,6 +14,9 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPainterPath>
 #include <QPushButton>
 #include <QTimer>
 
@@ -26,6 +30,54 @@ QPushButton* bouton(QWidget* parent, const char* nom, const char* légende, cons
     b->setToolTip(QString::fromUtf8(infobulle));
     b->setMinimumWidth(100);
     return b;
+}
+
+// The access code box's pictures, drawn on a 100 x 100 canvas.
+void cadenas(QPainter& p) {
+    p.setPen(QPen(QColor(0x8a, 0x8f, 0x96), 9, Qt::SolidLine, Qt::RoundCap));
+    p.setBrush(Qt::NoBrush);
+    QPainterPath anse;
+    anse.moveTo(30, 48);
+    anse.lineTo(30, 32);
+    anse.arcTo(QRectF(30, 12, 40, 40), 180, -180);
+    anse.lineTo(70, 48);
+    p.drawPath(anse);
+    QLinearGradient corps(0, 44, 0, 92);
+    corps.setColorAt(0, QColor(0xf6, 0xc8, 0x4c));
+    corps.setColorAt(1, QColor(0xd4, 0x97, 0x1a));
+    p.setPen(Qt::NoPen);
+    p.setBrush(corps);
+    p.drawRoundedRect(QRectF(18, 44, 64, 48), 8, 8);
+    p.setBrush(QColor(0x4a, 0x3a, 0x10));
+    p.drawEllipse(QPointF(50, 62), 6, 6);
+    p.drawRect(QRectF(47.5, 62, 5, 16));
+}
+
+void clé(QPainter& p) {
+    p.save();
+    p.translate(50, 50);
+    p.rotate(-35);
+    p.setPen(Qt::NoPen);
+    QLinearGradient métal(0, -10, 0, 10);
+    métal.setColorAt(0, QColor(0xf6, 0xc8, 0x4c));
+    métal.setColorAt(1, QColor(0xc4, 0x87, 0x12));
+    p.setBrush(métal);
+    QPainterPath tête;
+    tête.addEllipse(QPointF(-26, 0), 16, 16);
+    QPainterPath trou;
+    trou.addEllipse(QPointF(-30, 0), 6, 6);
+    p.drawPath(tête.subtracted(trou));
+    p.drawRect(QRectF(-12, -4, 48, 8));
+    p.drawRect(QRectF(22, 4, 5, 10));
+    p.drawRect(QRectF(31, 4, 5, 7));
+    p.restore();
+}
+
+QPixmap dessin_cadenas(const QSize& taille) {
+    return drawOnCanvas(taille, QSizeF(100, 100), cadenas);
+}
+QPixmap dessin_clé(const QSize& taille) {
+    return drawOnCanvas(taille, QSizeF(100, 100), clé);
 }
 
 } // namespace
@@ -102,10 +154,9 @@ void feuille_login::Timer1_Timer() {
 
 void feuille_login::cmdMettreàjour_Click() {
     avec_piège(ErrorBoxKind::standard, [this] {
-        Module1& m = module1();
-        feuille_choix_base& choix = m.feuilles().get<feuille_choix_base>();
+        feuille_choix_base& choix = feuilles().get<feuille_choix_base>();
         choix.accès_tentavive->setText(accès_tentavive->text());
-        m.interaction().setMousePointer(vbDefault);
+        interaction().setMousePointer(vbDefault);
         Unload();
         // A chooser that has never been on view (an opening at start-up) cannot take the focus.
         if (!choix.conteneur().isVisible())
@@ -117,9 +168,8 @@ void feuille_login::cmdMettreàjour_Click() {
 
 void feuille_login::cmdFermer_Click() {
     avec_piège(ErrorBoxKind::standard, [this] {
-        Module1& m = module1();
-        m.feuilles().get<feuille_choix_base>().accès_tentavive->setText(QString());
-        m.interaction().setMousePointer(vbDefault);
+        feuilles().get<feuille_choix_base>().accès_tentavive->setText(QString());
+        interaction().setMousePointer(vbDefault);
         Unload();
     });
 }

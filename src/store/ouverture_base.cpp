@@ -1,60 +1,40 @@
 #include "store/ouverture_base.h"
 
-#include "people/feuille_eleve.h"
-#include "platform/errors/ErrorBoxes.h"
 #include "platform/forms/DataControl.h"
-#include "platform/forms/Module1.h"
-#include "shell/MDIForm1.h"
-#include "shell/feuille_options.h"
-#include "shell/feuille_patientez.h"
-#include "shell/options.h"
+#include "platform/forms/Feuilles.h"
+#include "platform/ui/ErrorBoxes.h"
+#include "platform/ui/Interaction.h"
+#include "store/Module1.h"
 #include "store/feuille_choix_base.h"
 #include "store/feuille_login.h"
+#include "store/feuille_principale.h"
 #include "store/ouvrir_table.h"
 
-#include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <functional>
+#include <stdexcept>
 
 namespace {
 
-// The screens an opening shows when their option is ticked, in this order. They are only shown, not
-// pointed: a screen not loaded yet points itself as it loads. An empty entry is a screen that is not
-// part of the program yet.
-struct ÉcranAprèsOuverture {
-    QCheckBox* feuille_options::*option;
-    std::function<void()> montrer;
-};
-
-// Shows screen F, loading it first if need be, and gives it the focus.
-template <class F> void montrer_avec_le_focus() {
-    F& écran = module1().feuilles().get<F>();
-    écran.Show();
-    écran.setFocus();
-}
-
-const std::vector<ÉcranAprèsOuverture>& écrans_après_ouverture() {
-    static const std::vector<ÉcranAprèsOuverture> écrans = {
-        {&feuille_options::Check1, {}}, // feuille_famille
-        {&feuille_options::Check2, montrer_avec_le_focus<feuille_élève>},
-        {&feuille_options::Check4, {}}, // feuille_traitements
-    };
-    return écrans;
+// The main window and the wait notice belong to the shell, above the store, which reaches them by name.
+FeuillePrincipale& feuille_principale() {
+    auto* fenêtre = dynamic_cast<FeuillePrincipale*>(&feuilles().nommée(QStringLiteral("MDIForm1")));
+    if (fenêtre == nullptr)
+        throw std::logic_error("MDIForm1 n'est pas la fenêtre principale");
+    return *fenêtre;
 }
 
 // The code typed in the box must equal the file's code exactly; a cancelled box leaves it empty.
 bool code_accepté(feuille_choix_base& choix) {
     if (choix.accès_actuel->text().isEmpty())
         return true;
-    Module1& m = module1();
     choix.accès_tentavive->setText(QString());
-    m.interaction().showModal(m.feuilles().get<feuille_login>());
+    interaction().showModal(feuilles().get<feuille_login>());
     if (choix.accès_tentavive->text() == choix.accès_actuel->text())
         return true;
     choix.accès_tentavive->setText(QString());
-    m.interaction().MsgBox(QStringLiteral("Erreur de code d'accès... Accès non-autorisé!"), vbExclamation);
-    m.interaction().setMousePointer(vbDefault);
+    interaction().MsgBox(QStringLiteral("Erreur de code d'accès... Accès non-autorisé!"), vbExclamation);
+    interaction().setMousePointer(vbDefault);
     return false;
 }
 
@@ -62,11 +42,9 @@ bool code_accepté(feuille_choix_base& choix) {
 
 void ouvrir_base_choisie() {
     avec_piège(ErrorBoxKind::données, [] {
-        Module1& m = module1();
-        Feuilles& feuilles = m.feuilles();
-        feuille_choix_base& choix = feuilles.get<feuille_choix_base>();
+        feuille_choix_base& choix = feuilles().get<feuille_choix_base>();
         if (choix.Label4->text().isEmpty()) {
-            m.interaction().MsgBox(
+            interaction().MsgBox(
                 QStringLiteral(
                     "Vous devez sélectionner la base de données sur laquelle vous souhaitez travailler..."),
                 vbExclamation);
@@ -76,29 +54,25 @@ void ouvrir_base_choisie() {
         if (!code_accepté(choix))
             return;
 
-        feuille_patientez& patientez = feuilles.get<feuille_patientez>();
+        Feuille& patientez = feuilles().nommée(QStringLiteral("feuille_patientez"));
         patientez.Show();
         patientez.ZOrder();
         patientez.setFocus();
         patientez.conteneur().repaint();
-        m.interaction().setMousePointer(vbHourglass);
-        MDIForm1& mdi = feuilles.get<MDIForm1>();
+        interaction().setMousePointer(vbHourglass);
+        FeuillePrincipale& mdi = feuille_principale();
         mdi.activer_menus();
         choix.Unload();
-        m.interaction().setMousePointer(vbDefault);
-        mdi.setPanel1(QStringLiteral("Base de données en cours : ") + m.base_en_cours);
+        interaction().setMousePointer(vbDefault);
+        mdi.setPanel1(QStringLiteral("Base de données en cours : ") + module1().base_en_cours);
         patientez.Unload();
-
-        feuille_options& options = feuilles.get<feuille_options>();
-        for (const ÉcranAprèsOuverture& écran : écrans_après_ouverture())
-            if (valeur_case(options.*écran.option) == 1 && écran.montrer)
-                écran.montrer();
+        mdi.montrer_écrans_après_ouverture();
     });
 }
 
 void fermer_base() {
     en_silence([] {
-        if (feuille_choix_base* choix = module1().feuilles().siChargée<feuille_choix_base>())
+        if (feuille_choix_base* choix = feuilles().siChargée<feuille_choix_base>())
             choix->datPrimaryRS->closeDatabase();
     });
 }

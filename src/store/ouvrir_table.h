@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/forms/DataControl.h"
-#include "platform/forms/Module1.h"
+#include "platform/forms/Feuille.h"
 
 #include <QString>
 
@@ -14,14 +14,11 @@ enum class SiÉchec {
 // Points a data source at the work database: DatabaseName, RecordSource, Refresh, in this order.
 void pointer_source(DataControl& source, const QString& sql, SiÉchec échec = SiÉchec::continuer);
 
-// The family itself: loads screen F hidden if it is not loaded (running its Form_Load), then points
-// its datPrimaryRS. A procedure of the family is one line over this:
-//     void ouvrir_table_sexe() { ouvrir_table<feuille_sexe>(QStringLiteral("SELECT * FROM sexe")); }
-template <class F> F& ouvrir_table(const QString& sql, SiÉchec échec = SiÉchec::continuer) {
-    F& écran = module1().feuilles().get<F>();
-    pointer_source(*écran.datPrimaryRS, sql, échec);
-    return écran;
-}
+// The family reaches each screen by its name, through the screen registry, without including it:
+// the screen is loaded hidden if it is not loaded (running its Form_Load), then its datPrimaryRS is
+// pointed. A procedure of the family is one line over this:
+//     void ouvrir_table_sexe() { ouvrir_table("feuille_sexe", "SELECT * FROM sexe"); }
+Feuille& ouvrir_table(const char* écran, const char* sql, SiÉchec échec = SiÉchec::continuer);
 
 // The procedures of the family whose screens exist.
 void ouvrir_table_documents();

@@ -1,9 +1,9 @@
 #include "BaseEleves.h"
 
 #include "people/feuille_eleve.h"
-#include "platform/forms/Module1.h"
 #include "shell/MDIForm1.h"
 #include "shell/commandes.h"
+#include "store/Module1.h"
 #include "support/PiloteEcran.h"
 
 #include <QApplication>

@@ -6,8 +6,8 @@
 #include "people/feuille_eleve.h"
 #include "platform/forms/DBGrid.h"
 #include "platform/forms/DataControl.h"
-#include "platform/forms/Module1.h"
 #include "reports/feuille_documents.h"
+#include "store/Module1.h"
 #include "support/PiloteEcran.h"
 
 #include <QApplication>

@@ -3,9 +3,9 @@
 #include "BaseEleves.h"
 
 #include "people/feuille_eleve.h"
-#include "platform/errors/ErrorBoxes.h"
 #include "platform/forms/DataControl.h"
-#include "platform/forms/Module1.h"
+#include "platform/ui/ErrorBoxes.h"
+#include "store/Module1.h"
 #include "support/PiloteEcran.h"
 
 #include <QAbstractItemView>

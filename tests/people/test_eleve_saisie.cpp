@@ -1,7 +1,7 @@
 // Typing on the pupil screen: the Tab key's walk, the pages that follow the focus, the matricule padding
 // and the date of the day.
 #include "people/feuille_eleve.h"
-#include "platform/forms/Module1.h"
+#include "store/Module1.h"
 #include "support/Fixtures.h"
 
 #include <QApplication>

@@ -1,10 +1,10 @@
 // The table of sexes on a copy of the template: a grid screen of the shared frame, whose typing,
 // saving and error boxes the frame's own tests walk; here what is the sexes' own.
-#include "platform/errors/ErrorBoxes.h"
 #include "platform/forms/DBGrid.h"
 #include "platform/forms/DataControl.h"
-#include "platform/forms/Module1.h"
+#include "platform/ui/ErrorBoxes.h"
 #include "reference/feuille_sexe.h"
+#include "store/Module1.h"
 #include "support/BaseDirecte.h"
 #include "support/Fixtures.h"
 #include "support/PiloteEcran.h"

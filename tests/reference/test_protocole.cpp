@@ -3,12 +3,12 @@
 #include "Consultations.h"
 
 #include "people/feuille_eleve.h"
-#include "platform/errors/ErrorBoxes.h"
 #include "platform/forms/DBGrid.h"
 #include "platform/forms/DataControl.h"
-#include "platform/forms/Module1.h"
 #include "platform/forms/Placement.h"
+#include "platform/ui/ErrorBoxes.h"
 #include "reference/feuille_equipe.h"
+#include "store/Module1.h"
 #include "support/BaseDirecte.h"
 #include "support/PiloteEcran.h"
 

@@ -7,9 +7,9 @@
 #include "people/feuille_eleve.h"
 #include "platform/forms/DBGrid.h"
 #include "platform/forms/DataControl.h"
-#include "platform/forms/Module1.h"
 #include "reference/feuille_equipe.h"
 #include "reference/retours.h"
+#include "store/Module1.h"
 #include "support/PiloteEcran.h"
 
 #include <QApplication>

@@ -2,8 +2,8 @@
 // shared frame, with form A of add and the delete without a trap.
 #include "platform/forms/DataControl.h"
 #include "platform/forms/LimiteSaisie.h"
-#include "platform/forms/Module1.h"
 #include "reports/feuille_documents.h"
+#include "store/Module1.h"
 #include "support/BaseDirecte.h"
 #include "support/Fixtures.h"
 #include "support/PiloteEcran.h"

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "platform/forms/Clignotement.h"
-#include "platform/forms/Module1.h"
 #include "shell/MDIForm1.h"
 #include "shell/feuille_accueil.h"
+#include "store/Module1.h"
 #include "store/feuille_choix_base.h"
 #include "support/BasesDeTest.h"
 #include "support/Fixtures.h"

@@ -1,8 +1,8 @@
-#include "platform/forms/Module1.h"
 #include "shell/MDIForm1.h"
 #include "shell/feuille_options.h"
 #include "shell/fichier_options.h"
 #include "shell/options.h"
+#include "store/Module1.h"
 #include "store/feuille_choix_base.h"
 #include "support/Fixtures.h"
 

@@ -6,6 +6,7 @@
 #include "reference/feuille_sexe.h"
 #include "store/ouverture_base.h"
 #include "store/ouvrir_table.h"
+#include "support/TemplateBase.h"
 
 #include <QDir>
 #include <QLineEdit>
@@ -23,6 +24,32 @@ TEST_F(PointageDesSources, UnÉchecEstPasséSousSilenceEtLesÉtapesSuivantesOntL
     EXPECT_EQ(écran->datPrimaryRS->DatabaseName(), folder.file("disparue.mdb"));
     EXPECT_EQ(écran->datPrimaryRS->RecordSource(), "SELECT * FROM sexe");
     EXPECT_FALSE(écran->datPrimaryRS->isOpen());
+    EXPECT_TRUE(ui().boxes().empty());
+}
+
+// The family names its screens without including them: each procedure loads, hidden, the screen of its
+// table (feuille_sexe for sexe, feuille_élève for élèves) and points it at the base in use.
+TEST_F(PointageDesSources, ChaqueProcédureChargeParSonNomLÉcranDeSaTable) {
+    const TemplateBase base;
+    module1().base_en_cours = base.path();
+    for (void (*ouvrir)() :
+         {ouvrir_table_documents, ouvrir_table_adresses, ouvrir_table_assertions, ouvrir_table_assurances,
+          ouvrir_table_csp, ouvrir_table_genres, ouvrir_table_hôpitaux, ouvrir_table_langues_vivantes,
+          ouvrir_table_médecins, ouvrir_table_nationalités, ouvrir_table_niveaux, ouvrir_table_sexe,
+          ouvrir_table_situations_familiales, ouvrir_table_villes, ouvrir_table_équipe,
+          ouvrir_table_élèves}) {
+        const size_t avant = feuilles().chargées().size();
+        ouvrir();
+        ASSERT_EQ(feuilles().chargées().size(), avant + 1);
+        Feuille& écran = *feuilles().chargées().back();
+        const auto* source = écran.findChild<DataControl*>(QStringLiteral("datPrimaryRS"));
+        ASSERT_NE(source, nullptr) << écran.objectName().toStdString();
+        const QString table = source->RecordSource().section(u' ', 3, 3);
+        EXPECT_TRUE(table.startsWith(écran.objectName().mid(8))) << source->RecordSource().toStdString();
+        EXPECT_EQ(source->DatabaseName(), module1().base_en_cours);
+        EXPECT_TRUE(source->isOpen());
+        EXPECT_FALSE(écran.conteneur().isVisible());
+    }
     EXPECT_TRUE(ui().boxes().empty());
 }
 

@@ -1,8 +1,8 @@
 #include "support/Fixtures.h"
 
 #include "platform/errors/VbError.h"
-#include "platform/forms/Module1.h"
 #include "shell/ecrans_connus.h"
+#include "store/Module1.h"
 
 #include <QCoreApplication>
 #include <QDir>

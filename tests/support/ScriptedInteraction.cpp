@@ -70,7 +70,8 @@ QString ScriptedInteraction::InputBox(const QString& prompt, const QString& titl
     return QString();
 }
 
-void ScriptedInteraction::showModal(Feuille& feuille) {
+void ScriptedInteraction::showModal(ModalScreen& screen) {
+    auto& feuille = dynamic_cast<Feuille&>(screen);
     modals_.push_back(feuille.objectName());
     feuille.Show();
     if (const auto user = prendre(modal_users_))

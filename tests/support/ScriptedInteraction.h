@@ -8,6 +8,8 @@
 #include <ostream>
 #include <vector>
 
+class Feuille;
+
 // The user, as a test plays it: every box the program shows is recorded and answered from a queue of
 // expected answers. A box that nobody expected fails the test and is answered with its first button.
 class ScriptedInteraction : public Interaction {
@@ -40,7 +42,7 @@ public:
                const QString& title = QString::fromUtf8(titre_programme)) override;
     QString InputBox(const QString& prompt, const QString& title = QString::fromUtf8(titre_programme),
                      const QString& defaultValue = QString()) override;
-    void showModal(Feuille& feuille) override;
+    void showModal(ModalScreen& screen) override;
     void setMousePointer(int pointer) override;
     int mousePointer() const override { return pointer_; }
 

@@ -1,4 +1,5 @@
 #include "platform/ui/Application.h"
+#include "store/Module1.h"
 
 #include <gtest/gtest.h>
 
@@ -23,5 +24,7 @@ int main(int argc, char** argv) {
     defaultHandler = qInstallMessageHandler(quietHandler);
     Application app(argc, argv);
     ::testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
+    const int code = RUN_ALL_TESTS();
+    module1().réinitialiser(); // the screens go before the application object they need
+    return code;
 }

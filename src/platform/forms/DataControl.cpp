@@ -3,7 +3,7 @@
 #include "platform/dao/Database.h"
 #include "platform/dao/Recordset.h"
 #include "platform/errors/VbError.h"
-#include "platform/forms/Module1.h"
+#include "platform/ui/Interaction.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -21,7 +21,7 @@ namespace {
 
 // The engine's own box for a failure that no handler dealt with: its text alone.
 void show_engine_error(const VbError& error) {
-    Interaction& ui = module1().interaction();
+    Interaction& ui = interaction();
     ui.MsgBox(error.description(), vbExclamation + vbOKOnly, QString::fromUtf8(titre_programme));
     ui.setMousePointer(vbDefault);
 }

@@ -1,7 +1,7 @@
 #include "platform/forms/Feuille.h"
 
+#include "platform/forms/Feuilles.h"
 #include "platform/forms/FiltreEvenements.h"
-#include "platform/forms/Module1.h"
 
 #include <QCloseEvent>
 #include <QMdiArea>
@@ -50,7 +50,7 @@ void Feuille::ZOrder() {
 }
 
 bool Feuille::Unload() {
-    return module1().feuilles().unload(*this);
+    return feuilles().unload(*this);
 }
 
 void Feuille::avantDéchargement(std::function<void()> tâche) {
@@ -82,7 +82,7 @@ void Feuille::surDblClick(QWidget* contrôle, std::function<void()> handler) {
 
 // Closing the window by its own button is an unload, with the same events and the same refusal.
 void Feuille::closeEvent(QCloseEvent* event) {
-    const bool chargée = module1().feuilles().contient(this);
+    const bool chargée = feuilles().contient(this);
     if (!chargée || Unload())
         event->accept();
     else

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/ui/Interaction.h"
+
 #include <QPointer>
 #include <QWidget>
 #include <functional>
@@ -8,10 +10,10 @@
 class FiltreÉvénements;
 
 // A screen: a widget with its controls as members and its handlers as methods. Screens are created,
-// loaded and unloaded by the screen registry (module1().feuilles()), never by hand.
+// loaded and unloaded by the screen registry (feuilles()), never by hand.
 // moc cannot read accented class names: a screen such as feuille_élève carries no Q_OBJECT, its
 // handlers are connected through lambdas or member pointers, and it is cast with dynamic_cast.
-class Feuille : public QWidget {
+class Feuille : public QWidget, public ModalScreen {
     Q_OBJECT
 public:
     // A child screen lives in the main window's area; a top-level one (splash, login) stands alone.
@@ -24,11 +26,11 @@ public:
     bool estHautNiveau() const { return genre_ == Genre::haut_niveau; }
 
     // The window that carries the screen: its sub-window in the main window's area, or itself.
-    QWidget& conteneur();
+    QWidget& conteneur() override;
     const QWidget& conteneur() const;
 
     // Shows the screen and brings it to the front.
-    void Show();
+    void Show() override;
     // Hides it, still loaded.
     void Hide();
     // Brings it to the front.

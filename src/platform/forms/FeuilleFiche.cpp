@@ -1,10 +1,10 @@
 #include "platform/forms/FeuilleFiche.h"
 
-#include "platform/errors/ErrorBoxes.h"
 #include "platform/forms/DBGrid.h"
 #include "platform/forms/DataControl.h"
-#include "platform/forms/Module1.h"
 #include "platform/forms/Placement.h"
+#include "platform/ui/ErrorBoxes.h"
+#include "platform/ui/Interaction.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -201,7 +201,7 @@ void FeuilleFiche::Form_Unload(int& cancel) {
     if (écriture_finale_refusée_) {
         if (!configuration_.boîte_erreur_données)
             message_erreur_standard(VbError(datPrimaryRS->lastError()));
-        module1().interaction().setMousePointer(vbDefault);
+        interaction().setMousePointer(vbDefault);
         cancel = 1;
         return;
     }
@@ -209,12 +209,12 @@ void FeuilleFiche::Form_Unload(int& cancel) {
         bouton_accepter->setVisible(false);
     if (bouton_accepter && configuration_.bouton_accepter == BoutonAccepter::désactivé)
         bouton_accepter->setEnabled(false);
-    module1().interaction().setMousePointer(vbDefault);
+    interaction().setMousePointer(vbDefault);
 }
 
 // The position is undefined on a new or an empty row (-1): the numbered caption then shows 0.
 void FeuilleFiche::datPrimaryRS_Reposition() {
-    module1().interaction().setMousePointer(vbDefault);
+    interaction().setMousePointer(vbDefault);
     en_silence([this] {
         const QString position = QString::number(datPrimaryRS->Recordset().AbsolutePosition() + 1);
         switch (configuration_.légende) {
@@ -233,7 +233,7 @@ void FeuilleFiche::datPrimaryRS_Reposition() {
 // Never cancels and never touches Save: every edit is written. The hourglass stays until Reposition
 // or a close takes it away.
 void FeuilleFiche::datPrimaryRS_Validate(int& Action, bool&) {
-    Interaction& ui = module1().interaction();
+    Interaction& ui = interaction();
     if (Action == vbDataActionClose)
         ui.setMousePointer(vbDefault);
     ui.setMousePointer(vbHourglass);
@@ -241,8 +241,8 @@ void FeuilleFiche::datPrimaryRS_Validate(int& Action, bool&) {
 
 void FeuilleFiche::datPrimaryRS_Error(int DataErr, int& Response) {
     if (configuration_.boîte_erreur_données)
-        module1().interaction().MsgBox(QStringLiteral("Data error event hit err:") + error_text(DataErr),
-                                       vbOKOnly, QString::fromUtf8(titre_programme));
+        interaction().MsgBox(QStringLiteral("Data error event hit err:") + error_text(DataErr), vbOKOnly,
+                             QString::fromUtf8(titre_programme));
     Response = vbDataErrContinue;
 }
 
@@ -287,7 +287,7 @@ void FeuilleFiche::cmdMettreàjour_Click() {
 }
 
 void FeuilleFiche::cmdFermer_Click() {
-    module1().interaction().setMousePointer(vbDefault);
+    interaction().setMousePointer(vbDefault);
     Unload();
 }
 

@@ -3,6 +3,12 @@
 #include <QCoreApplication>
 #include <QMdiSubWindow>
 #include <algorithm>
+#include <stdexcept>
+
+Feuilles& feuilles() {
+    static Feuilles registre;
+    return registre;
+}
 
 Feuilles::~Feuilles() {
     // Widgets cannot outlive the application object; at process end they are left to the system.
@@ -37,6 +43,13 @@ void Feuilles::charger(std::type_index type, std::unique_ptr<Feuille> feuille) {
 Feuille* Feuilles::parNom(const QString& nom) {
     const auto fabrique = fabriques_.find(nom);
     return fabrique == fabriques_.end() ? nullptr : &fabrique->second(*this);
+}
+
+Feuille& Feuilles::nommée(const QString& nom) {
+    Feuille* feuille = parNom(nom);
+    if (feuille == nullptr)
+        throw std::logic_error("Écran inconnu du registre : " + nom.toStdString());
+    return *feuille;
 }
 
 bool Feuilles::unload(Feuille& feuille) {

@@ -41,6 +41,9 @@ public:
     // The screen of that name, loaded hidden on first touch as get<F>() does; nullptr when no screen
     // of that name has been made known. What is made known stays so when the screens are destroyed.
     Feuille* parNom(const QString& nom);
+    // The same for a screen the program cannot do without: a name never made known is a fault of the
+    // program, thrown as std::logic_error.
+    Feuille& nommée(const QString& nom);
 
     // The screen if it is loaded, without loading it.
     template <class F> F* siChargée() const { return static_cast<F*>(trouver(typeid(F))); }
@@ -87,3 +90,6 @@ private:
     QPointer<QMdiArea> zone_;
     std::map<QString, Feuille& (*)(Feuilles&)> fabriques_;
 };
+
+// The program's one screen registry.
+Feuilles& feuilles();

@@ -15,3 +15,9 @@ public:
 private:
     std::optional<QDateTime> fixée_;
 };
+
+// The program's one clock.
+inline Horloge& horloge() {
+    static Horloge horloge;
+    return horloge;
+}

@@ -1,7 +1,7 @@
 #include "platform/forms/Placement.h"
 
-#include "platform/errors/ErrorBoxes.h"
 #include "platform/forms/Feuille.h"
+#include "platform/ui/ErrorBoxes.h"
 
 #include <QGuiApplication>
 #include <QScreen>

@@ -1,7 +1,6 @@
 #include "platform/ui/Application.h"
 
-#include "platform/errors/ErrorBoxes.h"
-#include "platform/forms/Module1.h"
+#include "platform/ui/ErrorBoxes.h"
 
 #include <QAbstractItemView>
 #include <QFocusEvent>
@@ -27,11 +26,6 @@ bool Application::traduire_qt_en_français() {
             return installTranslator(traducteur.release());
         }
     return false;
-}
-
-// The screens go before the application object they need.
-Application::~Application() {
-    module1().réinitialiser();
 }
 
 namespace {

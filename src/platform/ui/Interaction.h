@@ -1,8 +1,9 @@
 #pragma once
 
 #include <QString>
+#include <memory>
 
-class Feuille;
+class QWidget;
 
 // Buttons of a message box.
 inline constexpr int vbOKOnly = 0;
@@ -32,6 +33,17 @@ inline constexpr int vbHourglass = 11;
 // The title of every box the program shows.
 inline constexpr const char* titre_programme = "Norvane v2";
 
+// What showing a screen modally needs of it: the window that carries it, and its own way of showing
+// itself. Every screen (Feuille) is one.
+class ModalScreen {
+public:
+    virtual QWidget& conteneur() = 0;
+    virtual void Show() = 0;
+
+protected:
+    ~ModalScreen() = default;
+};
+
 // Every exchange that stops the user: message boxes, input boxes, modal screens, and the mouse pointer.
 // The program talks to the user only through this service, so tests can answer in its place.
 class Interaction {
@@ -45,11 +57,16 @@ public:
     virtual QString InputBox(const QString& prompt, const QString& title = QString::fromUtf8(titre_programme),
                              const QString& defaultValue = QString()) = 0;
     // Shows the screen and returns once it is hidden or unloaded.
-    virtual void showModal(Feuille& feuille) = 0;
+    virtual void showModal(ModalScreen& screen) = 0;
 
     virtual void setMousePointer(int pointer) = 0; // vbDefault, vbArrow or vbHourglass
     virtual int mousePointer() const = 0;
 };
+
+// The service the whole program talks to the user through: the real dialogs, unless another is in place.
+Interaction& interaction();
+// Puts another service in place (a test's scripted one); nullptr brings back the real dialogs.
+void setInteraction(std::shared_ptr<Interaction> interaction);
 
 // The button part and the icon part of a MsgBox code.
 inline int boutons_de(int code) {

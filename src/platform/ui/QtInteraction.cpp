@@ -1,7 +1,5 @@
 #include "platform/ui/QtInteraction.h"
 
-#include "platform/forms/Feuille.h"
-
 #include <QApplication>
 #include <QEventLoop>
 #include <QInputDialog>
@@ -9,6 +7,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -114,14 +113,14 @@ QString QtInteraction::InputBox(const QString& prompt, const QString& title, con
     return boîte.textValue();
 }
 
-void QtInteraction::showModal(Feuille& feuille) {
-    QWidget& fenêtre = feuille.conteneur();
+void QtInteraction::showModal(ModalScreen& screen) {
+    QWidget& fenêtre = screen.conteneur();
     QPointer<QWidget> gardée(&fenêtre);
     QEventLoop boucle;
     FinSurMasquage fin(fenêtre, boucle);
     QObject::connect(&fenêtre, &QObject::destroyed, &boucle, &QEventLoop::quit);
     fenêtre.setWindowModality(Qt::ApplicationModal);
-    feuille.Show();
+    screen.Show();
     if (fenêtre.isVisible())
         boucle.exec();
     if (gardée)
@@ -136,4 +135,24 @@ void QtInteraction::setMousePointer(int pointer) {
         QApplication::setOverrideCursor(Qt::WaitCursor);
     else if (pointer == vbArrow)
         QApplication::setOverrideCursor(Qt::ArrowCursor);
+}
+
+namespace {
+
+std::shared_ptr<Interaction>& service_en_place() {
+    static std::shared_ptr<Interaction> service;
+    return service;
+}
+
+} // namespace
+
+Interaction& interaction() {
+    std::shared_ptr<Interaction>& service = service_en_place();
+    if (!service)
+        service = std::make_shared<QtInteraction>();
+    return *service;
+}
+
+void setInteraction(std::shared_ptr<Interaction> interaction) {
+    service_en_place() = std::move(interaction);
 }

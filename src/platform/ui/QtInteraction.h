@@ -9,7 +9,7 @@ public:
                const QString& title = QString::fromUtf8(titre_programme)) override;
     QString InputBox(const QString& prompt, const QString& title = QString::fromUtf8(titre_programme),
                      const QString& defaultValue = QString()) override;
-    void showModal(Feuille& feuille) override;
+    void showModal(ModalScreen& screen) override;
     void setMousePointer(int pointer) override;
     int mousePointer() const override { return pointeur_; }
 

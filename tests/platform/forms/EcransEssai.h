@@ -2,7 +2,7 @@
 
 #include "platform/forms/DataControl.h"
 #include "platform/forms/FeuilleFiche.h"
-#include "platform/forms/Module1.h"
+#include "store/Module1.h"
 #include "support/BaseDirecte.h"
 #include "support/Fixtures.h"
 #include "support/PiloteEcran.h"

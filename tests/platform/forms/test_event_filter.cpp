@@ -1,6 +1,6 @@
 #include "platform/errors/VbError.h"
 #include "platform/forms/Feuille.h"
-#include "platform/forms/Module1.h"
+#include "store/Module1.h"
 #include "support/Fixtures.h"
 
 #include <QApplication>

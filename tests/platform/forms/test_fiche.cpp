@@ -2,11 +2,11 @@
 // handlers of the buttons, the error paths, tab following.
 #include "EcransEssai.h"
 
-#include "platform/errors/ErrorBoxes.h"
 #include "platform/forms/DataControl.h"
 #include "platform/forms/LimiteSaisie.h"
-#include "platform/forms/Module1.h"
 #include "platform/forms/SuiviOnglets.h"
+#include "platform/ui/ErrorBoxes.h"
+#include "store/Module1.h"
 #include "support/PiloteEcran.h"
 
 #include <QCheckBox>
@@ -434,4 +434,3 @@ TEST_F(FicheTest, a_last_row_the_engine_refuses_keeps_the_screen_open_with_its_e
     EXPECT_FALSE(module1().feuilles().isLoaded<feuille_essai>());
     EXPECT_EQ(colonne_du_fichier(base, "fiches", "naissance").first(), "2015-02-02");
 }
-

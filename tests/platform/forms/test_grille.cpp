@@ -5,7 +5,7 @@
 #include "platform/errors/VbError.h"
 #include "platform/forms/DBGrid.h"
 #include "platform/forms/DataControl.h"
-#include "platform/forms/Module1.h"
+#include "store/Module1.h"
 #include "support/PiloteEcran.h"
 
 #include <QHeaderView>

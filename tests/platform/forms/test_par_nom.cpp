@@ -2,7 +2,7 @@
 #include "platform/errors/VbError.h"
 #include "platform/forms/Feuille.h"
 #include "platform/forms/Focus.h"
-#include "platform/forms/Module1.h"
+#include "store/Module1.h"
 #include "support/Fixtures.h"
 #include "support/PiloteEcran.h"
 
@@ -11,6 +11,7 @@
 #include <QTabWidget>
 #include <QTest>
 #include <QVBoxLayout>
+#include <stdexcept>
 
 namespace {
 
@@ -48,6 +49,7 @@ TEST_F(ParNom, AnUnknownNameGivesNothingAndLoadsNothing) {
     const auto avant = module1().feuilles().chargées().size();
     EXPECT_FALSE(module1().feuilles().connaît(QStringLiteral("feuille_inconnue")));
     EXPECT_EQ(module1().feuilles().parNom(QStringLiteral("feuille_inconnue")), nullptr);
+    EXPECT_THROW(module1().feuilles().nommée(QStringLiteral("feuille_inconnue")), std::logic_error);
     EXPECT_EQ(module1().feuilles().chargées().size(), avant);
 }
 

@@ -1,7 +1,7 @@
 #include "platform/forms/Clignotement.h"
 #include "platform/forms/Feuille.h"
-#include "platform/forms/Module1.h"
 #include "platform/forms/Placement.h"
+#include "store/Module1.h"
 #include "support/Fixtures.h"
 
 #include <QGuiApplication>

@@ -1,5 +1,5 @@
 #include "platform/forms/Feuille.h"
-#include "platform/forms/Module1.h"
+#include "store/Module1.h"
 #include "support/Fixtures.h"
 
 #include <QCheckBox>

@@ -1,6 +1,6 @@
 #include "platform/forms/Feuille.h"
-#include "platform/forms/Module1.h"
 #include "platform/ui/QtInteraction.h"
+#include "store/Module1.h"
 #include "support/Fixtures.h"
 
 #include <QApplication>

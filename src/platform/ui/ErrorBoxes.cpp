@@ -1,6 +1,6 @@
-#include "platform/errors/ErrorBoxes.h"
+#include "platform/ui/ErrorBoxes.h"
 
-#include "platform/forms/Module1.h"
+#include "platform/ui/Interaction.h"
 
 namespace {
 
@@ -24,7 +24,7 @@ QString texte_erreur(ErrorBoxKind kind, const VbError& erreur) {
 }
 
 void message_erreur(ErrorBoxKind kind, const VbError& erreur) {
-    Interaction& ui = module1().interaction();
+    Interaction& ui = interaction();
     ui.MsgBox(texte_erreur(kind, erreur), vbExclamation + vbOKOnly, QString::fromUtf8(titre_programme));
     ui.setMousePointer(vbDefault);
 }

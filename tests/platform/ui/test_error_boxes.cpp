@@ -1,5 +1,5 @@
-#include "platform/errors/ErrorBoxes.h"
-#include "platform/forms/Module1.h"
+#include "platform/ui/ErrorBoxes.h"
+#include "store/Module1.h"
 #include "support/Fixtures.h"
 
 #include <QCoreApplication>

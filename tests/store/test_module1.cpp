@@ -1,5 +1,5 @@
-#include "platform/forms/Module1.h"
 #include "platform/ui/QtInteraction.h"
+#include "store/Module1.h"
 #include "support/Fixtures.h"
 
 #include <gtest/gtest.h>
