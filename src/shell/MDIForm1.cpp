@@ -3,6 +3,7 @@
 #include "people/feuille_eleve.h"
 #include "platform/forms/EtiquetteElidee.h"
 #include "platform/ui/ErrorBoxes.h"
+#include "platform/ui/Relier.h"
 #include "shell/commandes.h"
 #include "shell/feuille_options.h"
 #include "shell/options.h"
@@ -206,7 +207,7 @@ void MDIForm1::construire_menus() {
         QAction* action = légende == QLatin1String("-") ? cible->addSeparator() : cible->addAction(légende);
         action->setObjectName(nom);
         if (!action->isSeparator())
-            connect(action, &QAction::triggered, this, [this, nom] { cliquer(nom); });
+            relier(action, &QAction::triggered, this, [this, nom] { cliquer(nom); });
         dernière = action;
     }
 }
@@ -236,7 +237,7 @@ void MDIForm1::construire_barre_d_état() {
     qApp->installEventFilter(new SuiviDesTouches(panneau(4), panneau(5), panneau(6), this));
     auto* horloge = new QTimer(this);
     horloge->setObjectName(QStringLiteral("horloge_barre"));
-    connect(horloge, &QTimer::timeout, this, &MDIForm1::mettre_à_jour_l_heure);
+    relier(horloge, &QTimer::timeout, this, &MDIForm1::mettre_à_jour_l_heure);
     horloge->start(1000);
     mettre_à_jour_l_heure();
 }

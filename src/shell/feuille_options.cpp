@@ -2,6 +2,7 @@
 
 #include "platform/forms/Placement.h"
 #include "platform/ui/Interaction.h"
+#include "platform/ui/Relier.h"
 #include "shell/options.h"
 
 #include <QCheckBox>
@@ -52,7 +53,7 @@ feuille_options::feuille_options() : Feuille(QStringLiteral("feuille_options")) 
     rangée->addWidget(cmdFermer);
     disposition->addSpacing(6);
     disposition->addLayout(rangée);
-    connect(cmdFermer, &QPushButton::clicked, this, &feuille_options::cmdFermer_Click);
+    relier(cmdFermer, &QPushButton::clicked, this, &feuille_options::cmdFermer_Click);
 }
 
 void feuille_options::Form_Load() {

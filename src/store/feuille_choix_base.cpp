@@ -5,6 +5,7 @@
 #include "platform/forms/ListesFichiers.h"
 #include "platform/forms/Placement.h"
 #include "platform/ui/ErrorBoxes.h"
+#include "platform/ui/Relier.h"
 #include "store/Module1.h"
 #include "store/ouverture_base.h"
 #include "store/ouvrir_table.h"
@@ -121,12 +122,12 @@ feuille_choix_base::feuille_choix_base() : Feuille(QStringLiteral("feuille_choix
     accès_tentavive->hide();
     avantDéchargement([this] { datPrimaryRS->unload(); });
 
-    connect(Drive1, &DriveListBox::Change, this, &feuille_choix_base::Drive1_Change);
-    connect(Dir1, &DirListBox::Change, this, &feuille_choix_base::Dir1_Change);
-    connect(File1, &FileListBox::Click, this, &feuille_choix_base::File1_Click);
-    connect(File1, &FileListBox::DblClick, this, &feuille_choix_base::File1_DblClick);
-    connect(cmdMettreàjour, &QPushButton::clicked, this, &feuille_choix_base::cmdMettreàjour_Click);
-    connect(cmdFermer, &QPushButton::clicked, this, &feuille_choix_base::cmdFermer_Click);
+    relier(Drive1, &DriveListBox::Change, this, &feuille_choix_base::Drive1_Change);
+    relier(Dir1, &DirListBox::Change, this, &feuille_choix_base::Dir1_Change);
+    relier(File1, &FileListBox::Click, this, &feuille_choix_base::File1_Click);
+    relier(File1, &FileListBox::DblClick, this, &feuille_choix_base::File1_DblClick);
+    relier(cmdMettreàjour, &QPushButton::clicked, this, &feuille_choix_base::cmdMettreàjour_Click);
+    relier(cmdFermer, &QPushButton::clicked, this, &feuille_choix_base::cmdFermer_Click);
 }
 
 void feuille_choix_base::Form_Load() {

@@ -6,6 +6,7 @@
 #include "platform/forms/Placement.h"
 #include "platform/ui/ErrorBoxes.h"
 #include "platform/ui/Interaction.h"
+#include "platform/ui/Relier.h"
 #include "store/feuille_choix_base.h"
 
 #include <QFrame>
@@ -135,9 +136,9 @@ feuille_login::feuille_login() : Feuille(QStringLiteral("feuille_login"), Genre:
     grille->addWidget(cmdFermer, 3, 2);
     grille->setRowMinimumHeight(3, 40);
 
-    connect(cmdMettreàjour, &QPushButton::clicked, this, &feuille_login::cmdMettreàjour_Click);
-    connect(cmdFermer, &QPushButton::clicked, this, &feuille_login::cmdFermer_Click);
-    connect(accès_tentavive, &QLineEdit::returnPressed, this, &feuille_login::cmdMettreàjour_Click);
+    relier(cmdMettreàjour, &QPushButton::clicked, this, &feuille_login::cmdMettreàjour_Click);
+    relier(cmdFermer, &QPushButton::clicked, this, &feuille_login::cmdFermer_Click);
+    relier(accès_tentavive, &QLineEdit::returnPressed, this, &feuille_login::cmdMettreàjour_Click);
     Timer1 = minuterie_clignotante(*this, 300, [this] { Timer1_Timer(); });
 }
 

@@ -1,5 +1,7 @@
 #include "platform/forms/Clignotement.h"
 
+#include "platform/ui/Relier.h"
+
 #include <QTimer>
 #include <QWidget>
 
@@ -8,7 +10,7 @@ QTimer* minuterie_clignotante(QWidget& propriétaire, int intervalle_ms, std::fu
     auto* minuterie = new QTimer(&propriétaire); // owned by its screen
     minuterie->setObjectName(nom);
     minuterie->setInterval(intervalle_ms);
-    QObject::connect(minuterie, &QTimer::timeout, &propriétaire, std::move(basculer));
+    relier(minuterie, &QTimer::timeout, &propriétaire, std::move(basculer));
     minuterie->start();
     return minuterie;
 }

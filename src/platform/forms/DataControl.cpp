@@ -4,6 +4,7 @@
 #include "platform/dao/Recordset.h"
 #include "platform/errors/VbError.h"
 #include "platform/ui/Interaction.h"
+#include "platform/ui/Relier.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -126,7 +127,7 @@ DataControl::DataControl(QWidget* parent) : QWidget(parent) {
         button->setToolButtonStyle(Qt::ToolButtonIconOnly);
         // Taking the focus on a click hands a cell being typed in over to its row before the move.
         button->setFocusPolicy(Qt::ClickFocus);
-        connect(button, &QToolButton::clicked, this, move);
+        relier(button, &QToolButton::clicked, this, move);
         layout->addWidget(button);
     };
     arrow("premier", "Première fiche", Qt::LeftArrow, true, &DataControl::navigateFirst);

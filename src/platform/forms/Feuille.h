@@ -12,7 +12,8 @@ class FiltreÉvénements;
 // A screen: a widget with its controls as members and its handlers as methods. Screens are created,
 // loaded and unloaded by the screen registry (feuilles()), never by hand.
 // moc cannot read accented class names: a screen such as feuille_élève carries no Q_OBJECT, its
-// handlers are connected through lambdas or member pointers, and it is cast with dynamic_cast.
+// handlers are connected through relier (platform/ui/Relier.h) with lambdas or member pointers, and it
+// is cast with dynamic_cast.
 class Feuille : public QWidget, public ModalScreen {
     Q_OBJECT
 public:

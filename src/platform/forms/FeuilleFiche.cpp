@@ -5,6 +5,7 @@
 #include "platform/forms/Placement.h"
 #include "platform/ui/ErrorBoxes.h"
 #include "platform/ui/Interaction.h"
+#include "platform/ui/Relier.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -97,7 +98,7 @@ void FeuilleFiche::construireBoutons(QVBoxLayout* disposition) {
         b->setObjectName(QString::fromUtf8(nom));
         b->setToolTip(infobulle);
         b->setAutoDefault(false);
-        connect(b, &QPushButton::clicked, this, [this, clic] {
+        relier(b, &QPushButton::clicked, this, [this, clic] {
             if (grdDataGrid)
                 grdDataGrid->finishEditing();
             (this->*clic)();

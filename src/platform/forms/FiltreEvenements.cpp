@@ -1,5 +1,7 @@
 #include "platform/forms/FiltreEvenements.h"
 
+#include "platform/ui/ErrorBoxes.h"
+
 #include <QAbstractScrollArea>
 #include <QEvent>
 
@@ -61,6 +63,6 @@ bool FiltreÉvénements::eventFilter(QObject* watched, QEvent* event) {
     }
     // A copy: the handler may replace its own entry or unload the screen.
     if (handler)
-        handler();
+        avec_filet(handler);
     return false;
 }

@@ -49,15 +49,11 @@ void laisser_sans_sélection(QObject* receiver, Qt::FocusReason raison) {
 } // namespace
 
 bool Application::notify(QObject* receiver, QEvent* event) {
-    try {
-        const bool traité = QApplication::notify(receiver, event);
+    bool traité = false;
+    avec_filet([&] {
+        traité = QApplication::notify(receiver, event);
         if (event->type() == QEvent::FocusIn)
             laisser_sans_sélection(receiver, static_cast<QFocusEvent*>(event)->reason());
-        return traité;
-    } catch (const std::exception& e) {
-        message_erreur_standard(e);
-    } catch (...) {
-        message_erreur_standard(VbError(51));
-    }
-    return false;
+    });
+    return traité;
 }

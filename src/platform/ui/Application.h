@@ -2,10 +2,10 @@
 
 #include <QApplication>
 
-// The application object of the program. A failure that no handler traps reaches the top of the event
-// loop here: it is shown with the standard error box's words and the program goes on with the next
-// event, instead of ending. The screens need the application object: whoever makes one destroys the
-// screens before it goes.
+// The application object of the program. A failure that no event handler traps reaches the top of the
+// event loop here (the handlers of signals have their own net, relier): it is shown with the standard
+// error box's words and the program goes on with the next event, instead of ending. The screens need
+// the application object: whoever makes one destroys the screens before it goes.
 class Application : public QApplication {
     Q_OBJECT
 public:

@@ -45,6 +45,21 @@ template <class F> bool avec_piège(ErrorBoxKind kind, F&& body) {
     return avec_piège(kind, std::forward<F>(body), [] {});
 }
 
+// The net under every handler that Qt calls: runs `body`; a failure it did not trap itself is shown
+// with the standard box, as an untrapped failure, and the program goes on with the next event. Nothing
+// thrown ever unwinds through Qt. Returns true when the body ran to its end.
+template <class F> bool avec_filet(F&& body) {
+    try {
+        body();
+        return true;
+    } catch (const std::exception& e) {
+        message_erreur_standard(e);
+    } catch (...) {
+        message_erreur_standard(VbError(51)); // "Erreur interne"
+    }
+    return false;
+}
+
 // A trap that ignores the failure without a word, for the few steps that must go on regardless.
 template <class F> bool en_silence(F&& body) {
     try {

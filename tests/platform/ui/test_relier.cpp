@@ -1,0 +1,33 @@
+#include "platform/ui/Relier.h"
+#include "support/Fixtures.h"
+
+#include <QLineEdit>
+
+namespace {
+
+using Relier = ScriptedTest;
+
+TEST_F(Relier, UnÉchecDuHandlerMontreLaBoîteStandardLàEtNeRemontePasDansQt) {
+    QLineEdit zone;
+    QString reçu;
+    relier(&zone, &QLineEdit::textChanged, &zone, [&](const QString& texte) {
+        reçu = texte;
+        throw VbError(53);
+    });
+    ui().expectMsgBox(vbOK);
+    EXPECT_NO_THROW(zone.setText(QStringLiteral("abc")));
+    EXPECT_EQ(reçu, "abc");
+    EXPECT_TRUE(une_boîte(ui(), "Le logiciel a rencontré l'erreur : 53\n\nFichier introuvable"));
+}
+
+TEST_F(Relier, LeHandlerPrendMoinsDArgumentsQueLeSignalOuEstUneMéthodeDuReceveur) {
+    QLineEdit zone;
+    int appels = 0;
+    relier(&zone, &QLineEdit::textChanged, &zone, [&] { ++appels; });
+    relier(&zone, &QLineEdit::textChanged, &zone, &QLineEdit::selectAll);
+    zone.setText(QStringLiteral("abc"));
+    EXPECT_EQ(appels, 1);
+    EXPECT_EQ(zone.selectedText(), "abc");
+}
+
+} // namespace
