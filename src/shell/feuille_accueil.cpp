@@ -123,7 +123,6 @@ void feuille_accueil::Form_Load() {
     lblVersion->setText(
         QStringLiteral("Version %1.%2.%3").arg(version_majeure).arg(version_mineure).arg(version_révision));
     lblProductName->setText(QString::fromUtf8(titre_programme));
-    adjustSize();
     centrer_feuille(*this);
     Show();
     setFocus();

@@ -90,7 +90,6 @@ feuille_login::feuille_login() : Feuille(QStringLiteral("feuille_login"), Genre:
 }
 
 void feuille_login::Form_Load() {
-    adjustSize();
     centrer_feuille(*this);
 }
 

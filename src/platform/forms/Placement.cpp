@@ -28,8 +28,18 @@ QSizeF taille_écran_twips() {
 
 namespace {
 
+// A screen is measured at the size it will be shown at. A window never given a size takes the one
+// its layout asks for when it is first shown (a child screen loaded while the main window is still
+// hidden is such a one); measured before that, it is a default of a few pixels and lands far from
+// where the rule puts it. So it takes that size now, as showing it would.
+void mettre_en_page(QWidget& fenêtre) {
+    if (!fenêtre.testAttribute(Qt::WA_Resized))
+        fenêtre.adjustSize();
+}
+
 void placer(Feuille& feuille, PositionTwips (*règle)(double, double, double, double)) {
     QWidget& fenêtre = feuille.conteneur();
+    mettre_en_page(fenêtre);
     const QSizeF écran = taille_écran_twips();
     const QSize propre = fenêtre.frameGeometry().size();
     const PositionTwips p =

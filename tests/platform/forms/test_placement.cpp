@@ -10,6 +10,7 @@
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTimer>
+#include <QVBoxLayout>
 #include <gtest/gtest.h>
 
 // Centred: 500 twips above the middle; high: 1500 above and 1000 left of it. Halves stay, and a
@@ -92,6 +93,34 @@ TEST_F(PlacingAScreen, AChildScreenIsPlacedInTheAreaButMeasuredAgainstTheWholeDi
                                              en_twips(own.width()), en_twips(own.height()));
     EXPECT_EQ(f.conteneur().pos(), QPoint(en_pixels(p.left), en_pixels(p.top)));
     EXPECT_GT(f.conteneur().x() + own.width(), area.width()); // not clipped to the area
+    module1().feuilles().toutDétruire();
+}
+
+namespace {
+
+// A screen that leaves its size to its layout and places itself as it loads, as every screen does.
+class feuille_mise_en_page : public Feuille {
+public:
+    feuille_mise_en_page() : Feuille(QStringLiteral("feuille_mise_en_page")) {
+        (new QVBoxLayout(this))->addWidget(new QLabel(QString(80, u'x'), this));
+    }
+    void Form_Load() override { centrer_feuille(*this); }
+};
+
+} // namespace
+
+// The main window's area is still hidden while the screens of a start-up load.
+TEST_F(PlacingAScreen, AScreenLoadedBeforeTheAreaIsShownLandsByTheSizeItIsShownAt) {
+    QMdiArea area;
+    module1().feuilles().setMdiArea(&area);
+    auto& f = module1().feuilles().get<feuille_mise_en_page>();
+    area.show();
+    f.Show();
+    const QSizeF screen = taille_écran_twips();
+    const QSize own = f.conteneur().frameGeometry().size();
+    const PositionTwips p =
+        position_centrée(screen.width(), screen.height(), en_twips(own.width()), en_twips(own.height()));
+    EXPECT_EQ(f.conteneur().pos(), QPoint(en_pixels(p.left), en_pixels(p.top)));
     module1().feuilles().toutDétruire();
 }
 
