@@ -9,6 +9,7 @@
 #include "shell/options.h"
 #include "shell/version.h"
 
+#include <QCloseEvent>
 #include <QDir>
 #include <QFrame>
 #include <QGridLayout>
@@ -158,11 +159,21 @@ void feuille_accueil::Form_KeyPress() {
     Unload();
 }
 
+// The splash stays on view, blinking, until its unload is over: the reading of the options may bring
+// up the main window and, behind it, the access code box. Its timer goes with it.
 void feuille_accueil::Form_Unload(int&) {
-    Timer1->stop();
     // The separator is added without a test: started from a root, the path ends with two of them.
     module1().chemin_application = File1->Path() + QDir::separator();
     lire_options();
+}
+
+// Closing the splash from the window manager (Alt+F4, the task bar) goes on as a click does. A plain
+// unload would leave a running program with no window to see or to quit. Ending there would be a
+// second way out, one that skips the quit question: closing a splash is putting it aside, and the
+// main window that follows holds the one way out, by which every run ends.
+void feuille_accueil::closeEvent(QCloseEvent* event) {
+    event->accept();
+    Click();
 }
 
 void feuille_accueil::keyPressEvent(QKeyEvent* event) {

@@ -34,6 +34,7 @@ public:
     void Click();
 
 protected:
+    void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* objet, QEvent* event) override;
 

@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QMdiArea>
 #include <QTimer>
+#include <QWindow>
 
 namespace {
 
@@ -106,6 +107,27 @@ TEST_F(DémarrageDuProgramme, LeSplashAttendQuUnClicSurLeFondNuOuUneToucheSansCa
     EXPECT_NE(feuilles().siChargée<feuille_accueil>(), nullptr);
     EXPECT_EQ(mdi(), nullptr);
     EXPECT_FALSE(QFile::exists(folder.file("options.ini")));
+}
+
+TEST_F(DémarrageDuProgramme, FermerLeSplashParLeGestionnaireDeFenêtresFaitCommeUnClic) {
+    ASSERT_TRUE(accueil().windowHandle()->close());
+    processDeletions();
+    EXPECT_EQ(feuilles().siChargée<feuille_accueil>(), nullptr);
+    ASSERT_NE(mdi(), nullptr);
+    EXPECT_TRUE(mdi()->isVisible());
+}
+
+TEST_F(DémarrageDuProgramme, LeMessageClignoteEncoreDerrièreLaBoîteDuCode) {
+    préparer_options("0\r\n0\r\n1\r\n0\r\n" + ligne_de_base(créer_base_de_test(folder.file("a.mdb"), "X")));
+    bool clignote = false;
+    ui().expectModal([&](Feuille& login) {
+        const feuille_accueil* splash = feuilles().siChargée<feuille_accueil>();
+        clignote = splash && splash->isVisible() && splash->Timer1->isActive();
+        login.Unload();
+    });
+    ui().expectMsgBox(vbOK); // the code refused
+    démarrer_par_clic();
+    EXPECT_TRUE(clignote);
 }
 
 class ClicSurUnContrôle : public Démarrage, public ::testing::WithParamInterface<const char*> {};
