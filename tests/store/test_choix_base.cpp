@@ -269,6 +269,23 @@ TEST_F(ChoixDeLaBase, ÀLOuvertureAuDémarrageLeBonCodeNeTrouvePasDÉcranPourLeF
     EXPECT_EQ(mdi()->Panel1(), "Base de données en cours : " + base);
 }
 
+// An assistive tool reaches the chooser behind the modal box and cancels it; the right code follows.
+TEST_F(ChoixDeLaBase, LeChoixDéchargéPendantLaBoîteDuCodeArrêteLOuverture) {
+    créer_base_de_test(folder.file("ecole.mdb"), QStringLiteral("Secret"));
+    démarrer_sur_le_choix().File1->cliquer("ecole.mdb");
+    ui().expectModal([this](Feuille& login) {
+        choix()->cmdFermer->click();
+        processDeletions();
+        QTest::keyClicks(static_cast<feuille_login&>(login).accès_tentavive, "Secret");
+        static_cast<feuille_login&>(login).cmdMettreàjour->click();
+    });
+    ouvrir_base_choisie();
+    EXPECT_EQ(choix(), nullptr);
+    EXPECT_TRUE(menus_de_données_inactifs());
+    EXPECT_EQ(mdi()->Panel1(), "");
+    EXPECT_TRUE(ui().boxes().empty());
+}
+
 TEST_F(ChoixDeLaBase, LaBoîteDuCodeClignoteEtMasqueLaSaisie) {
     feuille_login& login = feuilles().get<feuille_login>();
     EXPECT_EQ(login.accès_tentavive->echoMode(), QLineEdit::Password);
