@@ -3,6 +3,7 @@
 #include "platform/errors/ErrorBoxes.h"
 #include "platform/forms/EtiquetteElidee.h"
 #include "platform/forms/Module1.h"
+#include "platform/forms/TouchesAcces.h"
 #include "shell/commandes.h"
 #include "shell/ecrans_connus.h"
 #include "shell/feuille_options.h"
@@ -145,6 +146,7 @@ MDIForm1::MDIForm1() : Feuille(QStringLiteral("MDIForm1"), Genre::haut_niveau) {
     disposition->setContentsMargins(0, 0, 0, 0);
     disposition->addWidget(fenêtre);
     construire_menus();
+    new TouchesDAccès(*fenêtre->menuBar()); // a child of the bar
     construire_barre_d_état();
     if (const QScreen* écran = QGuiApplication::primaryScreen())
         setGeometry(écran->availableGeometry());

@@ -1,12 +1,16 @@
 #include "shell/EtatDemarrage.h"
 
+#include "platform/forms/ListesFichiers.h"
 #include "shell/commandes.h"
+#include "support/PiloteEcran.h"
 
+#include <QApplication>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QStatusBar>
 #include <QTest>
 #include <QWindow>
@@ -137,6 +141,24 @@ TEST_F(FenêtrePrincipale, UneToucheDeVerrouillageBasculeSonPanneauUneFoisQuelQu
         QTest::keyClick(fenêtre_système, touche);
         EXPECT_EQ(fenêtre.panneau(numéro)->isEnabled(), avant) << numéro;
     }
+}
+
+// "&Ouvrir" of the chooser and "&Options" of the bar share their letter; the chooser has no F.
+TEST_F(FenêtrePrincipale, LesTouchesDAccèsDeLÉcranPassentAvantLesMenusQuiRestentÀPortée) {
+    démarrer();
+    montrer_active(*mdi());
+    choix()->File1->setFocus();
+    QTest::keyClick(choix()->File1, Qt::Key_O, Qt::AltModifier);
+    EXPECT_TRUE(choix()->cmdMettreàjour->isDown());
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    const QMenu* fichier = mdi()->menu("menufichierindex0")->menu();
+    for (const auto touche : {QKeyCombination(Qt::AltModifier, Qt::Key_F), QKeyCombination(Qt::Key_F10)}) {
+        QTest::keyClick(choix()->File1, touche.key(), touche.keyboardModifiers());
+        EXPECT_EQ(QApplication::activePopupWidget(), fichier);
+        if (QApplication::activePopupWidget())
+            QApplication::activePopupWidget()->close();
+    }
+    EXPECT_FALSE(mdi()->menu("menuenfantsindex0")->isEnabled()); // the bar went and came back untouched
 }
 
 // Qt's own words speak French too: the menu of a screen's window, the context menu of a text box.
