@@ -124,6 +124,19 @@ TEST_F(FenêtrePrincipale, SixPanneauxDontSeulLePremierEstÉcritParLeProgramme) 
     EXPECT_EQ(fenêtre.StatusBar1->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly).size(), 6);
 }
 
+// As the system keeps them at start, and again when the program comes back to the front.
+TEST_F(FenêtrePrincipale, LesPanneauxDesVerrousSuiventLeClavierDuSystème) {
+    module1().clavier().fixer({.majuscules = true, .numérique = true, .insertion = true});
+    MDIForm1& fenêtre = démarrer();
+    for (int i : {4, 5, 6})
+        EXPECT_TRUE(fenêtre.panneau(i)->isEnabled()) << i;
+    module1().clavier().fixer({.majuscules = false, .numérique = true});
+    QEvent retour(QEvent::ApplicationActivate);
+    QCoreApplication::sendEvent(qApp, &retour);
+    EXPECT_FALSE(fenêtre.panneau(4)->isEnabled());
+    EXPECT_TRUE(fenêtre.panneau(5)->isEnabled());
+}
+
 // A lock key pressed while the focus is deep inside a screen is one press: its panel turns once.
 TEST_F(FenêtrePrincipale, UneToucheDeVerrouillageBasculeSonPanneauUneFoisQuelQueSoitLeFocus) {
     MDIForm1& fenêtre = démarrer();
