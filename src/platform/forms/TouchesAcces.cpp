@@ -83,21 +83,19 @@ bool TouchesDAccès::eventFilter(QObject* objet, QEvent* event) {
         break;
     case QEvent::Shortcut: // a control of the screen took the key
         rétablir_la_barre();
-        sans_preneur_ = false;
         break;
     case QEvent::KeyPress: {
-        // No shortcut took the key: it goes to the focus, then up to the main window if nobody wants it.
-        sans_preneur_ = sans_preneur_ || écartée_;
+        // No shortcut took the key: it goes to the focus, then up to the main window if no control
+        // wants it. There a letter the screen does not use opens its menu, and F10 the first one.
         rétablir_la_barre();
         if (objet != barre_.window())
             break;
         const auto& touche = *static_cast<QKeyEvent*>(event);
         QAction* menu = nullptr;
-        if (sans_preneur_ && est_touche_d_accès(touche))
-            menu = menu_de_la_touche(touche); // a letter the screen does not use
+        if (est_touche_d_accès(touche))
+            menu = menu_de_la_touche(touche);
         else if (touche.key() == Qt::Key_F10 && touche.modifiers() == Qt::NoModifier)
             menu = premier_menu();
-        sans_preneur_ = false;
         if (menu == nullptr)
             break;
         ouvrir(menu);
