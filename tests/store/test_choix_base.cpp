@@ -312,11 +312,7 @@ TEST_F(ChoixDeLaBase, LOptionDesÉlèvesMontreLÉcranDesÉlèvesSurLaBaseOuverte
     EXPECT_TRUE(élève->conteneur().isVisible());
     EXPECT_EQ(mdi()->zone->activeSubWindow(), &élève->conteneur());
     // Placed by the size it is shown at, though the main window was still hidden when it loaded.
-    const QSizeF écran = taille_écran_twips();
-    const QSize propre = élève->conteneur().size();
-    const PositionTwips p =
-        position_centrée(écran.width(), écran.height(), en_twips(propre.width()), en_twips(propre.height()));
-    EXPECT_EQ(élève->conteneur().pos(), QPoint(en_pixels(p.left), en_pixels(p.top)));
+    EXPECT_EQ(élève->conteneur().pos(), position_sur_l_écran(élève->conteneur().size(), position_centrée));
     EXPECT_EQ(élève->datPrimaryRS->DatabaseName(), base);
     EXPECT_TRUE(élève->datPrimaryRS->isOpen());
     EXPECT_EQ(élève->Data1->DatabaseName(), "");

@@ -40,14 +40,17 @@ void mettre_en_page(QWidget& fenêtre) {
 void placer(Feuille& feuille, PositionTwips (*règle)(double, double, double, double)) {
     QWidget& fenêtre = feuille.conteneur();
     mettre_en_page(fenêtre);
-    const QSizeF écran = taille_écran_twips();
-    const QSize propre = fenêtre.frameGeometry().size();
-    const PositionTwips p =
-        règle(écran.width(), écran.height(), en_twips(propre.width()), en_twips(propre.height()));
-    fenêtre.move(en_pixels(p.left), en_pixels(p.top));
+    fenêtre.move(position_sur_l_écran(fenêtre.frameGeometry().size(), règle));
 }
 
 } // namespace
+
+QPoint position_sur_l_écran(QSize taille, PositionTwips (*règle)(double, double, double, double)) {
+    const QSizeF écran = taille_écran_twips();
+    const PositionTwips p =
+        règle(écran.width(), écran.height(), en_twips(taille.width()), en_twips(taille.height()));
+    return {en_pixels(p.left), en_pixels(p.top)};
+}
 
 void centrer_feuille(Feuille& feuille) {
     avec_piège(ErrorBoxKind::données, [&] { placer(feuille, position_centrée); });

@@ -98,7 +98,8 @@ TEST_F(PlacingAScreen, AChildScreenIsPlacedInTheAreaButMeasuredAgainstTheWholeDi
 
 namespace {
 
-// A screen that leaves its size to its layout and places itself as it loads, as every screen does.
+// A screen sized by its layout that places itself as it loads, as every screen does; at start-up the
+// main window's area is still hidden then.
 class feuille_mise_en_page : public Feuille {
 public:
     feuille_mise_en_page() : Feuille(QStringLiteral("feuille_mise_en_page")) {
@@ -109,18 +110,13 @@ public:
 
 } // namespace
 
-// The main window's area is still hidden while the screens of a start-up load.
 TEST_F(PlacingAScreen, AScreenLoadedBeforeTheAreaIsShownLandsByTheSizeItIsShownAt) {
     QMdiArea area;
     module1().feuilles().setMdiArea(&area);
     auto& f = module1().feuilles().get<feuille_mise_en_page>();
     area.show();
     f.Show();
-    const QSizeF screen = taille_écran_twips();
-    const QSize own = f.conteneur().frameGeometry().size();
-    const PositionTwips p =
-        position_centrée(screen.width(), screen.height(), en_twips(own.width()), en_twips(own.height()));
-    EXPECT_EQ(f.conteneur().pos(), QPoint(en_pixels(p.left), en_pixels(p.top)));
+    EXPECT_EQ(f.conteneur().pos(), position_sur_l_écran(f.conteneur().size(), position_centrée));
     module1().feuilles().toutDétruire();
 }
 
