@@ -71,7 +71,6 @@ QAction* TouchesDAccès::premier_menu() const {
 }
 
 void TouchesDAccès::ouvrir(QAction* menu) {
-    barre_.setFocus(Qt::MenuBarFocusReason);
     barre_.setActiveAction(menu);
 }
 
