@@ -16,6 +16,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -139,24 +140,32 @@ void feuille_accueil::Timer1_Timer() {
     }
 }
 
-bool feuille_accueil::encore_chargée() const {
-    return module1().feuilles().siChargée<feuille_accueil>() == this;
+// The way forward is taken once. It may wait on the access code box, and an assistive tool can reach
+// the splash behind it: a second click or key then does nothing.
+bool feuille_accueil::partir() {
+    if (parti_ || module1().feuilles().siChargée<feuille_accueil>() != this)
+        return false;
+    parti_ = true;
+    return true;
 }
 
 // By mouse, the splash goes first and the main window follows.
 void feuille_accueil::Click() {
-    if (!encore_chargée())
+    if (!partir())
         return;
     Unload();
     module1().feuilles().get<MDIForm1>().Show();
 }
 
-// By keyboard, the main window comes first and the splash goes after.
+// By keyboard, the main window comes first and the splash goes after, if the wait for the code left
+// it there.
 void feuille_accueil::Form_KeyPress() {
-    if (!encore_chargée())
+    if (!partir())
         return;
+    const QPointer<feuille_accueil> splash(this);
     module1().feuilles().get<MDIForm1>().Show();
-    Unload();
+    if (splash && module1().feuilles().contient(splash))
+        splash->Unload();
 }
 
 // The splash stays on view, blinking, until its unload is over: the reading of the options may bring

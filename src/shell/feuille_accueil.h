@@ -40,5 +40,7 @@ protected:
 
 private:
     void construire();
-    bool encore_chargée() const;
+    bool partir();
+
+    bool parti_ = false;
 };
