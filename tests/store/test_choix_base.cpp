@@ -282,8 +282,6 @@ TEST_F(ChoixDeLaBase, LeChoixDéchargéPendantLaBoîteDuCodeArrêteLOuverture) {
     ouvrir_base_choisie();
     EXPECT_EQ(choix(), nullptr);
     EXPECT_TRUE(menus_de_données_inactifs());
-    EXPECT_EQ(mdi()->Panel1(), "");
-    EXPECT_TRUE(ui().boxes().empty());
 }
 
 TEST_F(ChoixDeLaBase, LaBoîteDuCodeClignoteEtMasqueLaSaisie) {
