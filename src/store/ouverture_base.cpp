@@ -15,6 +15,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <functional>
 
 namespace {
@@ -44,15 +45,21 @@ const std::vector<ÉcranAprèsOuverture>& écrans_après_ouverture() {
 }
 
 // The code typed in the box must equal the file's code exactly; a cancelled box leaves it empty.
-bool code_accepté(feuille_choix_base& choix) {
-    if (choix.accès_actuel->text().isEmpty())
+// The chooser may go while the box waits (an assistive tool reaches it behind the box): the opening
+// then has no file to open nor code to compare, and stops there.
+bool code_accepté(const QPointer<feuille_choix_base>& choix) {
+    if (choix->accès_actuel->text().isEmpty())
         return true;
     Module1& m = module1();
-    choix.accès_tentavive->setText(QString());
+    choix->accès_tentavive->setText(QString());
     m.interaction().showModal(m.feuilles().get<feuille_login>());
-    if (choix.accès_tentavive->text() == choix.accès_actuel->text())
+    if (!choix || !m.feuilles().contient(choix)) {
+        m.interaction().setMousePointer(vbDefault);
+        return false;
+    }
+    if (choix->accès_tentavive->text() == choix->accès_actuel->text())
         return true;
-    choix.accès_tentavive->setText(QString());
+    choix->accès_tentavive->setText(QString());
     m.interaction().MsgBox(QStringLiteral("Erreur de code d'accès... Accès non-autorisé!"), vbExclamation);
     m.interaction().setMousePointer(vbDefault);
     return false;
@@ -64,8 +71,9 @@ void ouvrir_base_choisie() {
     avec_piège(ErrorBoxKind::données, [] {
         Module1& m = module1();
         Feuilles& feuilles = m.feuilles();
-        feuille_choix_base& choix = feuilles.get<feuille_choix_base>();
-        if (choix.Label4->text().isEmpty()) {
+        // Guarded: the chooser may go while the access code box waits.
+        const QPointer<feuille_choix_base> choix = &feuilles.get<feuille_choix_base>();
+        if (choix->Label4->text().isEmpty()) {
             m.interaction().MsgBox(
                 QStringLiteral(
                     "Vous devez sélectionner la base de données sur laquelle vous souhaitez travailler..."),
@@ -84,7 +92,7 @@ void ouvrir_base_choisie() {
         m.interaction().setMousePointer(vbHourglass);
         MDIForm1& mdi = feuilles.get<MDIForm1>();
         mdi.activer_menus();
-        choix.Unload();
+        choix->Unload();
         m.interaction().setMousePointer(vbDefault);
         mdi.setPanel1(QStringLiteral("Base de données en cours : ") + m.base_en_cours);
         patientez.Unload();

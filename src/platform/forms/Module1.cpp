@@ -22,6 +22,7 @@ void Module1::réinitialiser() {
     origine_appel = 0;
     interaction_.reset();
     horloge_.libérer();
+    clavier_.libérer();
 }
 
 Module1& module1() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/forms/Clavier.h"
 #include "platform/forms/Feuilles.h"
 #include "platform/forms/Horloge.h"
 #include "platform/ui/Interaction.h"
@@ -24,14 +25,17 @@ public:
     void setInteraction(std::shared_ptr<Interaction> interaction);
 
     Horloge& horloge() { return horloge_; }
+    Clavier& clavier() { return clavier_; }
     Feuilles& feuilles() { return feuilles_; }
 
-    // Back to the start state: empty strings, 0, every screen destroyed, real dialogs, system clock.
+    // Back to the start state: empty strings, 0, every screen destroyed, real dialogs, system clock
+    // and keyboard.
     void réinitialiser();
 
 private:
     std::shared_ptr<Interaction> interaction_;
     Horloge horloge_;
+    Clavier clavier_;
     Feuilles feuilles_;
 };
 
