@@ -67,13 +67,9 @@ struct Appelant {
 };
 
 template <class F> QString colonne_de(const QString& champ) {
-    for (const auto& c : F::champs()) {
-        if constexpr (requires { c.name; }) {
-            if (champ == u(c.name))
-                return u(c.column ? c.column : c.name);
-        } else if (champ == u(c.nom))
-            return u(c.colonne);
-    }
+    for (const auto& c : F::champs())
+        if (champ == u(c.name))
+            return u(c.column ? c.column : c.name);
     return {};
 }
 

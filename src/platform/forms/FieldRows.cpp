@@ -33,13 +33,12 @@ void fitWidth(QLineEdit& box, int limit) {
         box.setMinimumWidth(digit * std::min(10 + letters / 4, 24));
 }
 
-// On a small display the style makes every button as wide; a caption button may shrink to its caption.
-void tighten(QPushButton& button) {
+} // namespace
+
+void fitButtonToCaption(QPushButton& button) {
     button.setMinimumWidth(std::min(button.minimumSizeHint().width(),
                                     button.fontMetrics().horizontalAdvance(button.text()) + 16));
 }
-
-} // namespace
 
 FieldBuilder::FieldBuilder(DataControl& source, FieldStyle style) : source_(source), style_(style) {}
 
@@ -68,6 +67,10 @@ const FieldBuilder::Group& FieldBuilder::group(const QString& name) const {
 
 QGridLayout* FieldBuilder::grid(const QString& name) const {
     return group(name).grid;
+}
+
+int FieldBuilder::takeRow(const QString& name) {
+    return ++group(name).row;
 }
 
 int FieldBuilder::nextRow(const QString& name) const {
@@ -102,7 +105,7 @@ std::vector<FieldBuilder::Made> FieldBuilder::build(std::span<const Spec> specs)
             if (s.buttonTip)
                 button->setToolTip(text(s.buttonTip));
             if (style_.tightButtons)
-                tighten(*button);
+                fitButtonToCaption(*button);
             // A screen reader names the field by the caption it reads on the button.
             control->setAccessibleName(button->text().remove(QLatin1Char('&')));
         }

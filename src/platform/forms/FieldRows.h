@@ -62,6 +62,8 @@ public:
     // A group box of that object name with its own grid, made a group.
     QGroupBox* addGroupBox(const QString& name, QWidget* parent, Qt::Alignment boxAlignment = {});
     QGridLayout* grid(const QString& name) const;
+    // A row of the group's grid kept for what the screen places there, above the fields to come.
+    int takeRow(const QString& name);
     // The first row of a group's grid below its fields, for what a screen places beside them.
     int nextRow(const QString& name) const;
     // Columns of the group's widest row: a caption and its field make two, and one spare column follows.
@@ -123,6 +125,9 @@ private:
     std::vector<Group> groups_;
     std::vector<QWidget*> fields_;
 };
+
+// A button may shrink to its caption on a small display, where the style makes every button as wide.
+void fitButtonToCaption(QPushButton& button);
 
 // Every control that can take the focus on a page of `tabs` brings that page forward when it takes
 // the focus, so that a user who moves on with the Tab key never types into a hidden page.
