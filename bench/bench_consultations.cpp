@@ -45,7 +45,7 @@ void BM_choix_de_la_dernière_ville(benchmark::State& state) {
     feuille_élève& élève = m.feuilles().get<feuille_élève>();
     élève.Show();
     for (auto _ : state) {
-        élève.Command9_Click();
+        élève.Command9->click();
         auto& lookup = m.feuilles().get<feuille_villes>();
         lookup.datPrimaryRS->Recordset().MoveLast();
         lookup.bouton_accepter_Click();
