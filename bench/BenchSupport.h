@@ -14,6 +14,7 @@
 #include <cstdio>
 #include <functional>
 #include <string>
+#include <unistd.h>
 #include <vector>
 
 namespace banc {
@@ -55,6 +56,9 @@ inline void objectif(benchmark::State& state, double but) {
 // time is the figure to judge by. Of the aggregates of repetitions, the mean and the median.
 class RapportAvecObjectifs : public benchmark::ConsoleReporter {
 public:
+    // In colour on a terminal only, as the library's own reporter, so that a saved run reads plain.
+    RapportAvecObjectifs() : ConsoleReporter(isatty(fileno(stdout)) ? OO_ColorTabular : OO_Tabular) {}
+
     void ReportRuns(const std::vector<Run>& runs) override {
         ConsoleReporter::ReportRuns(runs);
         for (const Run& run : runs)
