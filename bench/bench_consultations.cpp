@@ -53,7 +53,7 @@ void BM_choix_de_la_dernière_ville(benchmark::State& state) {
     }
     if (élève.ville_résidence->text() != base.dernière_ville)
         state.SkipWithError("la ville choisie n'est pas arrivée");
-    state.SetLabel("objectif < " + std::to_string(objectif_ms) + " ms");
+    banc::objectif(state, objectif_ms);
     m.réinitialiser();
 }
 BENCHMARK(BM_choix_de_la_dernière_ville)->Unit(benchmark::kMillisecond);
