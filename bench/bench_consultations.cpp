@@ -43,7 +43,7 @@ void BM_choix_de_la_dernière_ville(benchmark::State& state) {
     feuille_élève& élève = m.feuilles().get<feuille_élève>();
     élève.Show();
     for (auto _ : state) {
-        élève.Command9_Click();
+        élève.Command9->click();
         auto& lookup = m.feuilles().get<feuille_villes>();
         lookup.datPrimaryRS->Recordset().MoveLast();
         lookup.bouton_accepter_Click();
@@ -51,7 +51,7 @@ void BM_choix_de_la_dernière_ville(benchmark::State& state) {
     }
     if (élève.ville_résidence->text() != base.dernière_ville)
         state.SkipWithError("la ville choisie n'est pas arrivée");
-    state.SetLabel("objectif < " + std::to_string(objectif_ms) + " ms");
+    banc::objectif(state, objectif_ms);
     m.réinitialiser();
 }
 BENCHMARK(BM_choix_de_la_dernière_ville)->Unit(benchmark::kMillisecond);

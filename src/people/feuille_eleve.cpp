@@ -1,19 +1,19 @@
 #include "people/feuille_eleve.h"
 #include "platform/forms/Disposition.h"
 
+#include "people/age.h"
 #include "people/ordres_eleves.h"
 #include "people/recherches_eleves.h"
-#include "people/age.h"
 
-#include "platform/ui/ErrorBoxes.h"
 #include "platform/forms/Clignotement.h"
 #include "platform/forms/DBGrid.h"
 #include "platform/forms/DataControl.h"
 #include "platform/forms/LimiteSaisie.h"
-#include "store/Module1.h"
-#include "platform/forms/SuiviOnglets.h"
+#include "platform/ui/ErrorBoxes.h"
 #include "platform/vb/Conversions.h"
+#include "reference/retours.h"
 #include "reports/feuille_documents.h"
+#include "store/Module1.h"
 #include "store/ouvrir_table.h"
 
 #include <QCheckBox>
@@ -73,28 +73,11 @@ QPushButton* nouveau_bouton(QWidget* parent, const char* nom, const char* légen
     return b;
 }
 
-// A button may shrink to its caption on a small display, where the style makes every button as wide.
-void resserrer(QPushButton* b) {
-    b->setMinimumWidth(
-        std::min(b->minimumSizeHint().width(), b->fontMetrics().horizontalAdvance(b->text()) + 16));
-}
-
 // A box that gathers controls without a caption of its own.
 QGroupBox* cadre(QWidget* parent, const char* nom) {
     auto* g = new QGroupBox(parent);
     g->setObjectName(texte(nom));
     return g;
-}
-
-// Short entries get a box about their own width, so that a code of five letters does not stretch over
-// the page; long ones take what the row gives them.
-void ajuster_largeur(QLineEdit* e, int longueur) {
-    const int lettres = longueur == 0 ? 11 : longueur;
-    const int chiffre = e->fontMetrics().horizontalAdvance(QLatin1Char('0'));
-    if (lettres <= 12)
-        e->setFixedWidth(chiffre * (lettres + 3));
-    else
-        e->setMinimumWidth(chiffre * std::min(10 + lettres / 4, 24));
 }
 
 QPlainTextEdit* zone_de_texte(QWidget* parent) {
@@ -106,16 +89,6 @@ QPlainTextEdit* zone_de_texte(QWidget* parent) {
 }
 
 } // namespace
-
-// Where the fields of one group are laid out: a label and its field a pair, pairs side by side.
-struct feuille_élève::Grille {
-    QString nom;
-    QGridLayout* disposition;
-    int ligne = -1;
-    int colonne = 0;
-    int paires = 1;    // widest row of the group, in pairs
-    int restantes = 0; // pairs still to come on the current row
-};
 
 feuille_élève::feuille_élève() : FeuilleFiche(configuration_élève()) {
     construire();
@@ -143,34 +116,23 @@ void feuille_élève::construire_sources() {
 
 void feuille_élève::construire() {
     construire_sources();
+    FieldBuilder disposition(*datPrimaryRS, {.fitBoxWidths = true, .tightButtons = true});
     auto* colonne = new QVBoxLayout(corps());
     colonne->setContentsMargins(0, 0, 0, 0);
-    colonne->addWidget(construire_bandeau());
+    colonne->addWidget(construire_bandeau(disposition));
     SSTab1 = new QTabWidget(this);
     SSTab1->setObjectName(QStringLiteral("SSTab1"));
     colonne->addWidget(SSTab1, 1);
-    construire_onglets();
-    construire_champs();
-    finir_disposition();
+    construire_onglets(disposition);
+    disposition.build(*this, champs());
+    finir_disposition(disposition);
     poser_tabulation();
     Timer1 = minuterie_clignotante(*this, 500, [this] { Timer1_Timer(); });
 }
 
-// Every field shows its column of the current pupil; the captions of the configurable fields come
-// from the single row of paramètres.
+// The contacts and the configurable fields show their columns of the current pupil, as the rows do;
+// the captions of the configurable fields come from the single row of paramètres.
 void feuille_élève::lier_colonnes() {
-    for (const Champ& c : champs()) {
-        if (!c.colonne)
-            continue;
-        const QString colonne = texte(c.colonne);
-        QWidget* w = champ(texte(c.nom));
-        if (auto* e = qobject_cast<QLineEdit*>(w))
-            datPrimaryRS->bind(e, colonne);
-        else if (auto* z = qobject_cast<QPlainTextEdit*>(w))
-            datPrimaryRS->bind(z, colonne);
-        else if (auto* b = qobject_cast<QCheckBox*>(w))
-            datPrimaryRS->bind(b, colonne);
-    }
     for (int i = 0; i < 5; ++i)
         for (QLineEdit* e : {nom_contact[i], prénom_contact[i], téléphone_contact[i]})
             datPrimaryRS->bind(e, e->objectName());
@@ -217,78 +179,18 @@ void feuille_élève::brancher_handlers() {
     surLostFocus(prénom_enfant, [this] { prénom_enfant_LostFocus(); });
     QObject::connect(Command15, &QPushButton::clicked, this, [this] { Command15_Click(); });
     QObject::connect(Command6, &QPushButton::clicked, this, [this] { Command6_Click(); });
-    brancher_consultations();
-    suivre_onglets(*this, *SSTab1,
-                   {
-                       {"date_inscription", 0},
-                       {"date_naissance", 0},
-                       {"lieu_naissance", 0},
-                       {"code_nationalité", 0},
-                       {"date_radiation", 0},
-                       {"établissement_accueil", 0},
-                       {"sexe", 0},
-                       {"nationalité", 0},
-                       {"cursus_allongé_élève", 1},
-                       {"saisine_ccpe_élève", 1},
-                       {"référence_classe_élève", 1},
-                       {"niveau_classe_élève", 1},
-                       {"cycle_classe_élève", 1},
-                       {"langue_vivante_élève", 1},
-                       {"nom_contact1", 2},
-                       {"nom_contact2", 2},
-                       {"nom_contact3", 2},
-                       {"nom_contact4", 2},
-                       {"nom_contact5", 2},
-                       {"prénom_contact1", 2},
-                       {"prénom_contact2", 2},
-                       {"prénom_contact3", 2},
-                       {"prénom_contact4", 2},
-                       {"prénom_contact5", 2},
-                       {"téléphone_contact1", 2},
-                       {"téléphone_contact2", 2},
-                       {"téléphone_contact3", 2},
-                       {"téléphone_contact4", 2},
-                       {"téléphone_contact5", 2},
-                       {"numéro_résidence", 3},
-                       {"adresse2_résidence", 3},
-                       {"téléphone1_résidence", 3},
-                       {"téléphone2_résidence", 3},
-                       {"adresse_résidence", 3},
-                       {"code_postal_résidence", 3},
-                       {"ville_résidence", 3},
-                       {"vaccinations", 4},
-                       {"allergies", 4},
-                       {"contre_indications", 4},
-                       {"observations_médicales", 4},
-                       {"participation_usep", 4},
-                       {"restauration_scolaire", 4},
-                       {"coopérative_scolaire", 4},
-                       {"observations_générales", 4},
-                       {"champ_paramétable1", 5},
-                       {"champ_paramétable2", 5},
-                       {"champ_paramétable3", 5},
-                       {"champ_paramétable4", 5},
-                       {"champ_paramétable5", 5},
-                       {"champ_paramétable6", 6},
-                       {"champ_paramétable7", 6},
-                       {"champ_paramétable8", 6},
-                       {"champ_paramétable9", 6},
-                       {"champ_paramétable10", 6},
-                       {"grdDataGrid", 7},
-                       {"Check1", 7},
-                       {"Command6", 7},
-                       {"documents_suite", 7},
-                   });
+    brancher_consultations(*this);
+    followPages(*this, *SSTab1);
 }
 
-QWidget* feuille_élève::construire_bandeau() {
+QWidget* feuille_élève::construire_bandeau(FieldBuilder& disposition) {
     auto* bandeau = new QWidget(this);
     auto* lignes = new QVBoxLayout(bandeau);
     lignes->setContentsMargins(0, 0, 0, 0);
 
     auto* haut = new QHBoxLayout;
-    auto* Frame2 = groupe(QStringLiteral("Frame2"));
-    auto* Frame12 = groupe(QStringLiteral("Frame12"));
+    auto* Frame2 = disposition.addGroupBox(QStringLiteral("Frame2"), this);
+    auto* Frame12 = disposition.addGroupBox(QStringLiteral("Frame12"), this);
     haut->addWidget(Frame2, 1);
     haut->addWidget(Frame12);
     lignes->addLayout(haut);
@@ -307,7 +209,7 @@ QWidget* feuille_élève::construire_bandeau() {
 
     Command4 = nouveau_bouton(Frame12, "Command4", "Parents",
                               "Cliquez pour accéder à la fiche des parents de l'élève en cours");
-    resserrer(Command4);
+    fitButtonToCaption(*Command4);
     return bandeau;
 }
 
@@ -330,13 +232,13 @@ QWidget* feuille_élève::construire_boutons() {
     }
     // On a small display the buttons give up their spare width, not the list of orders its text.
     for (QPushButton* b : {cmdAjouter, cmdSupprimer, cmdRafraîchir, cmdMettreàjour, cmdFermer, Command3})
-        resserrer(b);
+        fitButtonToCaption(*b);
     rangée->addStretch(1);
     rangée->addWidget(Command3);
     return Frame11;
 }
 
-void feuille_élève::construire_onglets() {
+void feuille_élève::construire_onglets(FieldBuilder& disposition) {
     const char* légendes[] = {"&Identité",       "&Classe",     "&Personnes autorisées", "&Résidence",
                               "&Santé / Divers", "Autres (&1)", "Autres (&2)",           "&Documents"};
     for (const char* légende : légendes) {
@@ -344,32 +246,44 @@ void feuille_élève::construire_onglets() {
         new QVBoxLayout(page);
         SSTab1->addTab(page, texte(légende));
     }
-    construire_identité(SSTab1->widget(0));
-    auto* Frame4 = groupe(QStringLiteral("Frame4"));
-    SSTab1->widget(1)->layout()->addWidget(Frame4);
-    construire_contacts(SSTab1->widget(2));
-    construire_résidence(SSTab1->widget(3));
-    construire_santé(SSTab1->widget(4));
-    construire_paramétrables(SSTab1->widget(5), 0);
-    construire_paramétrables(SSTab1->widget(6), 5);
-    construire_documents(SSTab1->widget(7));
-    for (int i = 0; i < SSTab1->count(); ++i)
-        static_cast<QVBoxLayout*>(SSTab1->widget(i)->layout())->addStretch(1);
-}
-
-void feuille_élève::construire_identité(QWidget* page) {
-    auto* Frame3 = groupe(QStringLiteral("Frame3"));
-    auto* Frame13 = groupe(QStringLiteral("Frame13"));
-    page->layout()->addWidget(Frame3);
-    page->layout()->addWidget(Frame13);
-
+    auto page = [this](int i) { return static_cast<QVBoxLayout*>(SSTab1->widget(i)->layout()); };
+    page(0)->addWidget(disposition.addGroupBox(QStringLiteral("Frame3"), this));
+    page(0)->addWidget(disposition.addGroupBox(QStringLiteral("Frame13"), this));
     // The picture stands on the right of the identity, its button under it.
-    photo = new QLabel(Frame3);
+    photo = new QLabel(disposition.grid(QStringLiteral("Frame3"))->parentWidget());
     photo->setObjectName(QStringLiteral("photo"));
     photo->setFrameShape(QFrame::Box);
     photo->setAlignment(Qt::AlignCenter);
     photo->setFixedSize(120, 150);
     photo->setScaledContents(false);
+
+    page(1)->addWidget(disposition.addGroupBox(QStringLiteral("Frame4"), this));
+    construire_contacts(SSTab1->widget(2));
+
+    auto* Frame7 = disposition.addGroupBox(QStringLiteral("Frame7"), this);
+    page(3)->addWidget(Frame7);
+    Command16 =
+        nouveau_bouton(Frame7, "Command16",
+                       "CLIQUEZ ICI si l'adresse de résidence est identique à celle du responsable légal",
+                       "Cliquez pour accepter automatiquement l'adresse du responsable légal en tant "
+                       "qu'adresse du responsable légal");
+    // The copy of the family's address comes first: it fills most of the fields below it.
+    const QString résidence = QStringLiteral("Frame7");
+    disposition.grid(résidence)->addWidget(Command16, disposition.takeRow(résidence), 0, 1, -1);
+
+    auto* côte_à_côte = new QHBoxLayout;
+    côte_à_côte->addWidget(disposition.addGroupBox(QStringLiteral("Frame8"), this), 3);
+    côte_à_côte->addWidget(disposition.addGroupBox(QStringLiteral("Frame6"), this), 2, Qt::AlignTop);
+    page(4)->addLayout(côte_à_côte);
+    auto* bas = new QGridLayout;
+    page(4)->addLayout(bas);
+    disposition.addGroup(QString(), bas);
+
+    construire_paramétrables(SSTab1->widget(5), 0);
+    construire_paramétrables(SSTab1->widget(6), 5);
+    construire_documents(SSTab1->widget(7));
+    for (int i = 0; i < SSTab1->count(); ++i)
+        page(i)->addStretch(1);
 }
 
 void feuille_élève::construire_contacts(QWidget* page) {
@@ -406,33 +320,6 @@ void feuille_élève::construire_contacts(QWidget* page) {
     g->setColumnStretch(1, 3);
     g->setColumnStretch(2, 3);
     g->setColumnStretch(3, 2);
-}
-
-void feuille_élève::construire_résidence(QWidget* page) {
-    auto* Frame7 = groupe(QStringLiteral("Frame7"));
-    page->layout()->addWidget(Frame7);
-    Command16 =
-        nouveau_bouton(Frame7, "Command16",
-                       "CLIQUEZ ICI si l'adresse de résidence est identique à celle du responsable légal",
-                       "Cliquez pour accepter automatiquement l'adresse du responsable légal en tant "
-                       "qu'adresse du responsable légal");
-    // The copy of the family's address comes first: it fills most of the fields below it.
-    Grille* g = grille(QStringLiteral("Frame7"));
-    g->disposition->addWidget(Command16, 0, 0, 1, -1);
-    g->ligne = 0;
-}
-
-void feuille_élève::construire_santé(QWidget* page) {
-    auto* côte_à_côte = new QHBoxLayout;
-    auto* Frame8 = groupe(QStringLiteral("Frame8"));
-    auto* Frame6 = groupe(QStringLiteral("Frame6"));
-    côte_à_côte->addWidget(Frame8, 3);
-    côte_à_côte->addWidget(Frame6, 2, Qt::AlignTop);
-    auto* pile = static_cast<QVBoxLayout*>(page->layout());
-    pile->addLayout(côte_à_côte);
-    auto* bas = new QGridLayout;
-    pile->addLayout(bas);
-    grilles_.push_back({QString(), bas});
 }
 
 void feuille_élève::construire_paramétrables(QWidget* page, int premier) {
@@ -499,124 +386,18 @@ void feuille_élève::construire_documents(QWidget* page) {
     pile->addLayout(boutons);
 }
 
-QGroupBox* feuille_élève::groupe(const QString& nom) {
-    auto* g = new QGroupBox(this);
-    g->setObjectName(nom);
-    grilles_.push_back({nom, new QGridLayout(g)});
-    return g;
-}
-
-feuille_élève::Grille* feuille_élève::grille(const QString& nom) {
-    for (auto& g : grilles_)
-        if (g.nom == nom)
-            return &g;
-    return nullptr;
-}
-
-void feuille_élève::construire_champs() {
-    const auto table = champs();
-    // The widest row of each group decides how many columns its grid has.
-    for (auto& g : grilles_) {
-        int paires = 0;
-        for (const Champ& c : table) {
-            if (texte(c.groupe) != g.nom || c.invisible)
-                continue;
-            paires = c.même_ligne ? paires + 1 : 1;
-            g.paires = std::max(g.paires, paires);
-        }
-    }
-    for (std::size_t i = 0; i < table.size(); ++i) {
-        const Champ& c = table[i];
-        Grille* g = grille(texte(c.groupe));
-        QWidget* parent = g->disposition->parentWidget();
-        QWidget* w = créer(c, parent);
-        QPushButton* légende = nullptr;
-        if (c.bouton) {
-            légende = nouveau_bouton(parent, c.bouton, c.libellé, c.aide_bouton);
-            resserrer(légende);
-            this->*c.membre_bouton = légende;
-        }
-        if (c.invisible) {
-            w->hide();
-            continue;
-        }
-        int paires_de_la_ligne = 1;
-        for (std::size_t j = i + 1; j < table.size() && table[j].même_ligne; ++j)
-            ++paires_de_la_ligne;
-        poser_champ(*g, c, w, légende, paires_de_la_ligne);
-    }
-}
-
-QWidget* feuille_élève::créer(const Champ& c, QWidget* parent) {
-    QWidget* w = std::visit(
-        [&](auto membre) -> QWidget* {
-            using Type = std::remove_pointer_t<std::remove_reference_t<decltype(this->*membre)>>;
-            Type* créé = nullptr;
-            if constexpr (std::is_same_v<Type, QPlainTextEdit>)
-                créé = zone_de_texte(parent);
-            else if constexpr (std::is_same_v<Type, QCheckBox>)
-                créé = new QCheckBox(texte(c.libellé), parent);
-            else
-                créé = new Type(parent);
-            this->*membre = créé;
-            return créé;
-        },
-        c.membre);
-    w->setObjectName(texte(c.nom));
-    if (auto* e = qobject_cast<QLineEdit*>(w)) {
-        if (c.longueur > 0)
-            limiter_saisie(*e, c.longueur);
-        ajuster_largeur(e, c.longueur);
-    }
-    if (auto* l = qobject_cast<QLabel*>(w)) {
-        l->setFrameShape(QFrame::Panel);
-        l->setFrameShadow(QFrame::Sunken);
-        l->setFixedWidth(l->fontMetrics().horizontalAdvance(QStringLiteral("## 99 a - 12 m - 30 j ##")));
-    }
-    if (c.infobulle)
-        w->setToolTip(texte(c.infobulle));
-    if (c.désactivé)
-        w->setEnabled(false);
-    return w;
-}
-
-// A field goes right of the previous one on its row, or starts a new row of `paires_de_la_ligne`
-// pairs; the last field of a row stretches over the columns that the row leaves free.
-void feuille_élève::poser_champ(Grille& g, const Champ& c, QWidget* w, QPushButton* légende,
-                                int paires_de_la_ligne) {
-    if (!c.même_ligne) {
-        ++g.ligne;
-        g.colonne = 0;
-        g.restantes = paires_de_la_ligne;
-    }
-    --g.restantes;
-    // The last field of a row reaches into the spare column on the right.
-    const int portée = g.restantes == 0 ? 2 + 2 * (g.paires - g.colonne / 2 - 1) : 1;
-    QWidget* étiquette = légende;
-    if (!étiquette && !qobject_cast<QCheckBox*>(w)) {
-        auto* l = new QLabel(texte(c.libellé), w->parentWidget());
-        l->setBuddy(w);
-        étiquette = l;
-    }
-    const bool haut = qobject_cast<QPlainTextEdit*>(w) != nullptr;
-    if (étiquette)
-        g.disposition->addWidget(étiquette, g.ligne, g.colonne, haut ? Qt::AlignTop : Qt::Alignment());
-    g.disposition->addWidget(w, g.ligne, g.colonne + 1, 1, portée);
-    // Only the spare column stretches, so that a label stays beside the field before it.
-    g.disposition->setColumnStretch(2 * g.paires, 1);
-    g.colonne += 2;
-}
-
-// What the table does not place: the family button beside its reference, the photo right of the
-// identity with its button under it.
-void feuille_élève::finir_disposition() {
-    grille(QStringLiteral("Frame12"))->disposition->addWidget(Command4, 0, 3);
+// What the rows do not place: the family button beside its reference, the photo right of the identity
+// with its button under it.
+void feuille_élève::finir_disposition(const FieldBuilder& disposition) {
+    disposition.grid(QStringLiteral("Frame12"))->addWidget(Command4, 0, 3);
     référence_famille->setAlignment(Qt::AlignRight);
-    Grille& identité = *grille(QStringLiteral("Frame3"));
-    const int colonne = 2 * identité.paires;
-    identité.disposition->addWidget(photo, 0, colonne + 1, identité.ligne, 1,
-                                    Qt::AlignTop | Qt::AlignHCenter);
-    identité.disposition->addWidget(Command14, identité.ligne, colonne + 1);
+    Label12->setFixedWidth(
+        Label12->fontMetrics().horizontalAdvance(QStringLiteral("## 99 a - 12 m - 30 j ##")));
+    const QString identité = QStringLiteral("Frame3");
+    QGridLayout* grille = disposition.grid(identité);
+    const int dernière = disposition.nextRow(identité) - 1;
+    grille->addWidget(photo, 0, disposition.columns(identité), dernière, 1, Qt::AlignTop | Qt::AlignHCenter);
+    grille->addWidget(Command14, dernière, disposition.columns(identité));
 }
 
 // The Tab key walks the fields in the order the school has always typed them, then the buttons.

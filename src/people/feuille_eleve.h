@@ -1,16 +1,14 @@
 #pragma once
 
 #include "platform/forms/FeuilleFiche.h"
+#include "platform/forms/FieldRows.h"
 
 #include <array>
 #include <span>
-#include <variant>
 #include <vector>
 
 class QCheckBox;
 class QComboBox;
-class QGridLayout;
-class QGroupBox;
 class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
@@ -26,25 +24,8 @@ public:
     feuille_élève();
     ~feuille_élève() override;
 
-    // One bound field of the screen, as the screen's design declares it.
-    struct Champ {
-        using Membre = std::variant<QLineEdit * feuille_élève::*, QPlainTextEdit * feuille_élève::*,
-                                    QCheckBox * feuille_élève::*, QLabel * feuille_élève::*>;
-        const char* nom;     // object name of the control
-        Membre membre;       // where the screen keeps it; its type is the kind of control
-        const char* colonne; // bound column of élèves
-        const char* groupe;  // Frame that gathers it, "" for the page itself
-        const char* libellé; // caption beside it (a label, or the button named below)
-        const char* bouton;  // caption button's object name, or nullptr for a plain label
-        QPushButton* feuille_élève::*membre_bouton;
-        const char* aide_bouton; // help text of the caption button
-        int longueur;            // entry limit in characters, 0 when not limited
-        const char* infobulle;   // help text, nullptr when none
-        bool désactivé;          // fed by a lookup only: no typing, no focus
-        bool invisible;          // holds a value for the binding only
-        bool même_ligne;         // laid out beside the previous field rather than below it
-    };
-    static std::span<const Champ> champs();
+    // The bound fields of the band and of the tabs, in screen order.
+    static std::span<const FieldRow<feuille_élève>> champs();
 
     // The thirteen orders of Combo1, from index 0.
     static const std::array<const char*, 13> ordres;
@@ -164,44 +145,24 @@ public:
     void cmdAjouter_Click() override;
     void cmdRafraîchir_Click() override;
 
-    // The lookup buttons (feuille_élève_consultations.cpp).
-    void Command5_Click();
-    void Command7_Click();
-    void Command8_Click();
-    void Command9_Click();
-    void Command10_Click();
-    void Command11_Click();
-    void Command12_Click();
+    // The lookup buttons (Command5, 7 to 12) open their pickers from the return table
+    // (reference/retours.h).
 
 private:
-    struct Grille;
-
     void construire();
     void brancher_recherches_et_âge();
     void construire_sources();
-    QWidget* construire_bandeau();
+    QWidget* construire_bandeau(FieldBuilder& disposition);
     QWidget* construire_boutons();
-    void construire_onglets();
-    void construire_identité(QWidget* page);
+    void construire_onglets(FieldBuilder& disposition);
     void construire_contacts(QWidget* page);
-    void construire_résidence(QWidget* page);
-    void construire_santé(QWidget* page);
     void construire_paramétrables(QWidget* page, int premier);
     void construire_documents(QWidget* page);
-    void construire_champs();
-    void finir_disposition();
+    void finir_disposition(const FieldBuilder& disposition);
     void poser_tabulation();
     void lier_colonnes();
     void brancher_handlers();
-    void brancher_consultations();
     void montrer_paramètres();
-
-    QGroupBox* groupe(const QString& nom);
-    Grille* grille(const QString& nom);
-    QWidget* créer(const Champ& c, QWidget* parent);
-    void poser_champ(Grille& g, const Champ& c, QWidget* champ, QPushButton* légende, int paires_de_la_ligne);
-
-    std::vector<Grille> grilles_;
 };
 
 // What the command "Gestion du fichier des &Elèves" does besides the preparing rule of every record

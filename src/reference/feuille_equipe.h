@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/forms/FeuilleFiche.h"
+#include "platform/forms/FieldRows.h"
 
 #include <span>
 
@@ -15,20 +16,8 @@ class feuille_équipe : public FeuilleFiche {
 public:
     feuille_équipe();
 
-    // One bound box of the screen, in keyboard order.
-    struct Champ {
-        const char* nom;                    // object name of the box
-        QLineEdit* feuille_équipe::*membre; // where the screen keeps it
-        const char* colonne;                // bound column of équipe
-        const char* groupe;                 // Frame1 the person, Frame2 the coordinates, Frame3 the class
-        const char* libellé;                // caption beside it, on a label or on the button below
-        const char* bouton;                 // the lookup button that carries the caption, or nullptr
-        QPushButton* feuille_équipe::*membre_bouton;
-        int longueur;          // entry limit in characters
-        const char* infobulle; // help text
-        bool désactivé;        // fed by a lookup only
-    };
-    static std::span<const Champ> champs();
+    // The bound boxes, in keyboard order: Frame1 the person, Frame2 the coordinates, Frame3 the class.
+    static std::span<const FieldRow<feuille_équipe>> champs();
 
     QLineEdit* genre_enseignant = nullptr;
     QLineEdit* nom_enseignant = nullptr;
@@ -52,11 +41,8 @@ public:
     QPushButton* Command4 = nullptr; // "niveau"
     QPushButton* Command3 = nullptr; // "&Imprimer", with no action
 
-    void Command5_Click();
-    void Command2_Click();
-    void Command7_Click();
-    void Command9_Click();
-    void Command4_Click();
+    // The lookup buttons open their pickers from the return table (reference/retours.h).
+
     void bouton_accepter_Click() override;
 
 private:

@@ -5,7 +5,23 @@
 #include "platform/forms/FeuilleFiche.h"
 #include "platform/forms/Focus.h"
 #include "platform/ui/ErrorBoxes.h"
+#include "reference/FeuilleConsultation.h"
+#include "reference/feuille_adresses.h"
+#include "reference/feuille_assertions.h"
+#include "reference/feuille_assurances.h"
+#include "reference/feuille_csp.h"
+#include "reference/feuille_equipe.h"
+#include "reference/feuille_genres.h"
+#include "reference/feuille_hopitaux.h"
+#include "reference/feuille_langues_vivantes.h"
+#include "reference/feuille_medecins.h"
+#include "reference/feuille_nationalites.h"
+#include "reference/feuille_niveaux.h"
+#include "reference/feuille_sexe.h"
+#include "reference/feuille_situations_familiales.h"
+#include "reference/feuille_villes.h"
 #include "store/Module1.h"
+#include "store/ouvrir_table.h"
 
 #include <QLineEdit>
 #include <QPushButton>
@@ -126,6 +142,55 @@ bool rendre(FeuilleFiche& consultation, const Retour& r) {
     return true;
 }
 
+// The class comes from the teaching team, which differs from the grid pickers: an empty team gets a
+// new row to accept from, and its accept button is enabled rather than shown.
+void choisir_une_classe(int16_t origine_appel) {
+    ouvrir_table_équipe();
+    feuille_équipe& équipe = module1().feuilles().get<feuille_équipe>();
+    DataRecordset& rs = équipe.datPrimaryRS->Recordset();
+    if (rs.isEOF() && rs.isBOF())
+        rs.AddNew();
+    équipe.bouton_accepter->setEnabled(true);
+    module1().origine_appel = origine_appel;
+    équipe.Show();
+    équipe.ZOrder();
+}
+
+// How each lookup of the program opens for a caller's button.
+struct Ouverture {
+    const char* consultation;
+    void (*ouvrir)(int16_t origine_appel);
+};
+
+template <class F, void (*ouvrir_table)()> constexpr Ouverture grille(const char* nom) {
+    return {nom, [](int16_t origine) { consulter<F>(ouvrir_table, origine); }};
+}
+
+const Ouverture ouvertures[] = {
+    grille<feuille_adresses, ouvrir_table_adresses>("feuille_adresses"),
+    grille<feuille_assertions, ouvrir_table_assertions>("feuille_assertions"),
+    grille<feuille_assurances, ouvrir_table_assurances>("feuille_assurances"),
+    grille<feuille_csp, ouvrir_table_csp>("feuille_csp"),
+    grille<feuille_genres, ouvrir_table_genres>("feuille_genres"),
+    grille<feuille_hôpitaux, ouvrir_table_hôpitaux>("feuille_hôpitaux"),
+    grille<feuille_langues_vivantes, ouvrir_table_langues_vivantes>("feuille_langues_vivantes"),
+    grille<feuille_médecins, ouvrir_table_médecins>("feuille_médecins"),
+    grille<feuille_nationalités, ouvrir_table_nationalités>("feuille_nationalités"),
+    grille<feuille_niveaux, ouvrir_table_niveaux>("feuille_niveaux"),
+    grille<feuille_sexe, ouvrir_table_sexe>("feuille_sexe"),
+    grille<feuille_situations_familiales, ouvrir_table_situations_familiales>(
+        "feuille_situations_familiales"),
+    grille<feuille_villes, ouvrir_table_villes>("feuille_villes"),
+    {"feuille_équipe", &choisir_une_classe},
+};
+
+const Ouverture* ouverture(const char* consultation) {
+    for (const Ouverture& o : ouvertures)
+        if (qstrcmp(o.consultation, consultation) == 0)
+            return &o;
+    return nullptr;
+}
+
 void mettre_hors_d_usage(FeuilleFiche& consultation) {
     if (consultation.configuration().bouton_accepter == BoutonAccepter::désactivé)
         consultation.bouton_accepter->setEnabled(false);
@@ -134,6 +199,23 @@ void mettre_hors_d_usage(FeuilleFiche& consultation) {
 }
 
 } // namespace
+
+void brancher_consultations(FeuilleFiche& appelant) {
+    for (const Retour& r : table_des_retours()) {
+        const Ouverture* o = ouverture(r.consultation);
+        if (o == nullptr || appelant.objectName() != QString::fromUtf8(r.appelant))
+            continue;
+        for (const char* nom : r.boutons) {
+            auto* bouton = appelant.findChild<QPushButton*>(QString::fromUtf8(nom));
+            if (bouton == nullptr)
+                throw VbError(424);
+            QObject::connect(bouton, &QPushButton::clicked, &appelant,
+                             [ouvrir = o->ouvrir, origine = r.origine_appel] {
+                                 avec_piège(ErrorBoxKind::standard, [&] { ouvrir(origine); });
+                             });
+        }
+    }
+}
 
 void accepter(FeuilleFiche& consultation) {
     avec_piège(ErrorBoxKind::standard, [&consultation] {

@@ -38,6 +38,12 @@ const std::vector<Retour>& table_des_retours();
 // The row of this lookup for this value, or nullptr when the lookup does not know the value.
 const Retour* retour(const QString& consultation, int16_t origine_appel);
 
+// The lookup buttons of a calling screen, from the rows of the table that name it: each button opens
+// its lookup for its row's origine_appel, a failure shown with the standard box. A row whose lookup the
+// program does not have yet leaves its buttons as they are; a button the screen lacks is an error of
+// the table: 424 "Objet requis".
+void brancher_consultations(FeuilleFiche& appelant);
+
 // bouton_accepter_Click of every screen of the protocol. When the table has the pair of this screen
 // and origine_appel, and its calling screen is part of the program: each value is copied in order into
 // the caller's text box (an edit of the caller's current row, loading that screen hidden if it was

@@ -1,16 +1,10 @@
 #include "reports/feuille_documents.h"
 
 #include "platform/forms/DataControl.h"
-#include "platform/forms/LimiteSaisie.h"
 #include "platform/forms/Placement.h"
 
-#include <QCheckBox>
 #include <QGridLayout>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 namespace {
 
@@ -29,96 +23,74 @@ ConfigurationFiche configuration_documents() {
 
 } // namespace
 
+std::span<const FieldRow<feuille_documents>> feuille_documents::champs() {
+    using F = feuille_documents;
+    // clang-format off
+    static const FieldRow<F> table[] = {
+        {.name = "intitulé", .member = &F::intitulé, .column = "intitulé_bouton", .caption = "nom du document",
+         .limit = 30, .tip = "Saisissez le nom du document tel qu'il apparaîtra dans la liste des documents"},
+        {.name = "titre", .member = &F::titre, .column = "titre_document", .caption = "titre", .limit = 50},
+        {.name = "destinataire", .member = &F::destinataire, .column = "destinataire_document",
+         .caption = "destinataire", .limit = 50},
+        {.name = "paragraphe1", .member = &F::paragraphe1, .column = "paragraphe1_document",
+         .caption = "paragraphe 1", .limit = 254},
+        {.name = "paragraphe2", .member = &F::paragraphe2, .column = "paragraphe2_document",
+         .caption = "paragraphe 2", .limit = 254},
+        {.name = "paragraphe3", .member = &F::paragraphe3, .column = "paragraphe3_document",
+         .caption = "paragraphe 3", .limit = 254},
+        {.name = "paragraphe4", .member = &F::paragraphe4, .column = "paragraphe4_document",
+         .caption = "paragraphe 4", .limit = 254},
+        {.name = "paragraphe5", .member = &F::paragraphe5, .column = "paragraphe5_document",
+         .caption = "paragraphe 5", .limit = 254},
+        {.name = "paragraphe6", .member = &F::paragraphe6, .column = "paragraphe6_document",
+         .caption = "paragraphe 6", .limit = 254},
+        {.name = "politesse", .member = &F::politesse, .column = "politesse_document", .caption = "politesse",
+         .limit = 254},
+        {.name = "post_scriptum", .member = &F::post_scriptum, .caption = "post-scriptum", .limit = 254},
+        {.name = "Check1", .member = &F::Check1, .column = "affichage_coordonnées_élève",
+         .caption = "affichage des coordonnées de l'élève",
+         .tip = "Cliquez pour afficher les coordonnées de l'élève (nom, prénom date de nais. et classe) sur "
+                "le document"},
+        {.name = "Check2", .member = &F::Check2, .column = "affichage_coordonnées_responsable_légal",
+         .caption = "affichage des coordonnées du responsable légal",
+         .tip = "Cliquez pour afficher les coordonnées du responsable légal (nom et adresse) sur le document"},
+        {.name = "Check3", .member = &F::Check3, .column = "affichage_coordonnées_directeur",
+         .caption = "affichage des coordonnées du directeur / de la directrice",
+         .tip = "Cliquez pour afficher les coordonnées de l'élève (Monsieur X..., Directeur de l'école ... de "
+                "...) sur le document"},
+        {.name = "Check4", .member = &F::Check4, .column = "affichage_signature_directeur",
+         .caption = "affichage des zones de signature et de cachet sur le document",
+         .tip = "Cliquez pour afficher la zone de signature sur le document"},
+        {.name = "Check5", .member = &F::Check5, .column = "affichage_date", .caption = "affichage de la date",
+         .tip = "Cliquez pour afficher la date sur le document"},
+    };
+    // clang-format on
+    return table;
+}
+
 feuille_documents::feuille_documents() : FeuilleFiche(configuration_documents()) {
-    construireChamps();
-    construireCases();
+    construire();
     resize(en_pixels(10500), en_pixels(9600));
 }
 
-void feuille_documents::construireChamps() {
+// One column of captions and fields, three lines of text a paragraph, the check boxes below them.
+void feuille_documents::construire() {
     auto* grille = new QGridLayout(corps());
     grille->setContentsMargins(0, 0, 0, 0);
-    int ligne = 0;
-    auto placer = [&](const QString& légende, QWidget* champ) {
-        grille->addWidget(new QLabel(légende, corps()), ligne, 0, Qt::AlignTop);
-        grille->addWidget(champ, ligne++, 1);
-    };
-    auto ligne_simple = [&](const char* nom, const QString& colonne, int limite, const QString& légende) {
-        auto* boîte = new QLineEdit(corps());
-        boîte->setObjectName(QString::fromUtf8(nom));
-        limiter_saisie(*boîte, limite);
-        datPrimaryRS->bind(boîte, colonne);
-        placer(légende, boîte);
-        return boîte;
-    };
-    auto paragraphe = [&](int n) {
-        auto* zone = new QPlainTextEdit(corps());
-        zone->setObjectName(QStringLiteral("paragraphe%1").arg(n));
-        zone->setTabChangesFocus(true);
-        zone->setFixedHeight(zone->fontMetrics().height() * 3 + 8);
-        limiter_saisie(*zone, 254);
-        datPrimaryRS->bind(zone, QStringLiteral("paragraphe%1_document").arg(n));
-        placer(QStringLiteral("paragraphe %1").arg(n), zone);
-        return zone;
-    };
-
-    intitulé =
-        ligne_simple("intitulé", QStringLiteral("intitulé_bouton"), 30, QStringLiteral("nom du document"));
-    intitulé->setToolTip(
-        QStringLiteral("Saisissez le nom du document tel qu'il apparaîtra dans la liste des documents"));
-    titre = ligne_simple("titre", QStringLiteral("titre_document"), 50, QStringLiteral("titre"));
-    destinataire = ligne_simple("destinataire", QStringLiteral("destinataire_document"), 50,
-                                QStringLiteral("destinataire"));
-    paragraphe1 = paragraphe(1);
-    paragraphe2 = paragraphe(2);
-    paragraphe3 = paragraphe(3);
-    paragraphe4 = paragraphe(4);
-    paragraphe5 = paragraphe(5);
-    paragraphe6 = paragraphe(6);
-    politesse =
-        ligne_simple("politesse", QStringLiteral("politesse_document"), 254, QStringLiteral("politesse"));
-    post_scriptum =
-        ligne_simple("post_scriptum", QStringLiteral("post_scriptum"), 254, QStringLiteral("post-scriptum"));
-}
-
-void feuille_documents::construireCases() {
-    auto* disposition = static_cast<QGridLayout*>(corps()->layout());
-    int ligne = disposition->rowCount();
-    auto case_à_cocher = [&](const char* nom, const QString& colonne, const QString& légende,
-                             const QString& infobulle) {
-        auto* c = new QCheckBox(légende, corps());
-        c->setObjectName(QString::fromUtf8(nom));
-        c->setToolTip(infobulle);
-        datPrimaryRS->bind(c, colonne);
-        disposition->addWidget(c, ligne++, 1);
-        return c;
-    };
-    Check1 =
-        case_à_cocher("Check1", QStringLiteral("affichage_coordonnées_élève"),
-                      QStringLiteral("affichage des coordonnées de l'élève"),
-                      QStringLiteral("Cliquez pour afficher les coordonnées de l'élève (nom, prénom date de "
-                                     "nais. et classe) sur le document"));
-    Check2 =
-        case_à_cocher("Check2", QStringLiteral("affichage_coordonnées_responsable_légal"),
-                      QStringLiteral("affichage des coordonnées du responsable légal"),
-                      QStringLiteral("Cliquez pour afficher les coordonnées du responsable légal (nom et "
-                                     "adresse) sur le document"));
-    Check3 = case_à_cocher("Check3", QStringLiteral("affichage_coordonnées_directeur"),
-                           QStringLiteral("affichage des coordonnées du directeur / de la directrice"),
-                           QStringLiteral("Cliquez pour afficher les coordonnées de l'élève (Monsieur X..., "
-                                          "Directeur de l'école ... de ...) sur le document"));
-    Check4 = case_à_cocher("Check4", QStringLiteral("affichage_signature_directeur"),
-                           QStringLiteral("affichage des zones de signature et de cachet sur le document"),
-                           QStringLiteral("Cliquez pour afficher la zone de signature sur le document"));
-    Check5 = case_à_cocher("Check5", QStringLiteral("affichage_date"), QStringLiteral("affichage de la date"),
-                           QStringLiteral("Cliquez pour afficher la date sur le document"));
+    FieldBuilder disposition(
+        *datPrimaryRS,
+        {.captionsAtTop = true, .textLines = 3, .fixedTextHeight = true, .textScrollBarShown = false});
+    disposition.addGroup(QString(), grille);
+    disposition.build(*this, champs());
+    disposition.chainTabOrder();
 
     Command2 = new QPushButton(QStringLiteral("V&oir"), corps());
     Command2->setObjectName(QStringLiteral("Command2"));
     Command2->setToolTip(QStringLiteral("Cliquez pour voir le document"));
     Command2->setAutoDefault(false);
     connect(Command2, &QPushButton::clicked, this, [this] { Command2_Click(); });
-    disposition->addWidget(Command2, ligne, 1, Qt::AlignRight);
+    grille->addWidget(Command2, disposition.nextRow(QString()), 1, 1, disposition.columns(QString()) - 1,
+                      Qt::AlignRight);
 }
 
 // The preview of the template with sample values through the report job; inert on this screen.

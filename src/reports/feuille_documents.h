@@ -1,10 +1,7 @@
 #pragma once
 
 #include "platform/forms/FeuilleFiche.h"
-
-class QCheckBox;
-class QLineEdit;
-class QPlainTextEdit;
+#include "platform/forms/FieldRows.h"
 
 // The letter templates: one row of `documents` a template, its free text and the five check boxes
 // that say which blocks surround the letter.
@@ -12,6 +9,9 @@ class feuille_documents : public FeuilleFiche {
     Q_OBJECT
 public:
     feuille_documents();
+
+    // The bound fields, in screen and keyboard order.
+    static std::span<const FieldRow<feuille_documents>> champs();
 
     QLineEdit* intitulé = nullptr;
     QLineEdit* titre = nullptr;
@@ -35,6 +35,5 @@ public:
     void Command2_Click();
 
 private:
-    void construireChamps();
-    void construireCases();
+    void construire();
 };

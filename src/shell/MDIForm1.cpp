@@ -2,6 +2,7 @@
 
 #include "people/feuille_eleve.h"
 #include "platform/forms/EtiquetteElidee.h"
+#include "platform/forms/TouchesAcces.h"
 #include "platform/ui/ErrorBoxes.h"
 #include "platform/ui/Relier.h"
 #include "shell/commandes.h"
@@ -96,30 +97,38 @@ const std::vector<EntréeMenu>& arbre_des_menus() {
 const char* const menus_de_données[] = {"menuenfantsindex0", "menuparamètresindex0", "menuutilitairesindex0",
                                         "menuexploitationindex0"};
 
-// Panels 4 to 6 follow the keyboard's lock keys as the user presses them. A key reaches the system
-// window once, then goes from the focused control up through its parents, each seen by an
-// application filter: only the window's delivery counts, or a press would turn a panel several times.
+// Panels 4 to 6 show the keyboard's lock keys, as the system keeps them from the start where it lets
+// the program read them, off where it does not. A lock key pressed in the program turns its panel: the
+// system is read again where it can be, else the panel turns by itself. A lock turned in another
+// program shows when this one comes back to the front. A key reaches the system window once, then goes
+// from the focused control up through its parents, each seen by an application filter: only the
+// window's delivery counts, or a press would turn a panel several times.
 class SuiviDesTouches : public QObject {
 public:
     SuiviDesTouches(QLabel* maj, QLabel* num, QLabel* inser, QObject* parent)
         : QObject(parent), maj_(maj), num_(num), inser_(inser) {
-        for (QLabel* l : {maj_, num_, inser_})
-            l->setEnabled(false);
+        const VerrousClavier verrous = module1().clavier().verrous().value_or(VerrousClavier{});
+        maj_->setEnabled(verrous.majuscules);
+        num_->setEnabled(verrous.numérique);
+        inser_->setEnabled(verrous.insertion);
     }
 
 protected:
     bool eventFilter(QObject* objet, QEvent* event) override {
-        if (event->type() == QEvent::KeyPress && objet->isWindowType() &&
+        const bool appui = event->type() == QEvent::KeyPress;
+        if (event->type() == QEvent::ApplicationActivate)
+            relire();
+        if ((appui || event->type() == QEvent::KeyRelease) && objet->isWindowType() &&
             !static_cast<QKeyEvent*>(event)->isAutoRepeat()) {
             switch (static_cast<QKeyEvent*>(event)->key()) {
             case Qt::Key_CapsLock:
-                basculer(maj_);
-                break;
             case Qt::Key_NumLock:
-                basculer(num_);
+                if (!relire() && appui)
+                    basculer(static_cast<QKeyEvent*>(event)->key() == Qt::Key_CapsLock ? maj_ : num_);
                 break;
             case Qt::Key_Insert:
-                basculer(inser_);
+                if (appui)
+                    basculer(inser_);
                 break;
             default:
                 break;
@@ -129,6 +138,15 @@ protected:
     }
 
 private:
+    // False where the system cannot tell. The insert mode is left as the program keeps it.
+    bool relire() {
+        const std::optional<VerrousClavier> verrous = module1().clavier().verrous();
+        if (!verrous)
+            return false;
+        maj_->setEnabled(verrous->majuscules);
+        num_->setEnabled(verrous->numérique);
+        return true;
+    }
     static void basculer(QLabel* l) { l->setEnabled(!l->isEnabled()); }
     QLabel *maj_, *num_, *inser_;
 };
@@ -168,6 +186,7 @@ MDIForm1::MDIForm1() : Feuille(QStringLiteral("MDIForm1"), Genre::haut_niveau) {
     disposition->setContentsMargins(0, 0, 0, 0);
     disposition->addWidget(fenêtre);
     construire_menus();
+    new TouchesDAccès(*fenêtre->menuBar()); // a child of the bar
     construire_barre_d_état();
     if (const QScreen* écran = QGuiApplication::primaryScreen())
         setGeometry(écran->availableGeometry());

@@ -9,12 +9,14 @@
 #include "shell/version.h"
 #include "store/Module1.h"
 
+#include <QCloseEvent>
 #include <QDir>
 #include <QFrame>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -123,7 +125,6 @@ void feuille_accueil::Form_Load() {
     lblVersion->setText(
         QStringLiteral("Version %1.%2.%3").arg(version_majeure).arg(version_mineure).arg(version_révision));
     lblProductName->setText(QString::fromUtf8(titre_programme));
-    adjustSize();
     centrer_feuille(*this);
     Show();
     setFocus();
@@ -139,31 +140,49 @@ void feuille_accueil::Timer1_Timer() {
     }
 }
 
-bool feuille_accueil::encore_chargée() const {
-    return feuilles().siChargée<feuille_accueil>() == this;
+// The way forward is taken once. It may wait on the access code box, and an assistive tool can reach
+// the splash behind it: a second click or key then does nothing.
+bool feuille_accueil::partir() {
+    if (parti_ || feuilles().siChargée<feuille_accueil>() != this)
+        return false;
+    parti_ = true;
+    return true;
 }
 
 // By mouse, the splash goes first and the main window follows.
 void feuille_accueil::Click() {
-    if (!encore_chargée())
+    if (!partir())
         return;
     Unload();
     feuilles().get<MDIForm1>().Show();
 }
 
-// By keyboard, the main window comes first and the splash goes after.
+// By keyboard, the main window comes first and the splash goes after, if the wait for the code left
+// it there.
 void feuille_accueil::Form_KeyPress() {
-    if (!encore_chargée())
+    if (!partir())
         return;
+    const QPointer<feuille_accueil> splash(this);
     feuilles().get<MDIForm1>().Show();
-    Unload();
+    if (splash && feuilles().contient(splash))
+        splash->Unload();
 }
 
+// The splash stays on view, blinking, until its unload is over: the reading of the options may bring
+// up the main window and, behind it, the access code box. Its timer goes with it.
 void feuille_accueil::Form_Unload(int&) {
-    Timer1->stop();
     // The separator is added without a test: started from a root, the path ends with two of them.
     module1().chemin_application = File1->Path() + QDir::separator();
     lire_options();
+}
+
+// Closing the splash from the window manager (Alt+F4, the task bar) goes on as a click does. A plain
+// unload would leave a running program with no window to see or to quit. Ending there would be a
+// second way out, one that skips the quit question: closing a splash is putting it aside, and the
+// main window that follows holds the one way out, by which every run ends.
+void feuille_accueil::closeEvent(QCloseEvent* event) {
+    event->accept();
+    Click();
 }
 
 void feuille_accueil::keyPressEvent(QKeyEvent* event) {

@@ -34,10 +34,13 @@ public:
     void Click();
 
 protected:
+    void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* objet, QEvent* event) override;
 
 private:
     void construire();
-    bool encore_chargée() const;
+    bool partir();
+
+    bool parti_ = false;
 };

@@ -57,8 +57,6 @@ feuille_options::feuille_options() : Feuille(QStringLiteral("feuille_options")) 
 }
 
 void feuille_options::Form_Load() {
-    adjustSize();
-    conteneur().adjustSize();
     centrer_feuille(*this);
 }
 

@@ -10,6 +10,7 @@ void Module1::réinitialiser() {
     origine_appel = 0;
     setInteraction(nullptr);
     horloge().libérer();
+    clavier().libérer();
 }
 
 Module1& module1() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/forms/Clavier.h"
 #include "platform/forms/Feuilles.h"
 #include "platform/forms/Horloge.h"
 #include "platform/ui/Interaction.h"
@@ -18,15 +19,16 @@ public:
     QString chemin_image_choisie; // path of the last picture picked
     int16_t origine_appel = 0;    // which caller a lookup screen was opened for
 
-    // Shortcuts to the platform's services, which Module1 does not own: interaction(), horloge() and
-    // feuilles() reach the same ones.
+    // Shortcuts to the platform's services, which Module1 does not own: interaction(), horloge(),
+    // clavier() and feuilles() reach the same ones.
     Interaction& interaction() { return ::interaction(); }
     void setInteraction(std::shared_ptr<Interaction> service) { ::setInteraction(std::move(service)); }
     Horloge& horloge() { return ::horloge(); }
+    Clavier& clavier() { return ::clavier(); }
     Feuilles& feuilles() { return ::feuilles(); }
 
     // The whole program back to its start state: empty strings, 0, every screen destroyed, the real
-    // dialogs and the system clock.
+    // dialogs, the system clock and keyboard.
     void réinitialiser();
 };
 

@@ -131,8 +131,6 @@ feuille_choix_base::feuille_choix_base() : Feuille(QStringLiteral("feuille_choix
 }
 
 void feuille_choix_base::Form_Load() {
-    adjustSize();
-    conteneur().adjustSize();
     centrer_feuille(*this);
 }
 

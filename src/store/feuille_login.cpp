@@ -143,7 +143,6 @@ feuille_login::feuille_login() : Feuille(QStringLiteral("feuille_login"), Genre:
 }
 
 void feuille_login::Form_Load() {
-    adjustSize();
     centrer_feuille(*this);
 }
 
@@ -153,23 +152,29 @@ void feuille_login::Timer1_Timer() {
     Image2->setHidden(visibles);
 }
 
+// The chooser that asked for the code may have gone while the box waited: the code then goes nowhere,
+// rather than into a chooser loaded anew that asked for nothing.
 void feuille_login::cmdMettreàjour_Click() {
     avec_piège(ErrorBoxKind::standard, [this] {
-        feuille_choix_base& choix = feuilles().get<feuille_choix_base>();
-        choix.accès_tentavive->setText(accès_tentavive->text());
+        feuille_choix_base* choix = feuilles().siChargée<feuille_choix_base>();
+        if (choix)
+            choix->accès_tentavive->setText(accès_tentavive->text());
         interaction().setMousePointer(vbDefault);
         Unload();
+        if (!choix)
+            return;
         // A chooser that has never been on view (an opening at start-up) cannot take the focus.
-        if (!choix.conteneur().isVisible())
+        if (!choix->conteneur().isVisible())
             throw VbError(erreur_appel_incorrect);
-        choix.ZOrder();
-        choix.setFocus();
+        choix->ZOrder();
+        choix->setFocus();
     });
 }
 
 void feuille_login::cmdFermer_Click() {
     avec_piège(ErrorBoxKind::standard, [this] {
-        feuilles().get<feuille_choix_base>().accès_tentavive->setText(QString());
+        if (feuille_choix_base* choix = feuilles().siChargée<feuille_choix_base>())
+            choix->accès_tentavive->setText(QString());
         interaction().setMousePointer(vbDefault);
         Unload();
     });

@@ -12,6 +12,7 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <stdexcept>
 
 namespace {
@@ -25,14 +26,20 @@ FeuillePrincipale& feuille_principale() {
 }
 
 // The code typed in the box must equal the file's code exactly; a cancelled box leaves it empty.
-bool code_accepté(feuille_choix_base& choix) {
-    if (choix.accès_actuel->text().isEmpty())
+// The chooser may go while the box waits (an assistive tool reaches it behind the box): the opening
+// then has no file to open nor code to compare, and stops there.
+bool code_accepté(const QPointer<feuille_choix_base>& choix) {
+    if (choix->accès_actuel->text().isEmpty())
         return true;
-    choix.accès_tentavive->setText(QString());
+    choix->accès_tentavive->setText(QString());
     interaction().showModal(feuilles().get<feuille_login>());
-    if (choix.accès_tentavive->text() == choix.accès_actuel->text())
+    if (!choix || !feuilles().contient(choix)) {
+        interaction().setMousePointer(vbDefault);
+        return false;
+    }
+    if (choix->accès_tentavive->text() == choix->accès_actuel->text())
         return true;
-    choix.accès_tentavive->setText(QString());
+    choix->accès_tentavive->setText(QString());
     interaction().MsgBox(QStringLiteral("Erreur de code d'accès... Accès non-autorisé!"), vbExclamation);
     interaction().setMousePointer(vbDefault);
     return false;
@@ -42,8 +49,9 @@ bool code_accepté(feuille_choix_base& choix) {
 
 void ouvrir_base_choisie() {
     avec_piège(ErrorBoxKind::données, [] {
-        feuille_choix_base& choix = feuilles().get<feuille_choix_base>();
-        if (choix.Label4->text().isEmpty()) {
+        // Guarded: the chooser may go while the access code box waits.
+        const QPointer<feuille_choix_base> choix = &feuilles().get<feuille_choix_base>();
+        if (choix->Label4->text().isEmpty()) {
             interaction().MsgBox(
                 QStringLiteral(
                     "Vous devez sélectionner la base de données sur laquelle vous souhaitez travailler..."),
@@ -62,7 +70,7 @@ void ouvrir_base_choisie() {
         interaction().setMousePointer(vbHourglass);
         FeuillePrincipale& mdi = feuille_principale();
         mdi.activer_menus();
-        choix.Unload();
+        choix->Unload();
         interaction().setMousePointer(vbDefault);
         mdi.setPanel1(QStringLiteral("Base de données en cours : ") + module1().base_en_cours);
         patientez.Unload();

@@ -68,8 +68,8 @@ struct Appelant {
 
 template <class F> QString colonne_de(const QString& champ) {
     for (const auto& c : F::champs())
-        if (champ == u(c.nom))
-            return u(c.colonne);
+        if (champ == u(c.name))
+            return u(c.column ? c.column : c.name);
     return {};
 }
 

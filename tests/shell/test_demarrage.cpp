@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QMdiArea>
 #include <QTimer>
+#include <QWindow>
 
 namespace {
 
@@ -106,6 +107,39 @@ TEST_F(DémarrageDuProgramme, LeSplashAttendQuUnClicSurLeFondNuOuUneToucheSansCa
     EXPECT_NE(feuilles().siChargée<feuille_accueil>(), nullptr);
     EXPECT_EQ(mdi(), nullptr);
     EXPECT_FALSE(QFile::exists(folder.file("options.ini")));
+}
+
+TEST_F(DémarrageDuProgramme, FermerLeSplashParLeGestionnaireDeFenêtresFaitCommeUnClic) {
+    ASSERT_TRUE(accueil().windowHandle()->close());
+    processDeletions();
+    EXPECT_EQ(feuilles().siChargée<feuille_accueil>(), nullptr);
+    EXPECT_TRUE(mdi() && mdi()->isVisible());
+}
+
+TEST_F(DémarrageDuProgramme, LeMessageClignoteEncoreDerrièreLaBoîteDuCode) {
+    préparer_options("0\r\n0\r\n1\r\n0\r\n" + ligne_de_base(créer_base_de_test(folder.file("a.mdb"), "X")));
+    bool clignote = false;
+    ui().expectModal([&](Feuille& login) {
+        const feuille_accueil* splash = feuilles().siChargée<feuille_accueil>();
+        clignote = splash && splash->isVisible() && splash->Timer1->isActive();
+        login.Unload();
+    });
+    ui().expectMsgBox(vbOK); // the code refused
+    démarrer_par_clic();
+    EXPECT_TRUE(clignote);
+}
+
+// An assistive tool clicks the splash while the code box, brought up by a key, waits.
+TEST_F(DémarrageDuProgramme, UnClicSurLeSplashPendantLaBoîteDuCodeNeLeDéchargePasDeuxFois) {
+    préparer_options("0\r\n0\r\n1\r\n0\r\n" + ligne_de_base(créer_base_de_test(folder.file("a.mdb"), "X")));
+    ui().expectModal([&](Feuille& login) {
+        QTest::mouseClick(accueil().Image1, Qt::LeftButton);
+        processDeletions();
+        login.Unload();
+    });
+    ui().expectMsgBox(vbOK); // the code refused
+    démarrer_par_touche();
+    EXPECT_TRUE(feuilles().siChargée<feuille_accueil>() == nullptr && mdi()->isVisible());
 }
 
 class ClicSurUnContrôle : public Démarrage, public ::testing::WithParamInterface<const char*> {};

@@ -1,12 +1,16 @@
 #include "shell/EtatDemarrage.h"
 
+#include "platform/forms/ListesFichiers.h"
 #include "shell/commandes.h"
+#include "support/PiloteEcran.h"
 
+#include <QApplication>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QStatusBar>
 #include <QTest>
 #include <QWindow>
@@ -120,6 +124,19 @@ TEST_F(FenêtrePrincipale, SixPanneauxDontSeulLePremierEstÉcritParLeProgramme) 
     EXPECT_EQ(fenêtre.StatusBar1->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly).size(), 6);
 }
 
+// As the system keeps them at start, and again when the program comes back to the front.
+TEST_F(FenêtrePrincipale, LesPanneauxDesVerrousSuiventLeClavierDuSystème) {
+    module1().clavier().fixer({.majuscules = true, .numérique = true, .insertion = true});
+    MDIForm1& fenêtre = démarrer();
+    for (int i : {4, 5, 6})
+        EXPECT_TRUE(fenêtre.panneau(i)->isEnabled()) << i;
+    module1().clavier().fixer({.majuscules = false, .numérique = true});
+    QEvent retour(QEvent::ApplicationActivate);
+    QCoreApplication::sendEvent(qApp, &retour);
+    EXPECT_FALSE(fenêtre.panneau(4)->isEnabled());
+    EXPECT_TRUE(fenêtre.panneau(5)->isEnabled());
+}
+
 // A lock key pressed while the focus is deep inside a screen is one press: its panel turns once.
 TEST_F(FenêtrePrincipale, UneToucheDeVerrouillageBasculeSonPanneauUneFoisQuelQueSoitLeFocus) {
     MDIForm1& fenêtre = démarrer();
@@ -137,6 +154,23 @@ TEST_F(FenêtrePrincipale, UneToucheDeVerrouillageBasculeSonPanneauUneFoisQuelQu
         QTest::keyClick(fenêtre_système, touche);
         EXPECT_EQ(fenêtre.panneau(numéro)->isEnabled(), avant) << numéro;
     }
+}
+
+// "&Ouvrir" of the chooser and "&Options" of the bar share their letter; the chooser has no F.
+TEST_F(FenêtrePrincipale, LesTouchesDAccèsDeLÉcranPassentAvantLesMenusQuiRestentÀPortée) {
+    démarrer();
+    montrer_active(*mdi());
+    choix()->File1->setFocus();
+    QTest::keyClick(choix()->File1, Qt::Key_O, Qt::AltModifier);
+    EXPECT_TRUE(choix()->cmdMettreàjour->isDown());
+    const QMenu* fichier = mdi()->menu("menufichierindex0")->menu();
+    for (const auto touche : {QKeyCombination(Qt::AltModifier, Qt::Key_F), QKeyCombination(Qt::Key_F10)}) {
+        QTest::keyClick(choix()->File1, touche.key(), touche.keyboardModifiers());
+        EXPECT_EQ(QApplication::activePopupWidget(), fichier);
+        if (QApplication::activePopupWidget())
+            QApplication::activePopupWidget()->close();
+    }
+    EXPECT_FALSE(mdi()->menu("menuenfantsindex0")->isEnabled()); // the bar went and came back untouched
 }
 
 // Qt's own words speak French too: the menu of a screen's window, the context menu of a text box.

@@ -5,6 +5,7 @@
 #include "platform/forms/DataControl.h"
 #include "platform/forms/EtiquetteElidee.h"
 #include "platform/forms/ListesFichiers.h"
+#include "platform/forms/Placement.h"
 #include "reference/feuille_sexe.h"
 #include "shell/feuille_options.h"
 #include "shell/feuille_patientez.h"
@@ -268,6 +269,21 @@ TEST_F(ChoixDeLaBase, ÀLOuvertureAuDémarrageLeBonCodeNeTrouvePasDÉcranPourLeF
     EXPECT_EQ(mdi()->Panel1(), "Base de données en cours : " + base);
 }
 
+// An assistive tool reaches the chooser behind the modal box and cancels it; the right code follows.
+TEST_F(ChoixDeLaBase, LeChoixDéchargéPendantLaBoîteDuCodeArrêteLOuverture) {
+    créer_base_de_test(folder.file("ecole.mdb"), QStringLiteral("Secret"));
+    démarrer_sur_le_choix().File1->cliquer("ecole.mdb");
+    ui().expectModal([this](Feuille& login) {
+        choix()->cmdFermer->click();
+        processDeletions();
+        QTest::keyClicks(static_cast<feuille_login&>(login).accès_tentavive, "Secret");
+        static_cast<feuille_login&>(login).cmdMettreàjour->click();
+    });
+    ouvrir_base_choisie();
+    EXPECT_EQ(choix(), nullptr);
+    EXPECT_TRUE(menus_de_données_inactifs());
+}
+
 TEST_F(ChoixDeLaBase, LaBoîteDuCodeClignoteEtMasqueLaSaisie) {
     feuille_login& login = feuilles().get<feuille_login>();
     EXPECT_EQ(login.accès_tentavive->echoMode(), QLineEdit::Password);
@@ -293,6 +309,8 @@ TEST_F(ChoixDeLaBase, LOptionDesÉlèvesMontreLÉcranDesÉlèvesSurLaBaseOuverte
     ASSERT_NE(élève, nullptr);
     EXPECT_TRUE(élève->conteneur().isVisible());
     EXPECT_EQ(mdi()->zone->activeSubWindow(), &élève->conteneur());
+    // Placed by the size it is shown at, though the main window was still hidden when it loaded.
+    EXPECT_EQ(élève->conteneur().pos(), position_sur_l_écran(élève->conteneur().size(), position_centrée));
     EXPECT_EQ(élève->datPrimaryRS->DatabaseName(), base);
     EXPECT_TRUE(élève->datPrimaryRS->isOpen());
     EXPECT_EQ(élève->Data1->DatabaseName(), "");

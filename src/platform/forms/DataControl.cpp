@@ -16,6 +16,7 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QPolygonF>
+#include <QTextDocument>
 #include <QToolButton>
 
 namespace {
@@ -56,41 +57,78 @@ QIcon navigation_icon(Qt::ArrowType direction, bool toTheEnd, const QColor& ink)
 
 } // namespace
 
-// One control bound to one column. A label has no change signal: it counts as changed when its text
-// differs from what the row put there.
+// One control bound to one column, its kind and its column's place in the row set found once, so that a
+// move reads each value by position and leaves alone a control that already shows it. A label has no
+// change signal: it counts as changed when its text differs from what the row put there.
 struct DataControl::Binding {
+    using Kind = BoundKind;
+
+    Kind kind;
     QPointer<QWidget> control;
     QString column;
+    int index = -1; // the column in the open row set; -1 while none is open or it has no such column
     QString shownLabelText;
     // What the control showed of its row. Only a control whose value has moved from it is written back,
     // so a value that a box could not show whole (longer than its entry limit) is never cut in the file.
     QVariant shownValue;
 
+    QLineEdit* lineEdit() const { return static_cast<QLineEdit*>(control.data()); }
+    QPlainTextEdit* plainText() const { return static_cast<QPlainTextEdit*>(control.data()); }
+    QCheckBox* checkBox() const { return static_cast<QCheckBox*>(control.data()); }
+    QLabel* label() const { return static_cast<QLabel*>(control.data()); }
+
     QVariant value() const {
-        if (auto* box = qobject_cast<QLineEdit*>(control))
-            return textValue(box->text());
-        if (auto* box = qobject_cast<QPlainTextEdit*>(control))
-            return textValue(box->toPlainText());
-        if (auto* box = qobject_cast<QCheckBox*>(control))
-            return box->isChecked();
-        if (auto* label = qobject_cast<QLabel*>(control))
-            return textValue(label->text());
+        if (!control)
+            return {};
+        switch (kind) {
+        case Kind::LineEdit:
+            return textValue(lineEdit()->text());
+        case Kind::PlainText:
+            return textValue(plainText()->toPlainText());
+        case Kind::CheckBox:
+            return checkBox()->isChecked();
+        case Kind::Label:
+            return textValue(label()->text());
+        }
         return {};
     }
 
     // An empty box stores no value, as a column never filled.
     static QVariant textValue(const QString& text) { return text.isEmpty() ? QVariant() : QVariant(text); }
 
+    // Sets the control only when what it shows differs from the row, or when it holds an undo history:
+    // the user typed into it since it was set (perhaps back to the same text), and a new row must not
+    // let Ctrl+Z bring that edit back.
     void show(const QVariant& value) {
-        if (auto* box = qobject_cast<QLineEdit*>(control))
-            box->setText(value.toString());
-        else if (auto* box = qobject_cast<QPlainTextEdit*>(control))
-            box->setPlainText(value.toString());
-        else if (auto* box = qobject_cast<QCheckBox*>(control))
-            box->setChecked(value.toBool());
-        else if (auto* label = qobject_cast<QLabel*>(control)) {
-            label->setText(value.toString());
-            shownLabelText = label->text();
+        if (!control)
+            return;
+        switch (kind) {
+        case Kind::LineEdit: {
+            QLineEdit* box = lineEdit();
+            const QString text = value.toString();
+            if (box->isUndoAvailable() || box->isRedoAvailable() || box->text() != text)
+                box->setText(text);
+            break;
+        }
+        case Kind::PlainText: {
+            QPlainTextEdit* box = plainText();
+            const QString text = value.toString();
+            const QTextDocument* document = box->document();
+            if (document->isUndoAvailable() || document->isRedoAvailable() || box->toPlainText() != text)
+                box->setPlainText(text);
+            break;
+        }
+        case Kind::CheckBox:
+            if (checkBox()->isChecked() != value.toBool())
+                checkBox()->setChecked(value.toBool());
+            break;
+        case Kind::Label: {
+            const QString text = value.toString();
+            if (label()->text() != text)
+                label()->setText(text);
+            shownLabelText = label()->text();
+            break;
+        }
         }
         shownValue = this->value();
     }
@@ -100,15 +138,12 @@ struct DataControl::Binding {
     bool writable(bool newRow) const {
         if (!control)
             return false;
-        if (qobject_cast<QLabel*>(control))
+        if (kind == Kind::Label)
             return labelChanged();
         return newRow || value() != shownValue;
     }
 
-    bool labelChanged() const {
-        auto* label = qobject_cast<QLabel*>(control);
-        return label && label->text() != shownLabelText;
-    }
+    bool labelChanged() const { return kind == Kind::Label && control && label()->text() != shownLabelText; }
 };
 
 DataControl::DataControl(QWidget* parent) : QWidget(parent) {
@@ -170,6 +205,7 @@ void DataControl::Refresh() {
     try {
         database_ = Database::open(databaseName_);
         recordset_ = database_->OpenRecordset(recordSource_);
+        findColumns();
     } catch (...) {
         // No row set, no row: the bound controls must not go on showing the file read before.
         closeDatabase();
@@ -206,6 +242,7 @@ bool DataControl::unload() {
 
 void DataControl::closeDatabase() {
     recordset_.reset();
+    findColumns();
     if (database_)
         database_->Close();
     database_.reset();
@@ -250,8 +287,8 @@ void DataControl::writeEdits() {
         if (r.editMode() == EditMode::None)
             r.Edit();
         for (const auto& binding : bindings_)
-            if (binding->writable(added) && r.fieldIndex(binding->column) >= 0)
-                r.setField(binding->column, binding->value());
+            if (binding->index >= 0 && binding->writable(added))
+                r.setField(binding->index, binding->value());
         for (auto it = pending_.cbegin(); it != pending_.cend(); ++it)
             r.setField(it.key(), it.value());
         r.Update();
@@ -264,8 +301,8 @@ void DataControl::writeEdits() {
     changed_ = false;
     pending_.clear();
     for (const auto& binding : bindings_) {
-        if (auto* label = qobject_cast<QLabel*>(binding->control))
-            binding->shownLabelText = label->text();
+        if (binding->kind == Binding::Kind::Label && binding->control)
+            binding->shownLabelText = binding->label()->text();
         binding->shownValue = binding->value();
     }
     if (added)
@@ -285,13 +322,15 @@ void DataControl::discardEdits() {
 void DataControl::showCurrentRow() {
     refusedByAnotherUser_ = false;
     filling_ = true;
+    bool onRow = static_cast<bool>(recordset_);
     for (const auto& binding : bindings_) {
         QVariant value;
-        if (recordset_ && recordset_->fieldIndex(binding->column) >= 0) {
+        if (onRow && binding->index >= 0) {
             try {
-                value = recordset_->field(binding->column);
+                value = recordset_->field(binding->index);
             } catch (const VbError&) {
                 // No current row (an empty set, EOF, a deleted row): the controls show nothing.
+                onRow = false;
             }
         }
         binding->show(value);
@@ -312,30 +351,37 @@ void DataControl::markChanged() {
         changed_ = true;
 }
 
-void DataControl::addBinding(QWidget* control, const QString& column) {
+void DataControl::addBinding(QWidget* control, BoundKind kind, const QString& column) {
     auto binding = std::make_unique<Binding>();
+    binding->kind = kind;
     binding->control = control;
     binding->column = column;
+    binding->index = recordset_ ? recordset_->fieldIndex(column) : -1;
     bindings_.push_back(std::move(binding));
 }
 
+void DataControl::findColumns() {
+    for (const auto& binding : bindings_)
+        binding->index = recordset_ ? recordset_->fieldIndex(binding->column) : -1;
+}
+
 void DataControl::bind(QLineEdit* box, const QString& column) {
-    addBinding(box, column);
+    addBinding(box, BoundKind::LineEdit, column);
     connect(box, &QLineEdit::textChanged, this, &DataControl::markChanged);
 }
 
 void DataControl::bind(QPlainTextEdit* box, const QString& column) {
-    addBinding(box, column);
+    addBinding(box, BoundKind::PlainText, column);
     connect(box, &QPlainTextEdit::textChanged, this, &DataControl::markChanged);
 }
 
 void DataControl::bind(QCheckBox* box, const QString& column) {
-    addBinding(box, column);
+    addBinding(box, BoundKind::CheckBox, column);
     connect(box, &QCheckBox::toggled, this, &DataControl::markChanged);
 }
 
 void DataControl::bind(QLabel* label, const QString& column) {
-    addBinding(label, column);
+    addBinding(label, BoundKind::Label, column);
 }
 
 bool DataControl::isAddingNew() const {

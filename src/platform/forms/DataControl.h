@@ -145,6 +145,7 @@ signals:
 
 private:
     friend class DataRecordset;
+    enum class BoundKind { LineEdit, PlainText, CheckBox, Label };
     struct Binding;
 
     ::Recordset& rs() const;
@@ -162,7 +163,9 @@ private:
     void showCurrentRow();
     void firePositionChange();
     void markChanged();
-    void addBinding(QWidget* control, const QString& column);
+    void addBinding(QWidget* control, BoundKind kind, const QString& column);
+    // Finds each bound column in the row set just opened, or forgets it when the set is closed.
+    void findColumns();
 
     QString databaseName_;
     QString recordSource_;

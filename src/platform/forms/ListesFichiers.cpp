@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QStyle>
+#include <QStyledItemDelegate>
 #include <algorithm>
 
 namespace {
@@ -16,6 +17,30 @@ QIcon icône(QStyle::StandardPixmap quelle) {
 QString chemin_propre(const QString& chemin) {
     return QDir::cleanPath(QFileInfo(chemin).absoluteFilePath());
 }
+
+constexpr int rôle_niveau = Qt::UserRole + 1;
+
+// A folder stands a step to the right of its parent, picture and name together: an indent made of
+// spaces in the name would leave every picture at the left edge, away from its name.
+class RetraitParNiveau : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* peintre, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        QStyleOptionViewItem décalée(option);
+        décalée.rect.setLeft(décalée.rect.left() + retrait(option, index));
+        QStyledItemDelegate::paint(peintre, décalée, index);
+    }
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(retrait(option, index), 0);
+    }
+
+private:
+    static int retrait(const QStyleOptionViewItem& option, const QModelIndex& index) {
+        return index.data(rôle_niveau).toInt() * (option.decorationSize.width() / 2 + 4);
+    }
+};
 
 } // namespace
 
@@ -57,6 +82,7 @@ void DriveListBox::setDrive(const QString& lecteur) {
 }
 
 DirListBox::DirListBox(QWidget* parent) : QListWidget(parent), chemin_(chemin_propre(QDir::currentPath())) {
+    setItemDelegate(new RetraitParNiveau(this));
     remplir();
     connect(this, &QListWidget::itemActivated, this, &DirListBox::entrer);
 }
@@ -90,18 +116,17 @@ void DirListBox::remplir() {
     for (const QString& dossier : chaîne) {
         const QString nom =
             QDir(dossier).isRoot() ? QDir::toNativeSeparators(dossier) : QDir(dossier).dirName();
-        auto* entrée =
-            new QListWidgetItem(icône(QStyle::SP_DirOpenIcon), QString(niveau * 2, ' ') + nom, this);
+        auto* entrée = new QListWidgetItem(icône(QStyle::SP_DirOpenIcon), nom, this);
         entrée->setData(Qt::UserRole, dossier);
-        ++niveau;
+        entrée->setData(rôle_niveau, niveau++);
     }
     setCurrentRow(count() - 1);
     const QFileInfoList sous = QDir(chemin_).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot,
                                                            QDir::Name | QDir::IgnoreCase | QDir::LocaleAware);
     for (const QFileInfo& dossier : sous) {
-        auto* entrée = new QListWidgetItem(icône(QStyle::SP_DirIcon),
-                                           QString(niveau * 2, ' ') + dossier.fileName(), this);
+        auto* entrée = new QListWidgetItem(icône(QStyle::SP_DirIcon), dossier.fileName(), this);
         entrée->setData(Qt::UserRole, dossier.absoluteFilePath());
+        entrée->setData(rôle_niveau, niveau);
     }
 }
 

@@ -28,16 +28,29 @@ QSizeF taille_écran_twips() {
 
 namespace {
 
+// A screen is measured at the size it will be shown at. A window never given a size takes the one
+// its layout asks for when it is first shown (a child screen loaded while the main window is still
+// hidden is such a one); measured before that, it is a default of a few pixels and lands far from
+// where the rule puts it. So it takes that size now, as showing it would.
+void mettre_en_page(QWidget& fenêtre) {
+    if (!fenêtre.testAttribute(Qt::WA_Resized))
+        fenêtre.adjustSize();
+}
+
 void placer(Feuille& feuille, PositionTwips (*règle)(double, double, double, double)) {
     QWidget& fenêtre = feuille.conteneur();
-    const QSizeF écran = taille_écran_twips();
-    const QSize propre = fenêtre.frameGeometry().size();
-    const PositionTwips p =
-        règle(écran.width(), écran.height(), en_twips(propre.width()), en_twips(propre.height()));
-    fenêtre.move(en_pixels(p.left), en_pixels(p.top));
+    mettre_en_page(fenêtre);
+    fenêtre.move(position_sur_l_écran(fenêtre.frameGeometry().size(), règle));
 }
 
 } // namespace
+
+QPoint position_sur_l_écran(QSize taille, PositionTwips (*règle)(double, double, double, double)) {
+    const QSizeF écran = taille_écran_twips();
+    const PositionTwips p =
+        règle(écran.width(), écran.height(), en_twips(taille.width()), en_twips(taille.height()));
+    return {en_pixels(p.left), en_pixels(p.top)};
+}
 
 void centrer_feuille(Feuille& feuille) {
     avec_piège(ErrorBoxKind::données, [&] { placer(feuille, position_centrée); });

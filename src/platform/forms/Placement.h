@@ -29,6 +29,9 @@ PositionTwips position_centrée_haute(double largeur_écran, double hauteur_écr
 // The whole display (not its free area, not the main window), in twips.
 QSizeF taille_écran_twips();
 
+// Where a rule puts a window of that size (in pixels) against the whole display, in pixels.
+QPoint position_sur_l_écran(QSize taille, PositionTwips (*règle)(double, double, double, double));
+
 // Place a screen against the whole display: 500 twips above centre; or, for the family screen,
 // 1500 twips above and 1000 to the left of centre.
 void centrer_feuille(Feuille& feuille);

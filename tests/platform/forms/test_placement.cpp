@@ -10,6 +10,7 @@
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTimer>
+#include <QVBoxLayout>
 #include <gtest/gtest.h>
 
 // Centred: 500 twips above the middle; high: 1500 above and 1000 left of it. Halves stay, and a
@@ -92,6 +93,30 @@ TEST_F(PlacingAScreen, AChildScreenIsPlacedInTheAreaButMeasuredAgainstTheWholeDi
                                              en_twips(own.width()), en_twips(own.height()));
     EXPECT_EQ(f.conteneur().pos(), QPoint(en_pixels(p.left), en_pixels(p.top)));
     EXPECT_GT(f.conteneur().x() + own.width(), area.width()); // not clipped to the area
+    module1().feuilles().toutDétruire();
+}
+
+namespace {
+
+// A screen sized by its layout that places itself as it loads, as every screen does; at start-up the
+// main window's area is still hidden then.
+class feuille_mise_en_page : public Feuille {
+public:
+    feuille_mise_en_page() : Feuille(QStringLiteral("feuille_mise_en_page")) {
+        (new QVBoxLayout(this))->addWidget(new QLabel(QString(80, u'x'), this));
+    }
+    void Form_Load() override { centrer_feuille(*this); }
+};
+
+} // namespace
+
+TEST_F(PlacingAScreen, AScreenLoadedBeforeTheAreaIsShownLandsByTheSizeItIsShownAt) {
+    QMdiArea area;
+    module1().feuilles().setMdiArea(&area);
+    auto& f = module1().feuilles().get<feuille_mise_en_page>();
+    area.show();
+    f.Show();
+    EXPECT_EQ(f.conteneur().pos(), position_sur_l_écran(f.conteneur().size(), position_centrée));
     module1().feuilles().toutDétruire();
 }
 
