@@ -318,14 +318,6 @@ TEST_F(OrdresEleves, AnApostropheInTheAnswerIsReportedAtTheTopAndTheProgramGoesO
     EXPECT_EQ(ui().boxes().size(), 1u);
 }
 
-TEST_F(OrdresEleves, TheJumpsTrapNothingAndLeaveTheFailureToTheirCaller) {
-    feuille_élève& f = ouvrir();
-    ui().expectInputBox(u("d'arc")).expectInputBox(u("00'1"));
-    EXPECT_THROW(f.nom_enfant_DblClick(), VbError);
-    EXPECT_THROW(f.matricule_DblClick(), VbError);
-    EXPECT_TRUE(ui().boxes().empty());
-}
-
 TEST_F(OrdresEleves, ASearchOnAnEmptySetIsReportedAtTheTop) {
     feuille_élève& f = ouvrir();
     // A query with no pupil, as a family without children leaves it.
