@@ -247,19 +247,6 @@ TEST_F(FicheEleveSurBase, DeletingTheOnlyPupilThenAddingReportsTheMissingRowEach
     EXPECT_TRUE(matricules().isEmpty());
 }
 
-TEST_F(FicheEleveSurBase, SaveKeepsTheSavedPupilCurrentWhereverTheOrderPutsIt) {
-    ajouter_élève(base, u("000001"), u("BERNARD"));
-    ajouter_élève(base, u("000002"), u("MOREAU"));
-    feuille_élève& f = ouvrir();
-    ui().expectMsgBox(vbNo);
-    cliquer_ajouter(f);
-    f.nom_enfant->setText(u("DUBOIS"));
-    cliquer(f, u("cmdMettreàjour"));
-    EXPECT_EQ(f.nom_enfant->text(), u("DUBOIS"));
-    EXPECT_EQ(f.matricule->text(), u("000003"));
-    EXPECT_EQ(f.datPrimaryRS->Caption(), u("Fiche: 3"));
-}
-
 TEST_F(FicheEleveSurBase, TheConfigurableFieldsTakeTheirCaptionsAndBalloonsFromTheParameters) {
     exécuter_par_le_moteur(
         base, u("INSERT INTO paramètres (intitulé_champ_paramétrable1, infobulle_champ_paramétrable1, "
@@ -361,20 +348,6 @@ TEST_F(FicheEleveSurBase, TheTemplateListIsOnlyReadFromThePupilScreen) {
     for (int ligne = 0; ligne < f.grdDataGrid->model()->rowCount(); ++ligne)
         lignes_vues += f.grdDataGrid->isRowHidden(ligne) ? 0 : 1;
     EXPECT_EQ(lignes_vues, avant.size());
-}
-
-TEST_F(FicheEleveSurBase, ButtonsWhoseWorkComesLaterDoNothingYet) {
-    ajouter_élève(base, u("000001"), u("UN"), u("Une"), u("000003"));
-    feuille_élève& f = ouvrir();
-    for (const char* nom : {"Command3", "Command4", "Command14", "Command16", "documents_suite"}) {
-        SCOPED_TRACE(nom);
-        cliquer(f, u(nom));
-        EXPECT_TRUE(f.isVisible());
-        EXPECT_EQ(f.matricule->text(), u("000001"));
-        EXPECT_EQ(f.adresse_résidence->text(), QString());
-    }
-    EXPECT_TRUE(ui().boxes().empty());
-    EXPECT_EQ(module1().feuilles().chargées().size(), 2u); // the pupils and the hidden letters
 }
 
 } // namespace

@@ -188,18 +188,6 @@ TEST_F(OrdresEleves, ANewOrderKeepsThePageShownAndWritesAPendingEditFirst) {
     EXPECT_EQ(lieux[matricules.indexOf(matricule)], u("Pontivy"));
 }
 
-TEST_F(OrdresEleves, AnOrderThatCannotReachTheBaseShowsTheStandardBoxAndTheScreenStays) {
-    feuille_élève& f = ouvrir();
-    module1().base_en_cours = folder.file(u("disparue.mdb"));
-    ui().expectMsgBox();
-    choisir_ordre(f, 2);
-    ASSERT_EQ(ui().boxes().size(), 1u);
-    EXPECT_TRUE(ui().lastBox().text.startsWith(u("Le logiciel a rencontré l'erreur : 3024\n\n")))
-        << ui().lastBox().text.toStdString();
-    EXPECT_EQ(ui().mousePointer(), vbDefault);
-    EXPECT_TRUE(f.isVisible());
-}
-
 TEST_F(OrdresEleves, TheNameSearchFindsTheFirstPupilWhoseSurnameStartsWithTheAnswer) {
     feuille_élève& f = ouvrir();
     ui().expectInputBox(u("dup"));
