@@ -119,16 +119,6 @@ TEST_F(Consultations, OnAnEmptyTableTheMenuAddsAFirstRowThatIsNotWritten) {
     EXPECT_TRUE(fichier("villes", "détails").isEmpty());
 }
 
-TEST_F(Consultations, OnAnEmptyTableFromTheMenuAjouterLeavesTheUserTypingInTheNewRow) {
-    exécuter_par_le_moteur(base, u("DELETE * FROM villes"));
-    FeuilleFiche& villes = ouvrir_par_le_menu("menuparamètresindex16", "feuille_villes");
-    cliquer(villes, u("cmdAjouter"));
-    EXPECT_TRUE(ui().boxes().empty());
-    taper_au_focus(u("81000"));
-    villes.Unload();
-    EXPECT_EQ(fichier("villes", "code_postal"), QStringList{u("81000")});
-}
-
 TEST_F(Consultations, FromTheMenuADoubleClickAcceptsWithTheLastValueIntoAClosedCallerLeftHidden) {
     fermer_après("Command7", "feuille_sexe");
 
