@@ -11,10 +11,6 @@
 class MDIForm1;
 class feuille_élève;
 
-inline QString u(const char* utf8) {
-    return QString::fromUtf8(utf8);
-}
-
 // A fresh work base for the pupil screens, copied from the template: no pupil, no parameters, the
 // template's letters.
 QString créer_base_élèves(const WorkFolder& dossier);

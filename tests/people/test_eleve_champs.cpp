@@ -1,6 +1,7 @@
 // What a user reads and may type on the pupil screen: captions, entry limits and help texts of every tab.
 #include "people/feuille_eleve.h"
 #include "platform/forms/LimiteSaisie.h"
+#include "support/Fixtures.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -139,10 +140,6 @@ const struct { const char* nom; const char* légende; const char* aide; } bouton
     {"cmdFermer", "&Fermer", "Cliquez pour fermer cette fenêtre"},
 };
 // clang-format on
-
-QString u(const char* utf8) {
-    return QString::fromUtf8(utf8);
-}
 
 class FicheEleve : public ::testing::Test {
 protected:

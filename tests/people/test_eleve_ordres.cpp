@@ -108,20 +108,6 @@ QString position(const feuille_élève& f) {
     return f.datPrimaryRS->Caption();
 }
 
-// The pupils in the present order, from the first, as the navigator's arrows show them.
-QStringList défilé(feuille_élève& f) {
-    QStringList vus;
-    cliquer(*f.datPrimaryRS, u("premier"));
-    for (int i = 0; i < 50; ++i) {
-        vus << élève_affiché(f);
-        const QString avant = position(f);
-        cliquer(*f.datPrimaryRS, u("suivant"));
-        if (position(f) == avant)
-            break;
-    }
-    return vus;
-}
-
 TEST_F(OrdresEleves, EachEntryOfTheListGivesItsOrderFromItsFirstPupil) {
     const struct {
         const char* entrée;
@@ -158,21 +144,6 @@ TEST_F(OrdresEleves, EachEntryOfTheListGivesItsOrderFromItsFirstPupil) {
     EXPECT_TRUE(ui().boxes().empty());
 }
 
-TEST_F(OrdresEleves, TheFrenchOrderPutsAccentedNamesBesideTheirPlainLetterAndParNationaliteGivesIt) {
-    feuille_élève& f = ouvrir();
-    choisir_ordre(f, 0);
-    const QString requête_alphabétique = f.datPrimaryRS->RecordSource();
-    const QStringList alphabétique{u("ARNAUD Emile"),   u("ARNAUD Émile"), u("BERNARD Théo"),
-                                   u("CHEVALIER Inès"), u("DUPONT Léa"),   u("ÉLUARD Paul"),
-                                   u("LEROY Hugo"),     u("MARTIN Zoé")};
-    EXPECT_EQ(défilé(f), alphabétique);
-    // The German pupil would come first by nationality.
-    choisir_ordre(f, 8);
-    EXPECT_EQ(f.Combo1->currentText(), u("Par nationalité"));
-    EXPECT_EQ(f.datPrimaryRS->RecordSource(), requête_alphabétique);
-    EXPECT_EQ(défilé(f), alphabétique);
-}
-
 TEST_F(OrdresEleves, ANewOrderKeepsThePageShownAndWritesAPendingEditFirst) {
     feuille_élève& f = ouvrir();
     cliquer(*f.datPrimaryRS, u("suivant"));
@@ -186,18 +157,6 @@ TEST_F(OrdresEleves, ANewOrderKeepsThePageShownAndWritesAPendingEditFirst) {
     const QStringList matricules = colonne_du_fichier(base, u("élèves"), u("matricule"));
     const QStringList lieux = colonne_du_fichier(base, u("élèves"), u("lieu_naissance_élève"));
     EXPECT_EQ(lieux[matricules.indexOf(matricule)], u("Pontivy"));
-}
-
-TEST_F(OrdresEleves, AnOrderThatCannotReachTheBaseShowsTheStandardBoxAndTheScreenStays) {
-    feuille_élève& f = ouvrir();
-    module1().base_en_cours = folder.file(u("disparue.mdb"));
-    ui().expectMsgBox();
-    choisir_ordre(f, 2);
-    ASSERT_EQ(ui().boxes().size(), 1u);
-    EXPECT_TRUE(ui().lastBox().text.startsWith(u("Le logiciel a rencontré l'erreur : 3024\n\n")))
-        << ui().lastBox().text.toStdString();
-    EXPECT_EQ(ui().mousePointer(), vbDefault);
-    EXPECT_TRUE(f.isVisible());
 }
 
 TEST_F(OrdresEleves, TheNameSearchFindsTheFirstPupilWhoseSurnameStartsWithTheAnswer) {
@@ -316,14 +275,6 @@ TEST_F(OrdresEleves, AnApostropheInTheAnswerIsReportedAtTheTopAndTheProgramGoesO
     cliquer(f, u("Command13"));
     EXPECT_EQ(élève_affiché(f), u("MARTIN Zoé"));
     EXPECT_EQ(ui().boxes().size(), 1u);
-}
-
-TEST_F(OrdresEleves, TheJumpsTrapNothingAndLeaveTheFailureToTheirCaller) {
-    feuille_élève& f = ouvrir();
-    ui().expectInputBox(u("d'arc")).expectInputBox(u("00'1"));
-    EXPECT_THROW(f.nom_enfant_DblClick(), VbError);
-    EXPECT_THROW(f.matricule_DblClick(), VbError);
-    EXPECT_TRUE(ui().boxes().empty());
 }
 
 TEST_F(OrdresEleves, ASearchOnAnEmptySetIsReportedAtTheTop) {

@@ -15,10 +15,6 @@
 
 namespace {
 
-QString u(const char* utf8) {
-    return QString::fromUtf8(utf8);
-}
-
 class SaisieEleve : public ScriptedTest {
 protected:
     std::unique_ptr<feuille_élève> f;

@@ -11,10 +11,6 @@
 #include <QApplication>
 #include <QTest>
 
-QString u(const char* utf8) {
-    return QString::fromUtf8(utf8);
-}
-
 void ConsultationsTest::SetUp() {
     WorkFolderTest::SetUp();
     base = copie_du_modèle(folder);

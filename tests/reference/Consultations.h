@@ -13,8 +13,6 @@ class DBGrid;
 class feuille_élève;
 class feuille_équipe;
 
-QString u(const char* utf8);
-
 // The program started on a copy of the template, with its main window up and a few rows in the
 // lookup tables the template leaves empty, one pupil and one teacher.
 class ConsultationsTest : public WorkFolderTest {

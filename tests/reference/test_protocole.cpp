@@ -10,6 +10,7 @@
 #include "reference/feuille_equipe.h"
 #include "store/Module1.h"
 #include "support/BaseDirecte.h"
+#include "support/Donnees.h"
 #include "support/PiloteEcran.h"
 
 #include <QApplication>
@@ -22,53 +23,9 @@
 
 namespace {
 
-struct Déclaration {
-    const char* menu;
-    const char* écran;
-    const char* titre;
-    const char* table;
-    QStringList entêtes;
-    bool numérotée;
-    const char* rafraîchir;
-};
-
-const char* const rafraîchir =
-    "Cliquez pour rafraîchir les données, dans le cas d'une utilisation multi-utilisateurs";
-const char* const rafraichir =
-    "Cliquez pour rafraichir les données, dans le cas d'une utilisation multi-utilisateurs";
-
-const std::vector<Déclaration>& déclarations() {
-    // clang-format off
-    static const std::vector<Déclaration> d = {
-        {"menuparamètresindex6", "feuille_adresses", "Tables des adresses (Rues avoisinantes)",
-         "adresses", {u("détails")}, false, rafraichir},
-        {"menuparamètresindex23", "feuille_assertions", "Table des assertions",
-         "assertions", {u("détails")}, false, rafraîchir},
-        {"menuparamètresindex7", "feuille_assurances", "Tables des assurances",
-         "assurances", {u("détails")}, false, rafraichir},
-        {"menuparamètresindex8", "feuille_csp", "Table des CSP (Catégories Socio-Professionnelles)",
-         "csp", {u("code"), u("détails")}, false, rafraichir},
-        {"menuparamètresindex19", "feuille_genres", "Table des genres",
-         "genres", {u("détails")}, false, rafraîchir},
-        {"menuparamètresindex9", "feuille_hôpitaux", "Table des hôpitaux",
-         "hôpitaux", {u("nom"), u("téléphone"), u("adresse"), u("ville")}, true, rafraîchir},
-        {"menuparamètresindex13", "feuille_langues_vivantes", "Table des langues vivantes",
-         "langues_vivantes", {u("détails")}, true, rafraîchir},
-        {"menuparamètresindex12", "feuille_médecins", "Table des médecins",
-         "médecins", {u("nom"), u("téléphone"), u("adresse"), u("ville")}, true, rafraîchir},
-        {"menuparamètresindex15", "feuille_nationalités", "Table des nationalités",
-         "nationalités", {u("détails"), u("code")}, true, rafraîchir},
-        {"menuparamètresindex18", "feuille_niveaux", "Table des niveaux et des cycles",
-         "niveaux", {u("code"), u("détails"), u("cycle")}, true, rafraîchir},
-        {"menuparamètresindex14", "feuille_sexe", "Table des sexes",
-         "sexe", {u("détails")}, true, rafraîchir},
-        {"menuparamètresindex17", "feuille_situations_familiales", "Table des situations familiales",
-         "situations_familiales", {u("détails")}, true, rafraîchir},
-        {"menuparamètresindex16", "feuille_villes", "Table des villes",
-         "villes", {u("codes postaux"), u("détails")}, true, rafraîchir},
-    };
-    // clang-format on
-    return d;
+// The refresh tooltip, in the form a screen's row names.
+QString rafraîchir(const QString& forme) {
+    return u("Cliquez pour ") + forme + u(" les données, dans le cas d'une utilisation multi-utilisateurs");
 }
 
 class Consultations : public ConsultationsTest {
@@ -109,25 +66,28 @@ protected:
 
 TEST_F(Consultations, EachMenuCommandShowsItsLookupInFrontWithItsDeclarationAndTheButtonHidden) {
     module1().origine_appel = 5;
-    for (const Déclaration& d : déclarations()) {
-        SCOPED_TRACE(d.écran);
-        FeuilleFiche& f = ouvrir_par_le_menu(d.menu, d.écran);
+    for (const QStringList& d : table_de_données(u("consultations.tsv"))) {
+        const QString &menu = d[0], &écran = d[1], &titre = d[2], &table = d[3];
+        SCOPED_TRACE(écran.toStdString());
+        FeuilleFiche& f = ouvrir_par_le_menu(menu.toUtf8().constData(), écran.toUtf8().constData());
         EXPECT_TRUE(f.isVisible());
         EXPECT_EQ(static_cast<QWidget*>(mdi->zone->activeSubWindow()), &f.conteneur());
-        EXPECT_EQ(f.windowTitle(), u(d.titre));
-        EXPECT_EQ(f.datPrimaryRS->RecordSource(), u("SELECT * FROM ") + u(d.table));
+        EXPECT_EQ(f.windowTitle(), titre);
+        EXPECT_EQ(f.datPrimaryRS->RecordSource(), u("SELECT * FROM ") + table);
         EXPECT_EQ(f.datPrimaryRS->DatabaseName(), base);
-        EXPECT_EQ(f.configuration().source_de_conception, u(d.table)) << "the bare table name until pointed";
         QStringList entêtes;
         for (int c = 0; c < f.grdDataGrid->model()->columnCount(); ++c)
             entêtes << f.grdDataGrid->model()->headerData(c, Qt::Horizontal).toString();
-        EXPECT_EQ(entêtes, d.entêtes);
-        EXPECT_EQ(f.grdDataGrid->model()->rowCount(), fichier(d.table, "rowid").size() + 1);
-        EXPECT_EQ(f.datPrimaryRS->Caption(), d.numérotée ? u("Fiche: 1") : u(" "));
-        EXPECT_EQ(f.cmdRafraîchir->toolTip(), u(d.rafraîchir));
+        EXPECT_EQ(entêtes, d[4].split(u'|'));
+        EXPECT_EQ(f.grdDataGrid->model()->rowCount(),
+                  fichier(table.toUtf8().constData(), "rowid").size() + 1);
+        EXPECT_EQ(f.datPrimaryRS->Caption(), d[5] == u("numérotée") ? u("Fiche: 1") : u(" "));
+        EXPECT_EQ(f.cmdRafraîchir->toolTip(), rafraîchir(d[6]));
         EXPECT_TRUE(f.bouton_accepter->isHidden());
         EXPECT_TRUE(f.bouton_accepter->isDefault());
         EXPECT_EQ(f.bouton_accepter->text(), u("Accepter"));
+        EXPECT_EQ(f.bouton_accepter->toolTip(),
+                  u("Cliquez pour accepter ces données et les insérer dans la fiche d'origine"));
         EXPECT_EQ(module1().origine_appel, 5);
         // One column reads well narrow; each more column widens the screen.
         const int colonnes = f.grdDataGrid->model()->columnCount();
@@ -297,34 +257,6 @@ TEST_F(Consultations, GenresHasNoDoubleClickAndFromTheMenuNoWayToAccept) {
     EXPECT_EQ(chargée(u("feuille_genres")), &depuis_le_menu);
     EXPECT_EQ(équipe.genre_enseignant->text(), u(""));
     EXPECT_TRUE(ui().boxes().empty());
-}
-
-TEST_F(Consultations, EnterPressesTheShownAcceptAndEscapeCloses) {
-    feuille_élève& élève = ouvrir_élève();
-    FeuilleFiche* sexe = &consulter(élève, "Command7", "feuille_sexe");
-    QTest::keyClick(sexe->grdDataGrid, Qt::Key_Escape);
-    processDeletions();
-    EXPECT_EQ(chargée(u("feuille_sexe")), nullptr);
-    EXPECT_EQ(élève.sexe->text(), u(""));
-
-    presser(élève, "Command7");
-    sexe = chargée(u("feuille_sexe"));
-    cliquer_cellule(*sexe->grdDataGrid, 1);
-    QTest::keyClick(sexe->grdDataGrid, Qt::Key_Return);
-    processDeletions();
-    EXPECT_EQ(chargée(u("feuille_sexe")), nullptr);
-    EXPECT_EQ(élève.sexe->text(), fichier("sexe", "détails").at(1));
-}
-
-TEST_F(Consultations, ClosingTheLookupHidesItsButtonAgainAndLeavesTheFieldsAndTheValue) {
-    feuille_élève& élève = ouvrir_élève();
-    FeuilleFiche* adresses = &consulter(élève, "Command8", "feuille_adresses");
-    ASSERT_FALSE(adresses->bouton_accepter->isHidden());
-    cliquer(*adresses, u("cmdFermer"));
-    EXPECT_TRUE(adresses->bouton_accepter->isHidden());
-    EXPECT_EQ(module1().origine_appel, 1);
-    EXPECT_EQ(élève.adresse_résidence->text(), u(""));
-    EXPECT_EQ(ui().mousePointer(), vbDefault);
 }
 
 TEST_F(Consultations, ARowJustTypedInTheGridIsWhatTheAcceptCopies) {

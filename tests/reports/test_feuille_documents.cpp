@@ -105,12 +105,3 @@ TEST_F(FeuilleDocumentsTest, a_paragraph_takes_no_more_than_254_characters) {
     EXPECT_EQ(colonne_du_fichier(base, "documents", "paragraphe6_document").first(),
               QString(254, QChar('x')));
 }
-
-TEST_F(FeuilleDocumentsTest, voir_is_present_and_leaves_the_data_alone) {
-    journaliser_écritures(base, {"documents"});
-    auto& f = ouvrir();
-    cliquer(f, "Command2");
-    EXPECT_TRUE(ui().boxes().empty());
-    EXPECT_EQ(écritures_journalisées(base), 0);
-    EXPECT_EQ(légende(f), "Fiche: 1");
-}

@@ -26,20 +26,6 @@ protected:
     static bool au_premier_plan(Feuille& f) { return mdi()->zone->activeSubWindow() == &f.conteneur(); }
 };
 
-TEST_F(RègleDePréparation, UneTableVideReçoitUneLigneNouvelleQuiNEstPasÉcrite) {
-    MDIForm1& fenêtre = ouvert_sur(table_sexe);
-    fenêtre.cliquer("menuparamètresindex14");
-    ASSERT_NE(sexes(), nullptr);
-    EXPECT_TRUE(sexes()->conteneur().isVisible());
-    EXPECT_TRUE(au_premier_plan(*sexes()));
-    EXPECT_TRUE(sexes()->datPrimaryRS->isAddingNew());
-    EXPECT_TRUE(sexes()->bouton_accepter->isHidden());
-    EXPECT_EQ(sexes()->datPrimaryRS->DatabaseName(), module1().base_en_cours);
-    EXPECT_EQ(sexes()->datPrimaryRS->RecordSource(), "SELECT * FROM sexe");
-    EXPECT_EQ(sexes()->datPrimaryRS->Recordset().raw().RecordCount(), 0);
-    EXPECT_TRUE(ui().boxes().empty());
-}
-
 TEST_F(RègleDePréparation, UnÉcranDéjàOuvertRevientSurSaPremièreFicheEtAuPremierPlan) {
     MDIForm1& fenêtre =
         ouvert_sur(table_sexe + "INSERT INTO sexe VALUES ('F');INSERT INTO sexe VALUES ('G');");

@@ -3,6 +3,7 @@
 #include "platform/forms/ListesFichiers.h"
 #include "shell/commandes.h"
 #include "support/PiloteEcran.h"
+#include "support/Donnees.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -61,57 +62,9 @@ TEST_F(FenêtrePrincipale, LÉtiquetteEtLArbreDesMenusÀLaLettre) {
         lues.push_back({0, a->objectName(), a->text()});
         parcourir(a->menu(), 1, lues);
     }
-    const std::vector<Entrée> attendues = {
-        {0, "menufichierindex0", "&Fichier"},
-        {1, "menufichierindex1", "&Ouvrir une base de données"},
-        {1, "menufichierindex5", "-"},
-        {1, "menufichierindex3", "&Fermer la base de données en cours"},
-        {1, "menufichierindex4", "-"},
-        {1, "menufichierindex2", "&Quitter le logiciel"},
-        {0, "menuenfantsindex0", "&Gestion"},
-        {1, "menuenfantsindex2", "Gestion du fichier des &Familles"},
-        {1, "menuenfantsindex3", "-"},
-        {1, "menuenfantsindex1", "Gestion du fichier des &Elèves"},
-        {0, "menuexploitationindex0", "&Exploitation"},
-        {1, "menuexploitationindex3", "&Traitements"},
-        {1, "menuexploitationindex2", "-"},
-        {1, "menuexploitationindex4", "Exportation des données au format Excel"},
-        {0, "menuparamètresindex0", "&Administration"},
-        {1, "menuparamètresindex1", "&Circonscription"},
-        {1, "menuparamètresindex2", "&Ecole"},
-        {1, "menuparamètresindex3", "Equipe &Pédagogique"},
-        {1, "menuparamètresindex10", "-"},
-        {1, "menuparamètresindex4", "&Documents"},
-        {1, "menuparamètresindex5", "&Champs Paramétrables"},
-        {1, "menuparamètresindex21", "-"},
-        {1, "menuparamètresindex22", "&Modification du code d'accès aux données"},
-        {1, "menuparamètresindex11", "-"},
-        {1, "menuparamètresindex20", "Gestion des &Tables"},
-        {2, "menuparamètresindex6", "Table des Adresses"},
-        {2, "menuparamètresindex7", "Table des Assurances"},
-        {2, "menuparamètresindex23", "Table des Assertions"},
-        {2, "menuparamètresindex8", "Table des CSP"},
-        {2, "menuparamètresindex19", "Table des Genres"},
-        {2, "menuparamètresindex9", "Table des Hôpitaux"},
-        {2, "menuparamètresindex13", "Table des Langues Vivantes"},
-        {2, "menuparamètresindex12", "Table des Médecins"},
-        {2, "menuparamètresindex15", "Table des Nationalités"},
-        {2, "menuparamètresindex18", "Table des Niveaux et Cycles"},
-        {2, "menuparamètresindex14", "Table des Sexes"},
-        {2, "menuparamètresindex17", "Table des Situations Familiales"},
-        {2, "menuparamètresindex16", "Table des Villes"},
-        {1, "menuparamètresindex24", "-"},
-        {1, "menuutilitairesindex0", "&Utilitaires"},
-        {2, "menuutilitairesindex1", "Initialisation de la table des familles"},
-        {2, "menuutilitairesindex2", "Initialisation de la table des élèves"},
-        {2, "menuutilitairesindex3", "Initialisation des tables connexes"},
-        {2, "menuutilitairesindex5", "-"},
-        {2, "menuutilitairesindex4", "Exportation pour la passerelle BE1d"},
-        {0, "menuoptionsindex0", "&Options"},
-        {1, "menuoptionsindex1", "&Options de démarrage"},
-        {0, "menuaideindex0", "&?"},
-        {1, "menuaideindex1", "&A propos de..."},
-    };
+    std::vector<Entrée> attendues;
+    for (const QStringList& e : table_de_données(QStringLiteral("menus.tsv")))
+        attendues.push_back({e[0].toInt(), e[1], e[2]});
     EXPECT_EQ(lues, attendues);
 }
 

@@ -9,6 +9,11 @@
 #include <gtest/gtest.h>
 #include <memory>
 
+// A test's texts, written as UTF-8 literals.
+inline QString u(const char* utf8) {
+    return QString::fromUtf8(utf8);
+}
+
 // For its lifetime: the program in its start state, with the scripted user in place of the dialogs.
 // At its end the state is reset again, screens included, and unused answers fail the test.
 class ScriptedSession {

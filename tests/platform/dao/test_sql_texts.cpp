@@ -5,55 +5,10 @@
 
 namespace {
 
-const QStringList pupil_orders = {"matricule",          "date_naissance_élève",   "date_inscription_élève",
-                                  "nationalité_élève",  "référence_classe_élève", "niveau_classe_élève",
-                                  "cycle_classe_élève", "ville_résidence"};
-
 class SqlTexts : public StoreTest {
 protected:
     void SetUp() override { remplir_démonstration(*db, Démonstration{60, 7}); }
 };
-
-TEST_F(SqlTexts, PupilOrdersOpenOnTheWholeTableInTheirOrder) {
-    for (const QString& column : pupil_orders) {
-        for (const char* direction : {" ASC", " DESC"}) {
-            SCOPED_TRACE((column + direction).toStdString());
-            auto rs = db->OpenRecordset("SELECT * FROM élèves ORDER BY " + column + direction);
-            EXPECT_EQ(rs->RecordCount(), 60);
-            const QStringList got = values(*rs, column);
-            QStringList sorted = got;
-            const bool dates = column.startsWith(u"date");
-            const bool descending = QString(direction) == " DESC";
-            const auto before = [&](const QString& a, const QString& b) {
-                if (dates)
-                    return QDate::fromString(a, "dd/MM/yyyy") < QDate::fromString(b, "dd/MM/yyyy");
-                return french_key(a) < french_key(b);
-            };
-            std::stable_sort(sorted.begin(), sorted.end(), [&](const QString& a, const QString& b) {
-                return descending ? before(b, a) : before(a, b);
-            });
-            EXPECT_EQ(got, sorted);
-        }
-    }
-}
-
-TEST_F(SqlTexts, FamilyOrdersOpen) {
-    for (const char* sql :
-         {"SELECT * FROM familles ORDER BY nom_responsable_légal ASC, prénom_responsable_légal ASC",
-          "SELECT * FROM familles ORDER BY nom_responsable_légal DESC, prénom_responsable_légal DESC",
-          "SELECT * FROM familles ORDER BY référence_famille ASC",
-          "SELECT * FROM familles ORDER BY référence_famille DESC"}) {
-        SCOPED_TRACE(sql);
-        auto rs = db->OpenRecordset(sql);
-        EXPECT_GT(rs->RecordCount(), 20);
-    }
-    auto rs = db->OpenRecordset("SELECT * FROM familles ORDER BY référence_famille DESC");
-    rs->MoveFirst();
-    const QString highest = rs->field("référence_famille").toString();
-    rs->MoveLast();
-    EXPECT_EQ(rs->field("référence_famille").toString(), "000001");
-    EXPECT_GT(highest, QString("000001"));
-}
 
 TEST_F(SqlTexts, BracketedSourcesOfTheSheetScreensOpen) {
     add("école", {});
@@ -93,17 +48,6 @@ TEST_F(SqlTexts, EmptyingEachTableLeavesItEmptyAndTheOthersWhole) {
         EXPECT_EQ(db->OpenRecordset(table)->RecordCount(), 0);
         EXPECT_EQ(db->OpenRecordset("niveaux")->RecordCount(), niveaux);
     }
-}
-
-TEST_F(SqlTexts, ChildrenOfAFamilyAreFoundByTheirReference) {
-    auto famille = db->OpenRecordset("SELECT * FROM familles ORDER BY référence_famille ASC");
-    famille->MoveFirst();
-    const QString reference = famille->field("référence_famille").toString();
-    auto children =
-        db->OpenRecordset("SELECT * FROM élèves WHERE référence_famille LIKE \"" + reference + "\"");
-    ASSERT_GT(children->RecordCount(), 0);
-    for (const QString& r : values(*children, "référence_famille"))
-        EXPECT_EQ(r, reference);
 }
 
 } // namespace

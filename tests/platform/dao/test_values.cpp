@@ -23,6 +23,14 @@ TEST_F(Values, DatesAreWrittenAndReadAsJJMMAAAA) {
     EXPECT_EQ(pupils->field("date_naissance_élève").toString(), "05/06/1975");
 }
 
+// Another program may have left a text of a date's length that is no stored date: it reads as it stands.
+TEST_F(Values, ADateColumnHoldingAnotherTextShowsItAsItStands) {
+    const QStringList textes{"2019/02/03", "2019-02/03", "2019/02-03"};
+    for (const QString& texte : textes)
+        db->Execute("INSERT INTO élèves (date_naissance_élève) VALUES ('" + texte + "')");
+    EXPECT_EQ(values("SELECT * FROM élèves", "date_naissance_élève"), textes);
+}
+
 TEST_F(Values, DateOrderIsChronologicalNotTextual) {
     for (const char* date : {"15/01/2018", "02/12/2017", "30/06/2018", "01/01/2019"})
         add("élèves", {{"date_naissance_élève", date}});

@@ -53,6 +53,7 @@ TEST_F(GrilleTest, shows_every_row_under_its_heading_and_an_empty_new_row_at_the
     EXPECT_EQ(cellule(g, 2, 0), "C");
     EXPECT_EQ(g.newRow(), 3);
     EXPECT_EQ(cellule(g, 3, 1), "");
+    EXPECT_FALSE(g.model()->index(0, 1).data(Qt::CheckStateRole).isValid()) << "a cell shows no check box";
     EXPECT_EQ(g.currentIndex().row(), 0);
     EXPECT_EQ(f.datPrimaryRS->Caption(), "Fiche: 1");
 }

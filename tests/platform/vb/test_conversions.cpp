@@ -7,10 +7,6 @@
 
 namespace {
 
-QString u(const char* utf8) {
-    return QString::fromUtf8(utf8);
-}
-
 TEST(FormatZeros, PadsNumbersAndLeavesEverythingElseAlone) {
     const struct {
         const char* typed;
