@@ -15,6 +15,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int objectif_ms = 100;
@@ -26,13 +28,12 @@ struct Base {
 
 // The template as it is, with one pupil to open the pupil screen on.
 Base fabriquer_base() {
-    const QString chemin = banc::copie_du_modèle(QStringLiteral("banc.mdb"));
+    const QString chemin = banc::copie_du_modèle(u"banc.mdb"_s);
     auto base = Database::open(chemin);
-    base->Execute(
-        QStringLiteral("INSERT INTO élèves (matricule, nom_élève) VALUES (\"000001\", \"MARTIN\")"));
-    auto villes = base->OpenRecordset(QStringLiteral("villes"));
+    base->Execute(u"INSERT INTO élèves (matricule, nom_élève) VALUES (\"000001\", \"MARTIN\")"_s);
+    auto villes = base->OpenRecordset(u"villes"_s);
     villes->MoveLast();
-    return {chemin, villes->field(QStringLiteral("détails")).toString()};
+    return {chemin, villes->field(u"détails"_s).toString()};
 }
 
 void BM_choix_de_la_dernière_ville(benchmark::State& state) {

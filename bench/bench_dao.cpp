@@ -18,10 +18,12 @@
 #include <map>
 #include <sqlite3.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int pupils = 100000;
-const QString alphabetical = QStringLiteral("SELECT * FROM élèves ORDER BY nom_élève ASC, prénom_élève ASC");
+const QString alphabetical = u"SELECT * FROM élèves ORDER BY nom_élève ASC, prénom_élève ASC"_s;
 
 QString template_path() {
     return QStringLiteral(NORVANE_TEMPLATE_PATH);
@@ -29,12 +31,12 @@ QString template_path() {
 
 // The measured base, made from the template of this build the first time and kept for later runs.
 QString school() {
-    const QString path = QFileInfo(template_path()).absolutePath() + QStringLiteral("/bench_100000.mdb");
+    const QString path = QFileInfo(template_path()).absolutePath() + u"/bench_100000.mdb"_s;
     const QFileInfo made(path);
     if (made.exists() && made.lastModified() >= QFileInfo(template_path()).lastModified())
         return path;
     std::fprintf(stderr, "Génération de %d élèves fictifs dans %s...\n", pupils, qPrintable(path));
-    const QString aside = path + QStringLiteral(".en_cours");
+    const QString aside = path + u".en_cours"_s;
     QFile::remove(aside);
     QFile::copy(template_path(), aside);
     {
@@ -106,7 +108,7 @@ void BM_OpenAndMoveFirstAlphabetical(benchmark::State& state) {
             auto db = Database::open(path);
             auto rs = db->OpenRecordset(alphabetical);
             rs->MoveFirst();
-            benchmark::DoNotOptimize(rs->field(QStringLiteral("nom_élève")));
+            benchmark::DoNotOptimize(rs->field(u"nom_élève"_s));
         });
 }
 BENCHMARK(BM_OpenAndMoveFirstAlphabetical)->Unit(benchmark::kMillisecond)->Iterations(10);
@@ -118,9 +120,9 @@ void BM_OpenOrderedByTown(benchmark::State& state) {
         state, 300, [] {},
         [&] {
             auto db = Database::open(path);
-            auto rs = db->OpenRecordset(QStringLiteral("SELECT * FROM élèves ORDER BY ville_résidence ASC"));
+            auto rs = db->OpenRecordset(u"SELECT * FROM élèves ORDER BY ville_résidence ASC"_s);
             rs->MoveFirst();
-            benchmark::DoNotOptimize(rs->field(QStringLiteral("ville_résidence")));
+            benchmark::DoNotOptimize(rs->field(u"ville_résidence"_s));
         });
 }
 BENCHMARK(BM_OpenOrderedByTown)->Unit(benchmark::kMillisecond)->Iterations(5);
@@ -128,7 +130,7 @@ BENCHMARK(BM_OpenOrderedByTown)->Unit(benchmark::kMillisecond)->Iterations(5);
 // The first opening after the French order changed (another ICU after a system upgrade): every index
 // on the sort key is rebuilt, once.
 void BM_OpenABaseOfAnotherOrder(benchmark::State& state) {
-    const QString path = scratch_copy(QStringLiteral("norvane_bench_ordre.mdb"));
+    const QString path = scratch_copy(u"norvane_bench_ordre.mdb"_s);
     timed(
         state, 3000,
         [&] {
@@ -180,7 +182,7 @@ void BM_FindFirstNamePrefix(benchmark::State& state) {
     timed(
         state, 100, [&] { rs->MoveFirst(); },
         [&] {
-            rs->FindFirst(QStringLiteral("nom_élève like 'DUP*'"));
+            rs->FindFirst(u"nom_élève like 'DUP*'"_s);
             read_row(*rs);
         });
     if (rs->NoMatch())
@@ -189,7 +191,7 @@ void BM_FindFirstNamePrefix(benchmark::State& state) {
 BENCHMARK(BM_FindFirstNamePrefix)->Unit(benchmark::kMillisecond)->Iterations(20);
 
 void BM_AddNewUpdate(benchmark::State& state) {
-    const QString path = scratch_copy(QStringLiteral("norvane_bench_ajout.mdb"));
+    const QString path = scratch_copy(u"norvane_bench_ajout.mdb"_s);
     {
         auto db = Database::open(path);
         auto rs = db->OpenRecordset(alphabetical);
@@ -198,11 +200,11 @@ void BM_AddNewUpdate(benchmark::State& state) {
             state, 5, [] {},
             [&] {
                 rs->AddNew();
-                rs->setField(QStringLiteral("matricule"), QString::number(++next));
-                rs->setField(QStringLiteral("nom_élève"), QStringLiteral("Nouveau"));
-                rs->setField(QStringLiteral("prénom_élève"), QStringLiteral("Élève"));
-                rs->setField(QStringLiteral("date_naissance_élève"), QStringLiteral("12/03/2019"));
-                rs->setField(QStringLiteral("ville_résidence"), QStringLiteral("Bron"));
+                rs->setField(u"matricule"_s, QString::number(++next));
+                rs->setField(u"nom_élève"_s, u"Nouveau"_s);
+                rs->setField(u"prénom_élève"_s, u"Élève"_s);
+                rs->setField(u"date_naissance_élève"_s, u"12/03/2019"_s);
+                rs->setField(u"ville_résidence"_s, u"Bron"_s);
                 rs->Update();
             });
     }
@@ -228,9 +230,9 @@ void BM_MemoryOfAnOpenRecordset(benchmark::State& state) {
 BENCHMARK(BM_MemoryOfAnOpenRecordset)->Unit(benchmark::kMillisecond)->Iterations(3);
 
 void BM_CompactAgainstPlainCopy(benchmark::State& state) {
-    const QString source = scratch_copy(QStringLiteral("norvane_bench_source.mdb"));
-    const QString copy = QDir::temp().filePath(QStringLiteral("norvane_bench_copie.mdb"));
-    const QString compacted = QDir::temp().filePath(QStringLiteral("norvane_bench_compacte.mdb"));
+    const QString source = scratch_copy(u"norvane_bench_source.mdb"_s);
+    const QString copy = QDir::temp().filePath(u"norvane_bench_copie.mdb"_s);
+    const QString compacted = QDir::temp().filePath(u"norvane_bench_compacte.mdb"_s);
     double copyMs = 0, compactMs = 0, copyCpu = 0, compactCpu = 0;
     for (auto _ : state) {
         QFile::remove(copy);
@@ -256,7 +258,7 @@ BENCHMARK(BM_CompactAgainstPlainCopy)->Unit(benchmark::kMillisecond)->Iterations
 
 // The save of a row already stored, checked against what was read of it before it is written.
 void BM_EditUpdate(benchmark::State& state) {
-    const QString path = scratch_copy(QStringLiteral("norvane_bench_modif.mdb"));
+    const QString path = scratch_copy(u"norvane_bench_modif.mdb"_s);
     {
         auto db = Database::open(path);
         auto rs = db->OpenRecordset(alphabetical);
@@ -266,7 +268,7 @@ void BM_EditUpdate(benchmark::State& state) {
             state, 5, [] {},
             [&] {
                 rs->Edit();
-                rs->setField(QStringLiteral("ville_résidence"), QStringLiteral("Bron %1").arg(++turn));
+                rs->setField(u"ville_résidence"_s, u"Bron %1"_s.arg(++turn));
                 rs->Update();
             });
     }

@@ -15,12 +15,14 @@
 #include <QPlainTextEdit>
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double objectif_déplacement_us = 30;
 constexpr double objectif_écriture_ms = 5;
 constexpr double objectif_cellule_us = 200;
-const QString source = QStringLiteral("SELECT * FROM élèves ORDER BY matricule ASC");
+const QString source = u"SELECT * FROM élèves ORDER BY matricule ASC"_s;
 
 struct Écran {
     QWidget racine;
@@ -34,9 +36,9 @@ struct Écran {
         const auto élèves = base->OpenRecordset(source);
         for (const FieldInfo& colonne : élèves->fields())
             lier(colonne);
-        ville = racine.findChild<QLineEdit*>(QStringLiteral("ville_résidence"));
-        grille->addColumn(QStringLiteral("nom_élève"), QStringLiteral("nom_élève"));
-        grille->addColumn(QStringLiteral("ville_résidence"), QStringLiteral("ville_résidence"));
+        ville = racine.findChild<QLineEdit*>(u"ville_résidence"_s);
+        grille->addColumn(u"nom_élève"_s, u"nom_élève"_s);
+        grille->addColumn(u"ville_résidence"_s, u"ville_résidence"_s);
         grille->setDataSource(données);
         données->setDatabaseName(banc::école());
         données->setRecordSource(source);
@@ -85,15 +87,14 @@ void BM_écriture_d_une_ligne_modifiée(benchmark::State& state) {
     int n = 0;
     QString écrite;
     for (auto _ : state) {
-        écrite = QStringLiteral("Ville écrite %1-%2").arg(passage).arg(++n);
+        écrite = u"Ville écrite %1-%2"_s.arg(passage).arg(++n);
         écran.ville->setText(écrite);
         écran.données->UpdateRecord();
         rs.MoveNext();
         if (rs.isEOF())
             rs.MoveFirst();
     }
-    const QString relecture =
-        QStringLiteral("SELECT * FROM élèves WHERE ville_résidence = \"%1\"").arg(écrite);
+    const QString relecture = u"SELECT * FROM élèves WHERE ville_résidence = \"%1\""_s.arg(écrite);
     const auto relue = Database::open(banc::école())->OpenRecordset(relecture);
     if (relue->RecordCount() != 1)
         state.SkipWithError("la dernière écriture n'est pas dans le fichier");

@@ -8,12 +8,14 @@
 
 #include <QLineEdit>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int élèves = 100000;
 
 QString fabriquer_base() {
-    const QString chemin = banc::copie_du_modèle(QStringLiteral("école.mdb"));
+    const QString chemin = banc::copie_du_modèle(u"école.mdb"_s);
     auto base = Database::open(chemin);
     base->BeginTrans();
     for (int i = 1; i <= élèves; ++i) {
@@ -50,8 +52,8 @@ struct Fiche {
 };
 
 void BM_recherche_par_nom_en_fin_d_ordre(benchmark::State& state) {
-    Fiche fiche(QStringLiteral("Par ordre alphabétique"));
-    banc::RéponseFixe utilisateur(vbOK, QStringLiteral("nom0999"));
+    Fiche fiche(u"Par ordre alphabétique"_s);
+    banc::RéponseFixe utilisateur(vbOK, u"nom0999"_s);
     for (auto _ : state)
         positionner_par_nom(*fiche.datPrimaryRS, utilisateur);
     state.counters["position"] = fiche.datPrimaryRS->Recordset().AbsolutePosition();
@@ -59,8 +61,8 @@ void BM_recherche_par_nom_en_fin_d_ordre(benchmark::State& state) {
 BENCHMARK(BM_recherche_par_nom_en_fin_d_ordre)->Unit(benchmark::kMillisecond);
 
 void BM_recherche_par_matricule_avec_joker(benchmark::State& state) {
-    Fiche fiche(QStringLiteral("Par ordre des matricules"));
-    banc::RéponseFixe utilisateur(vbOK, QStringLiteral("*99999"));
+    Fiche fiche(u"Par ordre des matricules"_s);
+    banc::RéponseFixe utilisateur(vbOK, u"*99999"_s);
     for (auto _ : state)
         positionner_par_matricule(*fiche.datPrimaryRS, utilisateur);
     state.counters["position"] = fiche.datPrimaryRS->Recordset().AbsolutePosition();
@@ -68,9 +70,9 @@ void BM_recherche_par_matricule_avec_joker(benchmark::State& state) {
 BENCHMARK(BM_recherche_par_matricule_avec_joker)->Unit(benchmark::kMillisecond);
 
 void BM_nouvel_ordre_par_âge(benchmark::State& state) {
-    Fiche fiche(QStringLiteral("Par ordre des matricules"));
+    Fiche fiche(u"Par ordre des matricules"_s);
     for (auto _ : state) {
-        fiche.datPrimaryRS->setRecordSource(requête_de_l_ordre(QStringLiteral("Par âge")));
+        fiche.datPrimaryRS->setRecordSource(requête_de_l_ordre(u"Par âge"_s));
         fiche.datPrimaryRS->Refresh();
     }
 }

@@ -6,11 +6,13 @@
 
 #include <QIcon>
 
+using namespace Qt::StringLiterals;
+
 // The program starts on its splash, in the folder it was started from, which is where it looks for
 // options.ini and its report layouts.
 int main(int argc, char** argv) {
     Application app(argc, argv);
-    app.setApplicationName(QStringLiteral("Norvane"));
+    app.setApplicationName(u"Norvane"_s);
     app.setQuitOnLastWindowClosed(false);
     app.setWindowIcon(QIcon(dessin_cahier(QSize(64, 64))));
     faire_connaître_les_écrans();

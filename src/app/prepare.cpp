@@ -10,10 +10,12 @@
 #include <QFile>
 #include <QTextStream>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void écrire_exemple(const QString& modèle, const QString& cible) {
-    const QString à_côté = cible + QStringLiteral(".en_cours");
+    const QString à_côté = cible + u".en_cours"_s;
     QFile::remove(à_côté);
     if (!QFile::copy(modèle, à_côté))
         throw VbError(3043);
@@ -49,9 +51,9 @@ int main(int argc, char** argv) {
         const QDir dossier(arguments[1]);
         if (!dossier.exists() && !QDir().mkpath(dossier.path()))
             throw VbError(76);
-        const QString modèle = dossier.filePath(QStringLiteral("basevide.mdz"));
+        const QString modèle = dossier.filePath(u"basevide.mdz"_s);
         create_base(modèle, scripts_modèle());
-        const QString exemple = dossier.filePath(QStringLiteral("exemple.mdb"));
+        const QString exemple = dossier.filePath(u"exemple.mdb"_s);
         if (!QFile::exists(exemple))
             écrire_exemple(modèle, exemple);
         return 0;

@@ -2,6 +2,8 @@
 
 #include "platform/dao/JetDate.h"
 
+using namespace Qt::StringLiterals;
+
 QString âge_affiché(const QDate& naissance, const QDate& aujourdhui) {
     int a = aujourdhui.year() - naissance.year();
     int m = aujourdhui.month() - naissance.month();
@@ -21,8 +23,8 @@ QString âge_affiché(const QDate& naissance, const QDate& aujourdhui) {
         j += 31;
     }
     if (a < 0)
-        return QStringLiteral("## erreur ##");
-    return QStringLiteral("%1 a - %2 m - %3 j").arg(a).arg(m).arg(j);
+        return u"## erreur ##"_s;
+    return u"%1 a - %2 m - %3 j"_s.arg(a).arg(m).arg(j);
 }
 
 std::optional<QString> âge_du_texte(const QString& date_naissance, const QDate& aujourdhui) {

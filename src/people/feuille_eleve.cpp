@@ -32,18 +32,19 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString aîné = QStringLiteral("Aîné dans l'école");
-const QString ordre_des_matricules = QStringLiteral("SELECT * FROM élèves ORDER BY matricule ASC");
-const QString ordre_alphabétique =
-    QStringLiteral("SELECT * FROM élèves ORDER BY nom_élève ASC, prénom_élève ASC");
+const QString aîné = u"Aîné dans l'école"_s;
+const QString ordre_des_matricules = u"SELECT * FROM élèves ORDER BY matricule ASC"_s;
+const QString ordre_alphabétique = u"SELECT * FROM élèves ORDER BY nom_élève ASC, prénom_élève ASC"_s;
 
 ConfigurationFiche configuration_élève() {
     ConfigurationFiche c;
-    c.nom = QStringLiteral("feuille_élève");
-    c.titre = QStringLiteral("Fiche élève");
-    c.source_de_conception = QStringLiteral("élèves");
+    c.nom = u"feuille_élève"_s;
+    c.titre = u"Fiche élève"_s;
+    c.source_de_conception = u"élèves"_s;
     c.légende = LégendePosition::numérotée;
     c.ajout = FormeAjout::à_part;
     c.suppression = FormeSuppression::piégée;
@@ -105,12 +106,12 @@ QWidget* feuille_élève::champ(const QString& nom) const {
 // The two sources besides datPrimaryRS work out of sight: the user never moves them.
 void feuille_élève::construire_sources() {
     Data1 = new DataControl(this);
-    Data1->setObjectName(QStringLiteral("Data1"));
-    Data1->setRecordSource(QStringLiteral("paramètres"));
+    Data1->setObjectName(u"Data1"_s);
+    Data1->setRecordSource(u"paramètres"_s);
     Data1->hide();
     Data2 = new DataControl(this);
-    Data2->setObjectName(QStringLiteral("Data2"));
-    Data2->setRecordSource(QStringLiteral("documents"));
+    Data2->setObjectName(u"Data2"_s);
+    Data2->setRecordSource(u"documents"_s);
     Data2->hide();
 }
 
@@ -121,7 +122,7 @@ void feuille_élève::construire() {
     colonne->setContentsMargins(0, 0, 0, 0);
     colonne->addWidget(construire_bandeau(disposition));
     SSTab1 = new QTabWidget(this);
-    SSTab1->setObjectName(QStringLiteral("SSTab1"));
+    SSTab1->setObjectName(u"SSTab1"_s);
     colonne->addWidget(SSTab1, 1);
     construire_onglets(disposition);
     disposition.build(*this, champs());
@@ -158,8 +159,8 @@ void feuille_élève::montrer_paramètres() {
         return;
     for (int i = 0; i < 10; ++i) {
         const QString n = QString::number(i + 1);
-        lblLabels[i]->setText(rs.field(QStringLiteral("intitulé_champ_paramétrable") + n).toString());
-        const QString aide = rs.field(QStringLiteral("infobulle_champ_paramétrable") + n).toString();
+        lblLabels[i]->setText(rs.field(u"intitulé_champ_paramétrable"_s + n).toString());
+        const QString aide = rs.field(u"infobulle_champ_paramétrable"_s + n).toString();
         if (aide != porteurs_aide[i]->text()) {
             porteurs_aide[i]->setText(aide);
             porteur_aide_Change(i);
@@ -189,18 +190,18 @@ QWidget* feuille_élève::construire_bandeau(FieldBuilder& disposition) {
     lignes->setContentsMargins(0, 0, 0, 0);
 
     auto* haut = new QHBoxLayout;
-    auto* Frame2 = disposition.addGroupBox(QStringLiteral("Frame2"), this);
-    auto* Frame12 = disposition.addGroupBox(QStringLiteral("Frame12"), this);
+    auto* Frame2 = disposition.addGroupBox(u"Frame2"_s, this);
+    auto* Frame12 = disposition.addGroupBox(u"Frame12"_s, this);
     haut->addWidget(Frame2, 1);
     haut->addWidget(Frame12);
     lignes->addLayout(haut);
 
     auto* bas = new QHBoxLayout;
     Combo1 = new QComboBox(bandeau);
-    Combo1->setObjectName(QStringLiteral("Combo1"));
+    Combo1->setObjectName(u"Combo1"_s);
     for (const char* ordre : ordres)
         Combo1->addItem(texte(ordre));
-    Combo1->setToolTip(QStringLiteral("Cliquez pour modifier l'ordre d'apparition des fiches"));
+    Combo1->setToolTip(u"Cliquez pour modifier l'ordre d'apparition des fiches"_s);
     // As wide as its longest order, so that the order in force always reads whole.
     Combo1->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     bas->addWidget(Combo1, 0, Qt::AlignVCenter);
@@ -223,8 +224,8 @@ QWidget* feuille_élève::construire_boutons() {
     int flèches = 0;
     for (const QWidget* flèche : datPrimaryRS->findChildren<QToolButton*>())
         flèches += flèche->sizeHint().width();
-    datPrimaryRS->setMinimumWidth(
-        flèches + datPrimaryRS->fontMetrics().horizontalAdvance(QStringLiteral("Fiche: 000000")) + 12);
+    datPrimaryRS->setMinimumWidth(flèches +
+                                  datPrimaryRS->fontMetrics().horizontalAdvance(u"Fiche: 000000"_s) + 12);
     for (QWidget* w : std::initializer_list<QWidget*>{datPrimaryRS, cmdAjouter, cmdSupprimer, cmdRafraîchir,
                                                       cmdMettreàjour, cmdFermer}) {
         retirer_de(layout(), w);
@@ -247,20 +248,20 @@ void feuille_élève::construire_onglets(FieldBuilder& disposition) {
         SSTab1->addTab(page, texte(légende));
     }
     auto page = [this](int i) { return static_cast<QVBoxLayout*>(SSTab1->widget(i)->layout()); };
-    page(0)->addWidget(disposition.addGroupBox(QStringLiteral("Frame3"), this));
-    page(0)->addWidget(disposition.addGroupBox(QStringLiteral("Frame13"), this));
+    page(0)->addWidget(disposition.addGroupBox(u"Frame3"_s, this));
+    page(0)->addWidget(disposition.addGroupBox(u"Frame13"_s, this));
     // The picture stands on the right of the identity, its button under it.
-    photo = new QLabel(disposition.grid(QStringLiteral("Frame3"))->parentWidget());
-    photo->setObjectName(QStringLiteral("photo"));
+    photo = new QLabel(disposition.grid(u"Frame3"_s)->parentWidget());
+    photo->setObjectName(u"photo"_s);
     photo->setFrameShape(QFrame::Box);
     photo->setAlignment(Qt::AlignCenter);
     photo->setFixedSize(120, 150);
     photo->setScaledContents(false);
 
-    page(1)->addWidget(disposition.addGroupBox(QStringLiteral("Frame4"), this));
+    page(1)->addWidget(disposition.addGroupBox(u"Frame4"_s, this));
     construire_contacts(SSTab1->widget(2));
 
-    auto* Frame7 = disposition.addGroupBox(QStringLiteral("Frame7"), this);
+    auto* Frame7 = disposition.addGroupBox(u"Frame7"_s, this);
     page(3)->addWidget(Frame7);
     Command16 =
         nouveau_bouton(Frame7, "Command16",
@@ -268,12 +269,12 @@ void feuille_élève::construire_onglets(FieldBuilder& disposition) {
                        "Cliquez pour accepter automatiquement l'adresse du responsable légal en tant "
                        "qu'adresse du responsable légal");
     // The copy of the family's address comes first: it fills most of the fields below it.
-    const QString résidence = QStringLiteral("Frame7");
+    const QString résidence = u"Frame7"_s;
     disposition.grid(résidence)->addWidget(Command16, disposition.takeRow(résidence), 0, 1, -1);
 
     auto* côte_à_côte = new QHBoxLayout;
-    côte_à_côte->addWidget(disposition.addGroupBox(QStringLiteral("Frame8"), this), 3);
-    côte_à_côte->addWidget(disposition.addGroupBox(QStringLiteral("Frame6"), this), 2, Qt::AlignTop);
+    côte_à_côte->addWidget(disposition.addGroupBox(u"Frame8"_s, this), 3);
+    côte_à_côte->addWidget(disposition.addGroupBox(u"Frame6"_s, this), 2, Qt::AlignTop);
     page(4)->addLayout(côte_à_côte);
     auto* bas = new QGridLayout;
     page(4)->addLayout(bas);
@@ -308,11 +309,10 @@ void feuille_élève::construire_contacts(QWidget* page) {
         auto* numéro = new QLabel(n, Frame5);
         numéro->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         g->addWidget(numéro, i + 1, 0);
-        nom_contact[i] = ligne(QStringLiteral("nom_contact") + n, 30, "Nom d'une personne à contacter");
-        prénom_contact[i] =
-            ligne(QStringLiteral("prénom_contact") + n, 30, "Prénom d'une personne à contacter");
-        téléphone_contact[i] = ligne(QStringLiteral("téléphone_contact") + n, 20,
-                                     "Coordonnées téléphoniques d'une personne à contacter");
+        nom_contact[i] = ligne(u"nom_contact"_s + n, 30, "Nom d'une personne à contacter");
+        prénom_contact[i] = ligne(u"prénom_contact"_s + n, 30, "Prénom d'une personne à contacter");
+        téléphone_contact[i] =
+            ligne(u"téléphone_contact"_s + n, 20, "Coordonnées téléphoniques d'une personne à contacter");
         g->addWidget(nom_contact[i], i + 1, 1);
         g->addWidget(prénom_contact[i], i + 1, 2);
         g->addWidget(téléphone_contact[i], i + 1, 3);
@@ -329,10 +329,10 @@ void feuille_élève::construire_paramétrables(QWidget* page, int premier) {
     g->setColumnStretch(1, 1);
     for (int i = premier; i < premier + 5; ++i) {
         const QString n = QString::number(i + 1);
-        lblLabels[i] = new QLabel(QStringLiteral("champ paramétable ") + n, cadre_page);
-        lblLabels[i]->setObjectName(QStringLiteral("lblLabels") + n);
-        porteurs_aide[i] = new QLabel(QStringLiteral("infobulle"), cadre_page);
-        porteurs_aide[i]->setObjectName(QStringLiteral("Label") + QString::number(i + 2));
+        lblLabels[i] = new QLabel(u"champ paramétable "_s + n, cadre_page);
+        lblLabels[i]->setObjectName(u"lblLabels"_s + n);
+        porteurs_aide[i] = new QLabel(u"infobulle"_s, cadre_page);
+        porteurs_aide[i]->setObjectName(u"Label"_s + QString::number(i + 2));
         porteurs_aide[i]->hide();
 
         const bool plusieurs_lignes = i == 4 || i == 8 || i == 9;
@@ -344,7 +344,7 @@ void feuille_élève::construire_paramétrables(QWidget* page, int premier) {
             limiter_saisie(*e, 50);
             saisie = e;
         }
-        saisie->setObjectName(QStringLiteral("champ_paramétable") + n);
+        saisie->setObjectName(u"champ_paramétable"_s + n);
         champ_paramétable[i] = saisie;
         lblLabels[i]->setBuddy(saisie);
         const int ligne = i - premier;
@@ -360,8 +360,8 @@ void feuille_élève::construire_documents(QWidget* page) {
 
     // A list to pick from: the templates are written on their own screen, never here.
     grdDataGrid = new DBGrid(Frame1);
-    grdDataGrid->setObjectName(QStringLiteral("grdDataGrid"));
-    grdDataGrid->addColumn(QStringLiteral("intitulé_bouton"), QStringLiteral("documents existants"));
+    grdDataGrid->setObjectName(u"grdDataGrid"_s);
+    grdDataGrid->addColumn(u"intitulé_bouton"_s, u"documents existants"_s);
     grdDataGrid->setDataSource(Data2);
     grdDataGrid->setEditTriggers(QAbstractItemView::NoEditTriggers);
     grdDataGrid->horizontalHeader()->setStretchLastSection(true);
@@ -370,8 +370,8 @@ void feuille_élève::construire_documents(QWidget* page) {
     grdDataGrid->setAllowAddNew(false);
     pile->addWidget(grdDataGrid, 1);
 
-    Check1 = new QCheckBox(QStringLiteral("Impression directe sans prévisualisation"), Frame1);
-    Check1->setObjectName(QStringLiteral("Check1"));
+    Check1 = new QCheckBox(u"Impression directe sans prévisualisation"_s, Frame1);
+    Check1->setObjectName(u"Check1"_s);
     pile->addWidget(Check1);
     auto* boutons = new QHBoxLayout;
     documents_suite =
@@ -389,11 +389,10 @@ void feuille_élève::construire_documents(QWidget* page) {
 // What the rows do not place: the family button beside its reference, the photo right of the identity
 // with its button under it.
 void feuille_élève::finir_disposition(const FieldBuilder& disposition) {
-    disposition.grid(QStringLiteral("Frame12"))->addWidget(Command4, 0, 3);
+    disposition.grid(u"Frame12"_s)->addWidget(Command4, 0, 3);
     référence_famille->setAlignment(Qt::AlignRight);
-    Label12->setFixedWidth(
-        Label12->fontMetrics().horizontalAdvance(QStringLiteral("## 99 a - 12 m - 30 j ##")));
-    const QString identité = QStringLiteral("Frame3");
+    Label12->setFixedWidth(Label12->fontMetrics().horizontalAdvance(u"## 99 a - 12 m - 30 j ##"_s));
+    const QString identité = u"Frame3"_s;
     QGridLayout* grille = disposition.grid(identité);
     const int dernière = disposition.nextRow(identité) - 1;
     grille->addWidget(photo, 0, disposition.columns(identité), dernière, 1, Qt::AlignTop | Qt::AlignHCenter);
@@ -408,8 +407,8 @@ void feuille_élève::poser_tabulation() {
     suite << Combo1 << référence_famille << Command4 << Check2 << cmdAjouter << cmdSupprimer << cmdRafraîchir
           << cmdMettreàjour << cmdFermer << Command3 << établissement_accueil << date_radiation << Command2
           << Command13 << Command15 << Command7 << Command5 << Command14 << Command12 << Command11
-          << Command16 << Command8 << Command9 << Command10
-          << findChild<QWidget*>(QStringLiteral("grdDataGrid")) << Check1 << Command6 << documents_suite;
+          << Command16 << Command8 << Command9 << Command10 << findChild<QWidget*>(u"grdDataGrid"_s) << Check1
+          << Command6 << documents_suite;
     // The school's order runs through all eight pages.
     tabuler_à_travers_onglets(SSTab1, suite);
 }
@@ -523,7 +522,7 @@ void feuille_élève::date_naissance_Change() {
 void feuille_élève::référence_classe_élève_LostFocus() {}
 
 void feuille_élève::Command15_Click() {
-    date_inscription->setText(module1().horloge().aujourdhui().toString(QStringLiteral("dd/MM/yyyy")));
+    date_inscription->setText(module1().horloge().aujourdhui().toString(u"dd/MM/yyyy"_s));
 }
 
 // The template picked in the list opens on its own screen, ready to be changed; a name the list no
@@ -533,7 +532,7 @@ void feuille_élève::Command6_Click() {
         ouvrir_table_documents();
         feuille_documents& documents = module1().feuilles().get<feuille_documents>();
         DataRecordset& rs = documents.datPrimaryRS->Recordset();
-        rs.FindFirst(QStringLiteral("intitulé_bouton = \"") + grdDataGrid->Text() + QStringLiteral("\""));
+        rs.FindFirst(u"intitulé_bouton = \""_s + grdDataGrid->Text() + u"\""_s);
         rs.Edit();
         if (rs.NoMatch())
             rs.AddNew();
@@ -549,7 +548,7 @@ void feuille_élève::Timer1_Timer() {
 
 void étapes_en_plus_élèves(feuille_élève& élève, bool table_vide) {
     if (table_vide)
-        élève.matricule->setText(QStringLiteral("000001"));
+        élève.matricule->setText(u"000001"_s);
     ouvrir_table_documents();
-    pointer_source(*élève.Data2, QStringLiteral("SELECT * FROM documents"));
+    pointer_source(*élève.Data2, u"SELECT * FROM documents"_s);
 }

@@ -3,6 +3,8 @@
 #include "platform/forms/DataControl.h"
 #include "platform/ui/Interaction.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Recherche {
@@ -28,8 +30,8 @@ QString sans_blancs(const QString& texte) {
 }
 
 void positionner(DataControl& source, Interaction& utilisateur, const Recherche& recherche) {
-    const QString réponse = sans_blancs(utilisateur.InputBox(
-        QString::fromUtf8(recherche.invite), QStringLiteral("Positionnement sur une fiche"), QString()));
+    const QString réponse = sans_blancs(utilisateur.InputBox(QString::fromUtf8(recherche.invite),
+                                                             u"Positionnement sur une fiche"_s, QString()));
     if (réponse.isEmpty())
         return;
     DataRecordset& fiches = source.Recordset();
@@ -37,7 +39,7 @@ void positionner(DataControl& source, Interaction& utilisateur, const Recherche&
     fiches.FindFirst(QString::fromUtf8(recherche.début_critère) + réponse +
                      QString::fromUtf8(recherche.fin_critère));
     if (fiches.NoMatch())
-        utilisateur.MsgBox(QStringLiteral("Fiche introuvable..."), vbOKOnly + vbInformation,
+        utilisateur.MsgBox(u"Fiche introuvable..."_s, vbOKOnly + vbInformation,
                            QString::fromUtf8(titre_programme));
 }
 

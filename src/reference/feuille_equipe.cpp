@@ -10,15 +10,17 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr const char* aide_choix = "Cliquez pour accéder aux différents choix possibles";
 
 ConfigurationFiche configuration_équipe() {
     ConfigurationFiche c;
-    c.nom = QStringLiteral("feuille_équipe");
-    c.titre = QStringLiteral("Fiche enseignant");
-    c.source_de_conception = QStringLiteral("select * from [équipe]");
+    c.nom = u"feuille_équipe"_s;
+    c.titre = u"Fiche enseignant"_s;
+    c.source_de_conception = u"select * from [équipe]"_s;
     c.légende = LégendePosition::nue;
     c.ajout = FormeAjout::A;
     c.suppression = FormeSuppression::piégée;
@@ -91,13 +93,13 @@ void feuille_équipe::construire() {
     disposition.build(*this, champs());
     disposition.chainTabOrder();
     retirer_de(layout(), bouton_accepter);
-    const QString classe = QStringLiteral("Frame3");
+    const QString classe = u"Frame3"_s;
     disposition.grid(classe)->addWidget(bouton_accepter, disposition.nextRow(classe), 1, 1,
                                         disposition.columns(classe) - 1);
 
-    Command3 = new QPushButton(QStringLiteral("&Imprimer"), corps());
-    Command3->setObjectName(QStringLiteral("Command3"));
-    Command3->setToolTip(QStringLiteral("Cliquez pour imprimer la fiche"));
+    Command3 = new QPushButton(u"&Imprimer"_s, corps());
+    Command3->setObjectName(u"Command3"_s);
+    Command3->setToolTip(u"Cliquez pour imprimer la fiche"_s);
     auto* bas = new QHBoxLayout;
     bas->addStretch(1);
     bas->addWidget(Command3);

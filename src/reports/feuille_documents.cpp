@@ -6,13 +6,15 @@
 #include <QGridLayout>
 #include <QPushButton>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 ConfigurationFiche configuration_documents() {
     ConfigurationFiche c;
-    c.nom = QStringLiteral("feuille_documents");
-    c.titre = QStringLiteral("Documents");
-    c.source_de_conception = QStringLiteral("documents");
+    c.nom = u"feuille_documents"_s;
+    c.titre = u"Documents"_s;
+    c.source_de_conception = u"documents"_s;
     c.légende = LégendePosition::numérotée;
     c.ajout = FormeAjout::A;
     c.suppression = FormeSuppression::sans_piège;
@@ -84,9 +86,9 @@ void feuille_documents::construire() {
     disposition.build(*this, champs());
     disposition.chainTabOrder();
 
-    Command2 = new QPushButton(QStringLiteral("V&oir"), corps());
-    Command2->setObjectName(QStringLiteral("Command2"));
-    Command2->setToolTip(QStringLiteral("Cliquez pour voir le document"));
+    Command2 = new QPushButton(u"V&oir"_s, corps());
+    Command2->setObjectName(u"Command2"_s);
+    Command2->setToolTip(u"Cliquez pour voir le document"_s);
     Command2->setAutoDefault(false);
     connect(Command2, &QPushButton::clicked, this, [this] { Command2_Click(); });
     grille->addWidget(Command2, disposition.nextRow(QString()), 1, 1, disposition.columns(QString()) - 1,

@@ -28,6 +28,8 @@
 #include <QVBoxLayout>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The menu tree, in order. Level 0 is a menu of the bar, 1 an entry of it, 2 an entry of the submenu
@@ -174,12 +176,12 @@ const ÉcranAprèsOuverture écrans_après_ouverture[] = {
 
 } // namespace
 
-MDIForm1::MDIForm1() : Feuille(QStringLiteral("MDIForm1"), Genre::haut_niveau) {
-    setWindowTitle(QStringLiteral("Norvane - version 2"));
+MDIForm1::MDIForm1() : Feuille(u"MDIForm1"_s, Genre::haut_niveau) {
+    setWindowTitle(u"Norvane - version 2"_s);
     fenêtre = new QMainWindow(this);
     fenêtre->setWindowFlags(Qt::Widget);
     zone = new QMdiArea(fenêtre);
-    zone->setObjectName(QStringLiteral("zone"));
+    zone->setObjectName(u"zone"_s);
     zone->setBackground(QColor(0x5b, 0x7a, 0x99));
     fenêtre->setCentralWidget(zone);
     auto* disposition = new QVBoxLayout(this);
@@ -233,13 +235,13 @@ void MDIForm1::construire_menus() {
 
 void MDIForm1::construire_barre_d_état() {
     StatusBar1 = fenêtre->statusBar();
-    StatusBar1->setObjectName(QStringLiteral("StatusBar1"));
+    StatusBar1->setObjectName(u"StatusBar1"_s);
     StatusBar1->setSizeGripEnabled(true);
     const int largeurs[] = {0, 90, 70, 50, 50, 55};
     for (int i = 1; i <= 6; ++i) {
         // The first panel names the open base: a long path is shortened in the middle, never clipped.
         QLabel* panneau = i == 1 ? new ÉtiquetteÉlidée(StatusBar1) : new QLabel(StatusBar1);
-        panneau->setObjectName(QStringLiteral("Panel%1").arg(i));
+        panneau->setObjectName(u"Panel%1"_s.arg(i));
         panneau->setFrameStyle(QFrame::Panel | QFrame::Sunken);
         panneau->setContentsMargins(4, 0, 4, 0);
         if (i == 1) {
@@ -250,12 +252,12 @@ void MDIForm1::construire_barre_d_état() {
             StatusBar1->addPermanentWidget(panneau);
         }
     }
-    panneau(4)->setText(QStringLiteral("MAJ"));
-    panneau(5)->setText(QStringLiteral("NUM"));
-    panneau(6)->setText(QStringLiteral("INSER"));
+    panneau(4)->setText(u"MAJ"_s);
+    panneau(5)->setText(u"NUM"_s);
+    panneau(6)->setText(u"INSER"_s);
     qApp->installEventFilter(new SuiviDesTouches(panneau(4), panneau(5), panneau(6), this));
     auto* horloge = new QTimer(this);
-    horloge->setObjectName(QStringLiteral("horloge_barre"));
+    horloge->setObjectName(u"horloge_barre"_s);
     relier(horloge, &QTimer::timeout, this, &MDIForm1::mettre_à_jour_l_heure);
     horloge->start(1000);
     mettre_à_jour_l_heure();
@@ -263,8 +265,8 @@ void MDIForm1::construire_barre_d_état() {
 
 void MDIForm1::mettre_à_jour_l_heure() {
     const QDateTime maintenant = horloge().maintenant();
-    panneau(2)->setText(maintenant.toString(QStringLiteral("dd/MM/yyyy")));
-    panneau(3)->setText(maintenant.toString(QStringLiteral("HH:mm")));
+    panneau(2)->setText(maintenant.toString(u"dd/MM/yyyy"_s));
+    panneau(3)->setText(maintenant.toString(u"HH:mm"_s));
 }
 
 QAction* MDIForm1::menu(const QString& nom) const {
@@ -275,7 +277,7 @@ QAction* MDIForm1::menu(const QString& nom) const {
 }
 
 QLabel* MDIForm1::panneau(int numéro) const {
-    return StatusBar1->findChild<QLabel*>(QStringLiteral("Panel%1").arg(numéro));
+    return StatusBar1->findChild<QLabel*>(u"Panel%1"_s.arg(numéro));
 }
 
 QString MDIForm1::Panel1() const {
@@ -329,8 +331,7 @@ void MDIForm1::Form_Load() {
 
 void MDIForm1::Form_QueryUnload(int& cancel) {
     en_silence([&] {
-        const int réponse =
-            interaction().MsgBox(QStringLiteral("Voulez-vous quitter le logiciel?"), vbYesNo + vbQuestion);
+        const int réponse = interaction().MsgBox(u"Voulez-vous quitter le logiciel?"_s, vbYesNo + vbQuestion);
         if (réponse == vbNo)
             cancel = 1;
     });
@@ -362,7 +363,7 @@ void MDIForm1::menufichierindex3_Click() {
         feuilles().get<feuille_choix_base>().Label4->setText(QString());
         setPanel1(QString());
         désactiver_menus();
-        interaction().MsgBox(QStringLiteral("La base est fermée..."), vbInformation);
+        interaction().MsgBox(u"La base est fermée..."_s, vbInformation);
     });
 }
 

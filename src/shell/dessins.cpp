@@ -9,6 +9,8 @@
 #include <QRadialGradient>
 #include <functional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // A filled shape through its corners, with the current brush.
@@ -92,11 +94,11 @@ void école(QPainter& p) {
     p.setBrush(QColor(0x2f, 0x5d, 0x8a));
     p.drawRoundedRect(QRectF(66, 38, 28, 6), 1, 1);
     p.setPen(Qt::white);
-    QFont police(QStringLiteral("DejaVu Sans"));
+    QFont police(u"DejaVu Sans"_s);
     police.setPixelSize(4);
     police.setBold(true);
     p.setFont(police);
-    p.drawText(QRectF(66, 38, 28, 6), Qt::AlignCenter, QStringLiteral("ÉCOLE"));
+    p.drawText(QRectF(66, 38, 28, 6), Qt::AlignCenter, u"ÉCOLE"_s);
     p.setPen(QPen(QColor(0x55, 0x55, 0x55), 0.6));
     p.setBrush(Qt::white);
     p.drawEllipse(QPointF(80, 31), 3.2, 3.2);

@@ -20,30 +20,32 @@
 #include "shell/MDIForm1.h"
 #include "shell/feuille_patientez.h"
 
+using namespace Qt::StringLiterals;
+
 // A screen that another subsystem reaches joins here, one line, as it is built. Until then a lookup
 // treats its caller's values of origine_appel as unknown (feuille_famille, feuille_école and
 // feuille_inspection are still to come).
 void faire_connaître_les_écrans() {
     Feuilles& registre = feuilles();
     // The callers into whose fields the lookups write.
-    registre.faireConnaître<feuille_élève>(QStringLiteral("feuille_élève"));
-    registre.faireConnaître<feuille_équipe>(QStringLiteral("feuille_équipe"));
+    registre.faireConnaître<feuille_élève>(u"feuille_élève"_s);
+    registre.faireConnaître<feuille_équipe>(u"feuille_équipe"_s);
     // The screens of the ouvrir_table_<table> family.
-    registre.faireConnaître<feuille_documents>(QStringLiteral("feuille_documents"));
-    registre.faireConnaître<feuille_adresses>(QStringLiteral("feuille_adresses"));
-    registre.faireConnaître<feuille_assertions>(QStringLiteral("feuille_assertions"));
-    registre.faireConnaître<feuille_assurances>(QStringLiteral("feuille_assurances"));
-    registre.faireConnaître<feuille_csp>(QStringLiteral("feuille_csp"));
-    registre.faireConnaître<feuille_genres>(QStringLiteral("feuille_genres"));
-    registre.faireConnaître<feuille_hôpitaux>(QStringLiteral("feuille_hôpitaux"));
-    registre.faireConnaître<feuille_langues_vivantes>(QStringLiteral("feuille_langues_vivantes"));
-    registre.faireConnaître<feuille_médecins>(QStringLiteral("feuille_médecins"));
-    registre.faireConnaître<feuille_nationalités>(QStringLiteral("feuille_nationalités"));
-    registre.faireConnaître<feuille_niveaux>(QStringLiteral("feuille_niveaux"));
-    registre.faireConnaître<feuille_sexe>(QStringLiteral("feuille_sexe"));
-    registre.faireConnaître<feuille_situations_familiales>(QStringLiteral("feuille_situations_familiales"));
-    registre.faireConnaître<feuille_villes>(QStringLiteral("feuille_villes"));
+    registre.faireConnaître<feuille_documents>(u"feuille_documents"_s);
+    registre.faireConnaître<feuille_adresses>(u"feuille_adresses"_s);
+    registre.faireConnaître<feuille_assertions>(u"feuille_assertions"_s);
+    registre.faireConnaître<feuille_assurances>(u"feuille_assurances"_s);
+    registre.faireConnaître<feuille_csp>(u"feuille_csp"_s);
+    registre.faireConnaître<feuille_genres>(u"feuille_genres"_s);
+    registre.faireConnaître<feuille_hôpitaux>(u"feuille_hôpitaux"_s);
+    registre.faireConnaître<feuille_langues_vivantes>(u"feuille_langues_vivantes"_s);
+    registre.faireConnaître<feuille_médecins>(u"feuille_médecins"_s);
+    registre.faireConnaître<feuille_nationalités>(u"feuille_nationalités"_s);
+    registre.faireConnaître<feuille_niveaux>(u"feuille_niveaux"_s);
+    registre.faireConnaître<feuille_sexe>(u"feuille_sexe"_s);
+    registre.faireConnaître<feuille_situations_familiales>(u"feuille_situations_familiales"_s);
+    registre.faireConnaître<feuille_villes>(u"feuille_villes"_s);
     // What the opening of a base, in the store, asks of the shell.
-    registre.faireConnaître<MDIForm1>(QStringLiteral("MDIForm1"));
-    registre.faireConnaître<feuille_patientez>(QStringLiteral("feuille_patientez"));
+    registre.faireConnaître<MDIForm1>(u"MDIForm1"_s);
+    registre.faireConnaître<feuille_patientez>(u"feuille_patientez"_s);
 }

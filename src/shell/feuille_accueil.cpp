@@ -20,6 +20,8 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr uint32_t jaune_pâle = 0x80FFFF;
@@ -29,7 +31,7 @@ QLabel* étiquette(QWidget* parent, const char* nom, const QString& texte, doubl
                   const QColor& couleur) {
     auto* l = new QLabel(texte, parent);
     l->setObjectName(QString::fromUtf8(nom));
-    QFont police(QStringLiteral("DejaVu Sans"));
+    QFont police(u"DejaVu Sans"_s);
     police.setPointSizeF(9 * échelle);
     police.setBold(gras);
     l->setFont(police);
@@ -41,9 +43,9 @@ QLabel* étiquette(QWidget* parent, const char* nom, const QString& texte, doubl
 
 } // namespace
 
-feuille_accueil::feuille_accueil() : Feuille(QStringLiteral("feuille_accueil"), Genre::haut_niveau) {
+feuille_accueil::feuille_accueil() : Feuille(u"feuille_accueil"_s, Genre::haut_niveau) {
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
-    setWindowTitle(QStringLiteral("Norvane v2"));
+    setWindowTitle(u"Norvane v2"_s);
     setFocusPolicy(Qt::StrongFocus);
     construire();
     Timer1 = minuterie_clignotante(*this, 600, [this] { Timer1_Timer(); });
@@ -58,7 +60,7 @@ void feuille_accueil::construire() {
     auto* disposition = new QVBoxLayout(this);
     disposition->setContentsMargins(12, 12, 12, 12);
     Frame1 = new QFrame(this);
-    Frame1->setObjectName(QStringLiteral("Frame1"));
+    Frame1->setObjectName(u"Frame1"_s);
     Frame1->setFrameStyle(QFrame::Box | QFrame::Plain);
     QPalette cadre = Frame1->palette();
     cadre.setColor(QPalette::Window, Qt::white);
@@ -74,13 +76,13 @@ void feuille_accueil::construire() {
     grille->setVerticalSpacing(6);
 
     Image1 = new QLabel(Frame1);
-    Image1->setObjectName(QStringLiteral("Image1"));
+    Image1->setObjectName(u"Image1"_s);
     Image1->setPixmap(dessin_école(QSize(352, 220)));
     Image1->setFrameStyle(QFrame::Box | QFrame::Plain);
     grille->addWidget(Image1, 0, 0, 6, 1);
 
     Image2 = new QLabel(Frame1);
-    Image2->setObjectName(QStringLiteral("Image2"));
+    Image2->setObjectName(u"Image2"_s);
     Image2->setPixmap(dessin_cahier(QSize(56, 56)));
     grille->addWidget(Image2, 0, 2, 2, 1, Qt::AlignRight | Qt::AlignTop);
 
@@ -88,11 +90,11 @@ void feuille_accueil::construire() {
     grille->addWidget(lblProductName, 0, 1, Qt::AlignLeft | Qt::AlignBottom);
     lblVersion = étiquette(Frame1, "lblVersion", QString(), 1.3, false, encre);
     grille->addWidget(lblVersion, 1, 1, Qt::AlignLeft | Qt::AlignTop);
-    lblPlatform = étiquette(Frame1, "lblPlatform", QStringLiteral("Pour Windows et Linux"), 1.1, false, gris);
+    lblPlatform = étiquette(Frame1, "lblPlatform", u"Pour Windows et Linux"_s, 1.1, false, gris);
     grille->addWidget(lblPlatform, 2, 1, 1, 2);
-    lblCompany = étiquette(Frame1, "lblCompany",
-                           QStringLiteral("La gestion administrative de l'école\nmaternelle et élémentaire"),
-                           1.1, true, encre);
+    lblCompany =
+        étiquette(Frame1, "lblCompany", u"La gestion administrative de l'école\nmaternelle et élémentaire"_s,
+                  1.1, true, encre);
     grille->addWidget(lblCompany, 3, 1, 1, 2);
     grille->setRowStretch(4, 1);
     lblWarning =
@@ -104,8 +106,7 @@ void feuille_accueil::construire() {
     lblWarning->setWordWrap(true);
     grille->addWidget(lblWarning, 6, 0, 1, 3);
 
-    Label1 = étiquette(Frame1, "Label1", QStringLiteral("Cliquez ou pressez une touche quelconque"), 1.35,
-                       true, encre);
+    Label1 = étiquette(Frame1, "Label1", u"Cliquez ou pressez une touche quelconque"_s, 1.35, true, encre);
     Label1->setAlignment(Qt::AlignCenter);
     Label1->setMargin(6);
     fixer_BackColor(*Label1, jaune_pâle);
@@ -113,7 +114,7 @@ void feuille_accueil::construire() {
     grille->addWidget(Label1, 7, 0, 1, 3);
 
     File1 = new FileListBox(this);
-    File1->setObjectName(QStringLiteral("File1"));
+    File1->setObjectName(u"File1"_s);
     File1->hide();
 
     for (QWidget* w : std::initializer_list<QWidget*>{Frame1, Image1, Image2, Label1, lblCompany, lblPlatform,
@@ -123,7 +124,7 @@ void feuille_accueil::construire() {
 
 void feuille_accueil::Form_Load() {
     lblVersion->setText(
-        QStringLiteral("Version %1.%2.%3").arg(version_majeure).arg(version_mineure).arg(version_révision));
+        u"Version %1.%2.%3"_s.arg(version_majeure).arg(version_mineure).arg(version_révision));
     lblProductName->setText(QString::fromUtf8(titre_programme));
     centrer_feuille(*this);
     Show();

@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QCheckBox* case_à_cocher(QWidget* parent, const char* nom, const char* légende, const char* infobulle) {
@@ -24,13 +26,13 @@ QCheckBox* case_à_cocher(QWidget* parent, const char* nom, const char* légende
 
 } // namespace
 
-feuille_options::feuille_options() : Feuille(QStringLiteral("feuille_options")) {
-    setWindowTitle(QStringLiteral("Options de démarrage"));
+feuille_options::feuille_options() : Feuille(u"feuille_options"_s) {
+    setWindowTitle(u"Options de démarrage"_s);
     auto* disposition = new QVBoxLayout(this);
     disposition->setContentsMargins(18, 14, 18, 14);
     disposition->setSpacing(8);
-    Label1 = new QLabel(QStringLiteral("Au démarrage du logiciel,"), this);
-    Label1->setObjectName(QStringLiteral("Label1"));
+    Label1 = new QLabel(u"Au démarrage du logiciel,"_s, this);
+    Label1->setObjectName(u"Label1"_s);
     disposition->addWidget(Label1);
     Check1 = case_à_cocher(this, "Check1", "afficher la fenêtre de gestion des familles",
                            "Cochez pour afficher automatiquement la fenêtre de gestion des familles au "
@@ -47,9 +49,9 @@ feuille_options::feuille_options() : Feuille(QStringLiteral("feuille_options")) 
                            "démarrage du logiciel");
     auto* rangée = new QHBoxLayout;
     rangée->addStretch(1);
-    cmdFermer = new QPushButton(QStringLiteral("Accepter && &Fermer"), this);
-    cmdFermer->setObjectName(QStringLiteral("cmdFermer"));
-    cmdFermer->setToolTip(QStringLiteral("Cliquez pour fermer cette fenêtre"));
+    cmdFermer = new QPushButton(u"Accepter && &Fermer"_s, this);
+    cmdFermer->setObjectName(u"cmdFermer"_s);
+    cmdFermer->setToolTip(u"Cliquez pour fermer cette fenêtre"_s);
     rangée->addWidget(cmdFermer);
     disposition->addSpacing(6);
     disposition->addLayout(rangée);

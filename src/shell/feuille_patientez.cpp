@@ -7,16 +7,18 @@
 #include <QLabel>
 #include <QStyle>
 
-feuille_patientez::feuille_patientez() : Feuille(QStringLiteral("feuille_patientez")) {
-    setWindowTitle(QStringLiteral("Norvane v2"));
+using namespace Qt::StringLiterals;
+
+feuille_patientez::feuille_patientez() : Feuille(u"feuille_patientez"_s) {
+    setWindowTitle(u"Norvane v2"_s);
     auto* disposition = new QHBoxLayout(this);
     disposition->setContentsMargins(24, 18, 24, 18);
     disposition->setSpacing(14);
     auto* icône = new QLabel(this);
     icône->setPixmap(QApplication::style()->standardIcon(QStyle::SP_MessageBoxInformation).pixmap(32, 32));
     disposition->addWidget(icône);
-    Label1 = new QLabel(QStringLiteral("Patientez quelques instants..."), this);
-    Label1->setObjectName(QStringLiteral("Label1"));
+    Label1 = new QLabel(u"Patientez quelques instants..."_s, this);
+    Label1->setObjectName(u"Label1"_s);
     QFont police = Label1->font();
     police.setPointSizeF(police.pointSizeF() * 1.15);
     Label1->setFont(police);

@@ -11,13 +11,15 @@
 #include <QFile>
 #include <QLabel>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int erreur_fichier_déjà_ouvert = 55;
 constexpr int erreur_accès_chemin = 75;
 
 QString chemin_options() {
-    return module1().chemin_application + QStringLiteral("options.ini");
+    return module1().chemin_application + u"options.ini"_s;
 }
 
 // A child screen cannot exist without the main window: the first touch of the options brings it up,

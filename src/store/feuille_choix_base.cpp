@@ -18,6 +18,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QPushButton* bouton(QWidget* parent, const char* nom, const char* légende, const char* infobulle) {
@@ -43,8 +45,8 @@ template <class W> W* nommé(W* contrôle, const char* nom, const char* infobull
 
 } // namespace
 
-feuille_choix_base::feuille_choix_base() : Feuille(QStringLiteral("feuille_choix_base")) {
-    setWindowTitle(QStringLiteral("Sélection de la base de travail"));
+feuille_choix_base::feuille_choix_base() : Feuille(u"feuille_choix_base"_s) {
+    setWindowTitle(u"Sélection de la base de travail"_s);
     auto* grille = new QGridLayout(this);
     grille->setContentsMargins(14, 12, 14, 12);
     grille->setHorizontalSpacing(14);
@@ -62,13 +64,13 @@ feuille_choix_base::feuille_choix_base() : Feuille(QStringLiteral("feuille_choix
     grille->addWidget(titre("Bases de données", this), 0, 1);
     File1 = nommé(new FileListBox(this), "File1",
                   "Sélectionnez la base de données sur laquelle vous souhaitez travailler");
-    File1->setPattern(QStringLiteral("*.mdb"));
+    File1->setPattern(u"*.mdb"_s);
     File1->setMinimumSize(220, 200);
     grille->addWidget(File1, 1, 1, 3, 1);
 
     grille->addWidget(titre("Base de données sélectionnée", this), 4, 0, 1, 2);
     Label4 = new ÉtiquetteÉlidée(this);
-    Label4->setObjectName(QStringLiteral("Label4"));
+    Label4->setObjectName(u"Label4"_s);
     Label4->setFrameStyle(QFrame::Panel | QFrame::Sunken);
     Label4->setMinimumHeight(24);
     Label4->setMargin(2);
@@ -83,7 +85,7 @@ feuille_choix_base::feuille_choix_base() : Feuille(QStringLiteral("feuille_choix
     boutons->addWidget(cmdMettreàjour);
     boutons->addWidget(cmdFermer);
     boutons->addSpacing(12);
-    auto* fichiers = new QGroupBox(QStringLiteral("Fichiers"), this);
+    auto* fichiers = new QGroupBox(u"Fichiers"_s, this);
     auto* colonne = new QVBoxLayout(fichiers);
     cmdAjouter = bouton(fichiers, "cmdAjouter", "&Dupliquer",
                         "Cliquez pour dupliquer une base de données existante sous un autre nom (la base est "
@@ -111,14 +113,14 @@ feuille_choix_base::feuille_choix_base() : Feuille(QStringLiteral("feuille_choix
     grille->addLayout(boutons, 0, 2, 6, 1);
 
     datPrimaryRS = new DataControl(this);
-    datPrimaryRS->setObjectName(QStringLiteral("datPrimaryRS"));
+    datPrimaryRS->setObjectName(u"datPrimaryRS"_s);
     datPrimaryRS->hide();
     accès_actuel = new QLineEdit(this);
-    accès_actuel->setObjectName(QStringLiteral("accès_actuel"));
+    accès_actuel->setObjectName(u"accès_actuel"_s);
     accès_actuel->hide();
-    datPrimaryRS->bind(accès_actuel, QStringLiteral("passe"));
+    datPrimaryRS->bind(accès_actuel, u"passe"_s);
     accès_tentavive = new QLineEdit(this);
-    accès_tentavive->setObjectName(QStringLiteral("accès_tentavive"));
+    accès_tentavive->setObjectName(u"accès_tentavive"_s);
     accès_tentavive->hide();
     avantDéchargement([this] { datPrimaryRS->unload(); });
 

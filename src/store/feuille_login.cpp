@@ -21,6 +21,8 @@
 #include <QPushButton>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int erreur_appel_incorrect = 5;
@@ -83,7 +85,7 @@ QPixmap dessin_clé(const QSize& taille) {
 
 } // namespace
 
-feuille_login::feuille_login() : Feuille(QStringLiteral("feuille_login"), Genre::haut_niveau) {
+feuille_login::feuille_login() : Feuille(u"feuille_login"_s, Genre::haut_niveau) {
     setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
     setWindowModality(Qt::ApplicationModal);
     setWindowTitle(QString());
@@ -99,12 +101,12 @@ feuille_login::feuille_login() : Feuille(QStringLiteral("feuille_login"), Genre:
     grille->setContentsMargins(18, 16, 18, 14);
     grille->setHorizontalSpacing(14);
     Image1 = new QLabel(cadre);
-    Image1->setObjectName(QStringLiteral("Image1"));
+    Image1->setObjectName(u"Image1"_s);
     Image1->setPixmap(dessin_cadenas(QSize(48, 48)));
     Image1->setFixedSize(48, 48);
     grille->addWidget(Image1, 0, 0, 3, 1, Qt::AlignTop);
     Image2 = new QLabel(cadre);
-    Image2->setObjectName(QStringLiteral("Image2"));
+    Image2->setObjectName(u"Image2"_s);
     Image2->setPixmap(dessin_clé(QSize(48, 48)));
     Image2->setFixedSize(48, 48);
     // The pictures blink without moving the text between them.
@@ -118,15 +120,15 @@ feuille_login::feuille_login() : Feuille(QStringLiteral("feuille_login"), Genre:
     const char* lignes[] = {"Saisissez le code d'accès", "à la base de données"};
     for (int i = 0; i < 2; ++i) {
         lblLabels[i] = new QLabel(QString::fromUtf8(lignes[i]), cadre);
-        lblLabels[i]->setObjectName(QStringLiteral("lblLabels%1").arg(i));
+        lblLabels[i]->setObjectName(u"lblLabels%1"_s.arg(i));
         lblLabels[i]->setAlignment(Qt::AlignCenter);
         grille->addWidget(lblLabels[i], i, 1, 1, 2);
     }
     accès_tentavive = new QLineEdit(cadre);
-    accès_tentavive->setObjectName(QStringLiteral("accès_tentavive"));
+    accès_tentavive->setObjectName(u"accès_tentavive"_s);
     accès_tentavive->setEchoMode(QLineEdit::Password);
-    accès_tentavive->setStyleSheet(QStringLiteral("lineedit-password-character: 42;"));
-    accès_tentavive->setToolTip(QStringLiteral("Saisissez le code d'accès à la base de données"));
+    accès_tentavive->setStyleSheet(u"lineedit-password-character: 42;"_s);
+    accès_tentavive->setToolTip(u"Saisissez le code d'accès à la base de données"_s);
     grille->addWidget(accès_tentavive, 2, 1, 1, 2);
 
     cmdMettreàjour =

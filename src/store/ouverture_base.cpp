@@ -15,11 +15,13 @@
 #include <QPointer>
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The main window and the wait notice belong to the shell, above the store, which reaches them by name.
 FeuillePrincipale& feuille_principale() {
-    auto* fenêtre = dynamic_cast<FeuillePrincipale*>(&feuilles().nommée(QStringLiteral("MDIForm1")));
+    auto* fenêtre = dynamic_cast<FeuillePrincipale*>(&feuilles().nommée(u"MDIForm1"_s));
     if (fenêtre == nullptr)
         throw std::logic_error("MDIForm1 n'est pas la fenêtre principale");
     return *fenêtre;
@@ -40,7 +42,7 @@ bool code_accepté(const QPointer<feuille_choix_base>& choix) {
     if (choix->accès_tentavive->text() == choix->accès_actuel->text())
         return true;
     choix->accès_tentavive->setText(QString());
-    interaction().MsgBox(QStringLiteral("Erreur de code d'accès... Accès non-autorisé!"), vbExclamation);
+    interaction().MsgBox(u"Erreur de code d'accès... Accès non-autorisé!"_s, vbExclamation);
     interaction().setMousePointer(vbDefault);
     return false;
 }
@@ -62,7 +64,7 @@ void ouvrir_base_choisie() {
         if (!code_accepté(choix))
             return;
 
-        Feuille& patientez = feuilles().nommée(QStringLiteral("feuille_patientez"));
+        Feuille& patientez = feuilles().nommée(u"feuille_patientez"_s);
         patientez.Show();
         patientez.ZOrder();
         patientez.setFocus();
@@ -72,7 +74,7 @@ void ouvrir_base_choisie() {
         mdi.activer_menus();
         choix->Unload();
         interaction().setMousePointer(vbDefault);
-        mdi.setPanel1(QStringLiteral("Base de données en cours : ") + module1().base_en_cours);
+        mdi.setPanel1(u"Base de données en cours : "_s + module1().base_en_cours);
         patientez.Unload();
         mdi.montrer_écrans_après_ouverture();
     });

@@ -8,6 +8,8 @@
 #include <functional>
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 void pointer_source(DataControl& source, const QString& sql, SiÉchec échec) {
     const std::function<void()> étapes[] = {
         [&] { source.setDatabaseName(module1().base_en_cours); },
@@ -46,7 +48,7 @@ void ouvrir_table_documents() {
 
 // The chooser is the store's own screen.
 void ouvrir_table_passe_choix() {
-    pointer_source(*feuilles().get<feuille_choix_base>().datPrimaryRS, QStringLiteral("SELECT * FROM passe"),
+    pointer_source(*feuilles().get<feuille_choix_base>().datPrimaryRS, u"SELECT * FROM passe"_s,
                    SiÉchec::boîte_standard);
 }
 
@@ -108,5 +110,5 @@ void ouvrir_table_équipe() {
 
 void ouvrir_table_élèves() {
     Feuille& élève = ouvrir_table("feuille_élève", "SELECT * FROM élèves ORDER BY matricule ASC");
-    pointer_source(source_nommée(élève, "Data1"), QStringLiteral("SELECT * FROM paramètres"));
+    pointer_source(source_nommée(élève, "Data1"), u"SELECT * FROM paramètres"_s);
 }

@@ -9,6 +9,8 @@
 #include <QApplication>
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 QString créer_base_élèves(const WorkFolder& dossier) {
     return copie_du_modèle(dossier);
 }
@@ -16,8 +18,7 @@ QString créer_base_élèves(const WorkFolder& dossier) {
 void ajouter_élève(const QString& chemin, const QString& matricule, const QString& nom, const QString& prénom,
                    const QString& référence) {
     auto texte = [](const QString& v) {
-        return v.isNull() ? QStringLiteral("NULL")
-                          : QLatin1Char('\'') + QString(v).replace('\'', "''") + '\'';
+        return v.isNull() ? u"NULL"_s : QLatin1Char('\'') + QString(v).replace('\'', "''") + '\'';
     };
     exécuter_par_le_moteur(chemin, QStringLiteral("INSERT INTO élèves (matricule, nom_élève, prénom_élève, "
                                                   "référence_famille) VALUES (%1, %2, %3, %4)")
@@ -26,7 +27,7 @@ void ajouter_élève(const QString& chemin, const QString& matricule, const QStr
 
 void ajouter_élèves(const QString& chemin, std::initializer_list<const char*> matricules) {
     for (const char* m : matricules)
-        ajouter_élève(chemin, QString::fromUtf8(m), QStringLiteral("NOM") + QString::fromUtf8(m));
+        ajouter_élève(chemin, QString::fromUtf8(m), u"NOM"_s + QString::fromUtf8(m));
 }
 
 ÉcranÉlèveTest::ÉcranÉlèveTest() = default;
@@ -47,7 +48,7 @@ void ÉcranÉlèveTest::TearDown() {
 }
 
 feuille_élève& ÉcranÉlèveTest::ouvrir() {
-    exécuter_commande(*mdi, QStringLiteral("menuenfantsindex1"));
+    exécuter_commande(*mdi, u"menuenfantsindex1"_s);
     auto* f = module1().feuilles().siChargée<feuille_élève>();
     if (!f)
         throw std::runtime_error("la fiche élève ne s'est pas ouverte");
@@ -57,5 +58,5 @@ feuille_élève& ÉcranÉlèveTest::ouvrir() {
 }
 
 QStringList ÉcranÉlèveTest::matricules() const {
-    return colonne_du_fichier(base, QStringLiteral("élèves"), QStringLiteral("matricule"));
+    return colonne_du_fichier(base, u"élèves"_s, u"matricule"_s);
 }

@@ -3,10 +3,12 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QDate jour(const char* jj_mm_aaaa) {
-    return QDate::fromString(QString::fromLatin1(jj_mm_aaaa), QStringLiteral("dd/MM/yyyy"));
+    return QDate::fromString(QString::fromLatin1(jj_mm_aaaa), u"dd/MM/yyyy"_s);
 }
 
 struct CasÂge {

@@ -18,6 +18,8 @@
 #include <gtest/gtest.h>
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int une_ligne_sans_limite = 0;
@@ -152,7 +154,7 @@ protected:
         for (QLabel* l : f->findChildren<QLabel*>())
             if (l->buddy() == champ)
                 return l->text();
-        return QStringLiteral("<aucune>");
+        return u"<aucune>"_s;
     }
 };
 
@@ -237,7 +239,7 @@ TEST_F(FicheEleve, LookupFieldsAreDisabledAndThePathAndHelpCarriersHidden) {
     f->SSTab1->setCurrentIndex(5);
     for (int i = 2; i <= 11; ++i) {
         f->SSTab1->setCurrentIndex(i <= 6 ? 5 : 6);
-        auto* porteur = trouve<QLabel>(QStringLiteral("Label%1").arg(i).toUtf8().constData());
+        auto* porteur = trouve<QLabel>(u"Label%1"_s.arg(i).toUtf8().constData());
         ASSERT_NE(porteur, nullptr) << i;
         EXPECT_FALSE(porteur->isVisible()) << i;
         EXPECT_EQ(porteur->text(), u("infobulle"));

@@ -17,6 +17,8 @@
 #include <QTabWidget>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Élève {
@@ -47,15 +49,15 @@ const Élève école[] = {
 };
 
 QString littéral(const char* texte) {
-    return texte ? QLatin1Char('\'') + u(texte) + QLatin1Char('\'') : QStringLiteral("NULL");
+    return texte ? QLatin1Char('\'') + u(texte) + QLatin1Char('\'') : u"NULL"_s;
 }
 
 // JJ/MM/AAAA as the engine's #m/d/yyyy#.
 QString littéral_date(const char* jj_mm_aaaa) {
     if (!jj_mm_aaaa)
-        return QStringLiteral("NULL");
-    const QDate d = QDate::fromString(u(jj_mm_aaaa), QStringLiteral("dd/MM/yyyy"));
-    return QStringLiteral("#%1/%2/%3#").arg(d.month()).arg(d.day()).arg(d.year());
+        return u"NULL"_s;
+    const QDate d = QDate::fromString(u(jj_mm_aaaa), u"dd/MM/yyyy"_s);
+    return u"#%1/%2/%3#"_s.arg(d.month()).arg(d.day()).arg(d.year());
 }
 
 void inscrire(const QString& base, const Élève& e) {

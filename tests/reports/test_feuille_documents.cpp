@@ -14,6 +14,8 @@
 #include <QPushButton>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class FeuilleDocumentsTest : public WorkFolderTest {
@@ -27,7 +29,7 @@ protected:
     // What the menu's command does before showing the screen.
     feuille_documents& ouvrir() {
         auto& f = module1().feuilles().get<feuille_documents>();
-        f.pointer_sur(module1().base_en_cours, QStringLiteral("SELECT * FROM documents"));
+        f.pointer_sur(module1().base_en_cours, u"SELECT * FROM documents"_s);
         montrer_active(f);
         return f;
     }

@@ -8,9 +8,11 @@
 #include <QMdiSubWindow>
 #include <QPushButton>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString table_sexe = QStringLiteral("CREATE TABLE sexe (détails VARCHAR(8));");
+const QString table_sexe = u"CREATE TABLE sexe (détails VARCHAR(8));"_s;
 
 class RègleDePréparation : public Démarrage {
 protected:

@@ -8,6 +8,8 @@
 #include <QTimer>
 #include <QWindow>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // What a user can see and what lands on disk once the start has settled.
@@ -41,7 +43,7 @@ protected:
         return {options_ini(),
                 m.base_en_cours,
                 m.chemin_application,
-                choix() ? choix()->Label4->text() : QStringLiteral("(déchargé)"),
+                choix() ? choix()->Label4->text() : u"(déchargé)"_s,
                 mdi() ? mdi()->Panel1() : QString(),
                 feuilles().siChargée<feuille_accueil>() != nullptr,
                 mdi() != nullptr && mdi()->isVisible(),

@@ -2,8 +2,8 @@
 
 #include "platform/forms/ListesFichiers.h"
 #include "shell/commandes.h"
-#include "support/PiloteEcran.h"
 #include "support/Donnees.h"
+#include "support/PiloteEcran.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -15,6 +15,8 @@
 #include <QStatusBar>
 #include <QTest>
 #include <QWindow>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -48,7 +50,7 @@ void PrintTo(const Entrée& e, std::ostream* os) {
 
 void parcourir(const QMenu* menu, int niveau, std::vector<Entrée>& entrées) {
     for (const QAction* a : menu->actions()) {
-        entrées.push_back({niveau, a->objectName(), a->isSeparator() ? QStringLiteral("-") : a->text()});
+        entrées.push_back({niveau, a->objectName(), a->isSeparator() ? u"-"_s : a->text()});
         if (a->menu() != nullptr)
             parcourir(a->menu(), niveau + 1, entrées);
     }
@@ -63,7 +65,7 @@ TEST_F(FenêtrePrincipale, LÉtiquetteEtLArbreDesMenusÀLaLettre) {
         parcourir(a->menu(), 1, lues);
     }
     std::vector<Entrée> attendues;
-    for (const QStringList& e : table_de_données(QStringLiteral("menus.tsv")))
+    for (const QStringList& e : table_de_données(u"menus.tsv"_s))
         attendues.push_back({e[0].toInt(), e[1], e[2]});
     EXPECT_EQ(lues, attendues);
 }

@@ -12,6 +12,8 @@
 #include <QPushButton>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class FichierOptions : public WorkFolderTest {
@@ -34,7 +36,7 @@ TEST_F(FichierOptions, ÉcrireDonneCinqLignesCrLfNombresNusEtCheminEntreGuilleme
     programme_chargé();
     fixer_case(options().Check3, 1);
     fixer_case(options().Check4, 1);
-    module1().base_en_cours = QStringLiteral("C:\\écoles\\base.mdb");
+    module1().base_en_cours = u"C:\\écoles\\base.mdb"_s;
     écrire_options();
     EXPECT_EQ(contenu(), QByteArray("0\r\n0\r\n1\r\n1\r\n\"C:\\\xE9"
                                     "coles\\base.mdb\"\r\n"));
@@ -42,7 +44,7 @@ TEST_F(FichierOptions, ÉcrireDonneCinqLignesCrLfNombresNusEtCheminEntreGuilleme
 
 TEST_F(FichierOptions, UnCheminAvecUneVirguleEtDesAccentsSurvitÀLÉcritureEtÀLaLecture) {
     programme_chargé();
-    const QString chemin = QStringLiteral("/srv/Écoles/Année 2024, CM1-CM2/élèves, œuvre.mdb");
+    const QString chemin = u"/srv/Écoles/Année 2024, CM1-CM2/élèves, œuvre.mdb"_s;
     module1().base_en_cours = chemin;
     fixer_case(options().Check1, 1);
     écrire_options();
@@ -57,7 +59,7 @@ TEST_F(FichierOptions, UnCheminAvecUneVirguleEtDesAccentsSurvitÀLÉcritureEtÀL
 
 TEST_F(FichierOptions, UnCaractèreHorsDeLaPageDeCodeEstRemplacéPasPerdu) {
     programme_chargé();
-    module1().base_en_cours = QStringLiteral("/bases/Łódź.mdb");
+    module1().base_en_cours = u"/bases/Łódź.mdb"_s;
     écrire_options();
     EXPECT_TRUE(contenu().endsWith("\"/bases/?\xF3"
                                    "d?.mdb\"\r\n"));
@@ -66,7 +68,7 @@ TEST_F(FichierOptions, UnCaractèreHorsDeLaPageDeCodeEstRemplacéPasPerdu) {
 TEST_F(FichierOptions, UnFichierAbsentEstCrééAvecLesValeursEnPlace) {
     programme_chargé();
     QFile::remove(folder.file("options.ini"));
-    module1().base_en_cours = QStringLiteral("x.mdb");
+    module1().base_en_cours = u"x.mdb"_s;
     lire_options();
     EXPECT_EQ(contenu(), QByteArray("0\r\n0\r\n0\r\n0\r\n\"x.mdb\"\r\n"));
 }
@@ -110,7 +112,7 @@ TEST_F(FichierOptions, LaCommandeDuMenuMontreLesOptionsEtAccepterLesÉcritSansD�
     programme_chargé();
     MDIForm1& mdi = module1().feuilles().get<MDIForm1>();
     mdi.Show();
-    mdi.cliquer(QStringLiteral("menuoptionsindex1"));
+    mdi.cliquer(u"menuoptionsindex1"_s);
     feuille_options& o = options();
     ASSERT_TRUE(o.conteneur().isVisible());
     EXPECT_EQ(o.Check4->toolTip(), o.Check2->toolTip()) << "the exploitation box keeps the pupils' tooltip";

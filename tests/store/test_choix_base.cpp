@@ -23,11 +23,13 @@
 #include <QPushButton>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QString message_sélection =
-    QStringLiteral("Vous devez sélectionner la base de données sur laquelle vous souhaitez travailler...");
-const QString message_code = QStringLiteral("Erreur de code d'accès... Accès non-autorisé!");
+    u"Vous devez sélectionner la base de données sur laquelle vous souhaitez travailler..."_s;
+const QString message_code = u"Erreur de code d'accès... Accès non-autorisé!"_s;
 using Box = ScriptedInteraction::Box;
 
 // The status bar once `base` is open.
@@ -127,7 +129,7 @@ TEST_F(ChoixDeLaBase, UnLongCheminGardeLeNomDuFichierEnVueSansÉlargirLÉcran) {
 }
 
 TEST_F(ChoixDeLaBase, UnClicSurUnFichierEnFaitDéjàLaBaseEnCours) {
-    const QString base = créer_base_de_test(folder.file("ecole.mdb"), QStringLiteral("secret"));
+    const QString base = créer_base_de_test(folder.file("ecole.mdb"), u"secret"_s);
     feuille_choix_base& écran = démarrer_sur_le_choix();
     ASSERT_TRUE(écran.File1->cliquer("ecole.mdb"));
     EXPECT_EQ(écran.Label4->text(), QDir::toNativeSeparators(base));
@@ -181,7 +183,7 @@ TEST_F(ChoixDeLaBase, UneTablePasseSansLigneNeDemandeRienNonPlus) {
 // The code shown is that of the file last read: a file that cannot be read has none, even just after
 // a file that had one.
 TEST_F(ChoixDeLaBase, UnFichierIllisibleAprèsUnFichierÀCodeNeDemandeAucunCode) {
-    créer_base_de_test(folder.file("a.mdb"), QStringLiteral("Secret"));
+    créer_base_de_test(folder.file("a.mdb"), u"Secret"_s);
     const QString abîmée = folder.write("b.mdb", QByteArray(4096, '\x5A'));
     feuille_choix_base& écran = démarrer_sur_le_choix();
     ASSERT_TRUE(écran.File1->cliquer("a.mdb"));
@@ -198,7 +200,7 @@ TEST_F(ChoixDeLaBase, UnFichierIllisibleAprèsUnFichierÀCodeNeDemandeAucunCode)
 }
 
 TEST_F(ChoixDeLaBase, LeBonCodeOuvreLaBase) {
-    const QString base = créer_base_de_test(folder.file("ecole.mdb"), QStringLiteral("Secret"));
+    const QString base = créer_base_de_test(folder.file("ecole.mdb"), u"Secret"_s);
     feuille_choix_base& écran = démarrer_sur_le_choix();
     écran.File1->cliquer("ecole.mdb");
     taper_le_code("Secret");
@@ -212,7 +214,7 @@ TEST_F(ChoixDeLaBase, LeBonCodeOuvreLaBase) {
 class CodeRefusé : public ChoixDeLaBase, public ::testing::WithParamInterface<const char*> {};
 
 TEST_P(CodeRefusé, LaisseLeChoixEtLesMenusMaisGardeLaBaseRefusée) {
-    const QString base = créer_base_de_test(folder.file("ecole.mdb"), QStringLiteral("Secret"));
+    const QString base = créer_base_de_test(folder.file("ecole.mdb"), u"Secret"_s);
     feuille_choix_base& écran = démarrer_sur_le_choix();
     écran.File1->cliquer("ecole.mdb");
     const QString tapé = QString::fromUtf8(GetParam());
@@ -234,7 +236,7 @@ INSTANTIATE_TEST_SUITE_P(Codes, CodeRefusé, ::testing::Values("secret", "Secret
 
 TEST_F(ChoixDeLaBase, UnCodeRefuséQuandUneBaseEstOuverteLaisseSesMenusQuiVontSurLeFichierRefusé) {
     créer_base_de_test(folder.file("a.mdb"), QString(), "CREATE TABLE sexe (détails VARCHAR(8));");
-    const QString refusée = créer_base_de_test(folder.file("b.mdb"), QStringLiteral("Secret"),
+    const QString refusée = créer_base_de_test(folder.file("b.mdb"), u"Secret"_s,
                                                "CREATE TABLE sexe (détails VARCHAR(8));"
                                                "INSERT INTO sexe VALUES ('F');");
     feuille_choix_base& écran = démarrer_sur_le_choix();
@@ -259,7 +261,7 @@ TEST_F(ChoixDeLaBase, UnCodeRefuséQuandUneBaseEstOuverteLaisseSesMenusQuiVontSu
 }
 
 TEST_F(ChoixDeLaBase, ÀLOuvertureAuDémarrageLeBonCodeNeTrouvePasDÉcranPourLeFocus) {
-    const QString base = créer_base_de_test(folder.file("ecole.mdb"), QStringLiteral("Secret"));
+    const QString base = créer_base_de_test(folder.file("ecole.mdb"), u"Secret"_s);
     préparer_options("0\r\n0\r\n1\r\n0\r\n" + ligne_de_base(base));
     taper_le_code("Secret");
     ui().expectMsgBox(vbOK);
@@ -271,7 +273,7 @@ TEST_F(ChoixDeLaBase, ÀLOuvertureAuDémarrageLeBonCodeNeTrouvePasDÉcranPourLeF
 
 // An assistive tool reaches the chooser behind the modal box and cancels it; the right code follows.
 TEST_F(ChoixDeLaBase, LeChoixDéchargéPendantLaBoîteDuCodeArrêteLOuverture) {
-    créer_base_de_test(folder.file("ecole.mdb"), QStringLiteral("Secret"));
+    créer_base_de_test(folder.file("ecole.mdb"), u"Secret"_s);
     démarrer_sur_le_choix().File1->cliquer("ecole.mdb");
     ui().expectModal([this](Feuille& login) {
         choix()->cmdFermer->click();

@@ -4,12 +4,14 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 // The start state: empty paths, 0, the real clock and the real dialogs.
 TEST(Module1, ResetBringsBackTheStartState) {
-    module1().base_en_cours = QStringLiteral("/bases/école.mdb");
-    module1().chemin_application = QStringLiteral("/travail/");
-    module1().chemin_choisi = QStringLiteral("/bases/");
-    module1().chemin_image_choisie = QStringLiteral("/photos/a.jpg");
+    module1().base_en_cours = u"/bases/école.mdb"_s;
+    module1().chemin_application = u"/travail/"_s;
+    module1().chemin_choisi = u"/bases/"_s;
+    module1().chemin_image_choisie = u"/photos/a.jpg"_s;
     module1().origine_appel = 7;
     module1().horloge().fixer(QDateTime(QDate(2024, 9, 2), QTime(8, 30)));
     module1().setInteraction(std::make_shared<ScriptedInteraction>());

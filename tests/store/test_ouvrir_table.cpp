@@ -11,6 +11,8 @@
 #include <QDir>
 #include <QLineEdit>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using PointageDesSources = Démarrage;
@@ -42,7 +44,7 @@ TEST_F(PointageDesSources, ChaqueProcédureChargeParSonNomLÉcranDeSaTable) {
         ouvrir();
         ASSERT_EQ(feuilles().chargées().size(), avant + 1);
         Feuille& écran = *feuilles().chargées().back();
-        const auto* source = écran.findChild<DataControl*>(QStringLiteral("datPrimaryRS"));
+        const auto* source = écran.findChild<DataControl*>(u"datPrimaryRS"_s);
         ASSERT_NE(source, nullptr) << écran.objectName().toStdString();
         const QString table = source->RecordSource().section(u' ', 3, 3);
         EXPECT_TRUE(table.startsWith(écran.objectName().mid(8))) << source->RecordSource().toStdString();
@@ -73,7 +75,7 @@ TEST_F(PointageDesSources, UnFichierQuiNEstPasUneBaseDonneSonErreurAuClic) {
 }
 
 TEST_F(PointageDesSources, FermerBaseLibèreLeFichierQueLeChoixLisait) {
-    const QString base = créer_base_de_test(folder.file("ecole.mdb"), QStringLiteral("x"));
+    const QString base = créer_base_de_test(folder.file("ecole.mdb"), u"x"_s);
     démarrer_par_clic();
     ASSERT_TRUE(choix()->File1->cliquer("ecole.mdb"));
     EXPECT_TRUE(fichier_verrouillé(base));

@@ -9,6 +9,8 @@
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // One connection to the file for the span of one call.
@@ -36,21 +38,21 @@ QStringList colonne_du_fichier(const QString& chemin, const QString& table, cons
     Fichier f(chemin);
     QStringList valeurs;
     sqlite3_stmt* requête = nullptr;
-    const QString sql = QStringLiteral("SELECT \"%1\" FROM \"%2\" ORDER BY rowid").arg(colonne, table);
+    const QString sql = u"SELECT \"%1\" FROM \"%2\" ORDER BY rowid"_s.arg(colonne, table);
     if (sqlite3_prepare_v2(f.db, sql.toUtf8().constData(), -1, &requête, nullptr) != SQLITE_OK) {
         ADD_FAILURE() << "lecture impossible : " << sql.toStdString();
         return valeurs;
     }
     while (sqlite3_step(requête) == SQLITE_ROW) {
         const auto* texte = reinterpret_cast<const char*>(sqlite3_column_text(requête, 0));
-        valeurs << (texte ? QString::fromUtf8(texte) : QStringLiteral("<null>"));
+        valeurs << (texte ? QString::fromUtf8(texte) : u"<null>"_s);
     }
     sqlite3_finalize(requête);
     return valeurs;
 }
 
 void journaliser_écritures(const QString& chemin, const QStringList& tables) {
-    QString sql = QStringLiteral("CREATE TABLE IF NOT EXISTS journal (quoi TEXT);");
+    QString sql = u"CREATE TABLE IF NOT EXISTS journal (quoi TEXT);"_s;
     for (const QString& table : tables)
         sql += QStringLiteral(
                    "CREATE TRIGGER \"%1_maj\" AFTER UPDATE ON \"%1\" BEGIN INSERT INTO journal VALUES "
@@ -61,8 +63,7 @@ void journaliser_écritures(const QString& chemin, const QStringList& tables) {
 }
 
 int écritures_journalisées(const QString& chemin) {
-    return static_cast<int>(
-        colonne_du_fichier(chemin, QStringLiteral("journal"), QStringLiteral("quoi")).size());
+    return static_cast<int>(colonne_du_fichier(chemin, u"journal"_s, u"quoi"_s).size());
 }
 
 void exécuter_par_le_moteur(const QString& chemin, const QString& sql) {
@@ -74,7 +75,7 @@ void exécuter_par_le_moteur(const QString& chemin, const QString& sql) {
 }
 
 QString copie_du_modèle(const WorkFolder& dossier) {
-    const QString chemin = dossier.file(QStringLiteral("travail.mdb"));
+    const QString chemin = dossier.file(u"travail.mdb"_s);
     if (!QFile::copy(template_path(), chemin))
         ADD_FAILURE() << "copie du modèle impossible vers " << chemin.toStdString();
     QFile::setPermissions(chemin, QFile::permissions(chemin) | QFileDevice::WriteOwner);

@@ -5,13 +5,14 @@
 #include <QDir>
 #include <QFile>
 
+using namespace Qt::StringLiterals;
+
 QString créer_base_de_test(const QString& chemin, const std::optional<QString>& code,
                            const QString& en_plus) {
     QFile::remove(chemin);
-    QString sql = QStringLiteral("CREATE TABLE passe (passe VARCHAR(10));");
+    QString sql = u"CREATE TABLE passe (passe VARCHAR(10));"_s;
     if (code)
-        sql += QStringLiteral("INSERT INTO passe (passe) VALUES ('%1');")
-                   .arg(QString(*code).replace('\'', "''"));
+        sql += u"INSERT INTO passe (passe) VALUES ('%1');"_s.arg(QString(*code).replace('\'', "''"));
     sql_direct(chemin, sql + en_plus);
     return chemin;
 }

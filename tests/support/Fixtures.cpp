@@ -9,6 +9,8 @@
 #include <QEvent>
 #include <QFile>
 
+using namespace Qt::StringLiterals;
+
 ScriptedSession::ScriptedSession() : ui_(std::make_shared<ScriptedInteraction>()) {
     module1().réinitialiser();
     processDeletions();
@@ -59,7 +61,7 @@ void ScriptedTest::TearDown() {
     session_.reset();
 }
 
-WorkFolder::WorkFolder() : dir_(QDir::tempPath() + QStringLiteral("/norvane-XXXXXX")) {
+WorkFolder::WorkFolder() : dir_(QDir::tempPath() + u"/norvane-XXXXXX"_s) {
     if (!dir_.isValid())
         ADD_FAILURE() << "Impossible de créer un dossier de travail temporaire";
 }

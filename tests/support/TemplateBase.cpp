@@ -4,12 +4,13 @@
 #include <QFile>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 QString template_path() {
     return QStringLiteral(NORVANE_TEMPLATE_PATH);
 }
 
-TemplateBase::TemplateBase(const QString& name)
-    : dir_(QDir::tempPath() + QStringLiteral("/norvane-base-XXXXXX")) {
+TemplateBase::TemplateBase(const QString& name) : dir_(QDir::tempPath() + u"/norvane-base-XXXXXX"_s) {
     path_ = copy(name);
 }
 

@@ -3,13 +3,15 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QtMessageHandler defaultHandler = nullptr;
 
 // The offscreen platform cannot raise windows and says so at every screen brought to the front.
 void quietHandler(QtMsgType type, const QMessageLogContext& context, const QString& message) {
-    if (message == QStringLiteral("This plugin does not support raise()"))
+    if (message == u"This plugin does not support raise()"_s)
         return;
     defaultHandler(type, context, message);
 }

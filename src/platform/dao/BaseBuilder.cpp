@@ -6,6 +6,8 @@
 #include <QFile>
 #include <sqlite3.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Owns the connection of the base being written.
@@ -38,16 +40,16 @@ private:
 } // namespace
 
 void create_base(const QString& target, const QStringList& scripts) {
-    const QString aside = target + QStringLiteral(".en_cours");
+    const QString aside = target + u".en_cours"_s;
     QFile::remove(aside);
     try {
         NewBase base(aside);
-        base.run(QStringLiteral("BEGIN"), 3043);
+        base.run(u"BEGIN"_s, 3043);
         for (const QString& script : scripts)
             base.run(script, 3075);
         base.run(dao::collation_version_pragma(), 3043);
-        base.run(QStringLiteral("COMMIT"), 3043);
-        base.run(QStringLiteral("VACUUM"), 3043); // also gives the file the page size the schema asks for
+        base.run(u"COMMIT"_s, 3043);
+        base.run(u"VACUUM"_s, 3043); // also gives the file the page size the schema asks for
     } catch (...) {
         QFile::remove(aside);
         throw;

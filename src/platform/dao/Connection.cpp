@@ -16,6 +16,8 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+using namespace Qt::StringLiterals;
 #endif
 
 namespace dao {
@@ -78,8 +80,7 @@ void sort_key_function(sqlite3_context* context, int argc, sqlite3_value** argv)
 
 FieldInfo field_from_declaration(const QString& name, const QString& declared) {
     const QString type = declared.trimmed().toUpper();
-    static const QRegularExpression sized(
-        QStringLiteral("^(VARCHAR|TEXT|CHAR|NVARCHAR)\\s*\\(\\s*(\\d+)\\s*\\)$"));
+    static const QRegularExpression sized(u"^(VARCHAR|TEXT|CHAR|NVARCHAR)\\s*\\(\\s*(\\d+)\\s*\\)$"_s);
     if (const auto m = sized.match(type); m.hasMatch())
         return {name, FieldType::Text, m.captured(2).toInt()};
     if (type.isEmpty() || type == u"MEMO" || type == u"TEXT" || type == u"LONGTEXT" || type == u"CLOB")
@@ -218,7 +219,7 @@ void register_jet_functions(sqlite3* db, const FrenchCollation& collation) {
 }
 
 QString collation_version_pragma() {
-    return QStringLiteral("PRAGMA user_version = %1").arg(FrenchCollation::version());
+    return u"PRAGMA user_version = %1"_s.arg(FrenchCollation::version());
 }
 
 Connection::Connection(QString path, sqlite3* db, FileLock lock, std::unique_ptr<FrenchCollation> collation)
@@ -274,7 +275,7 @@ std::shared_ptr<Connection> Connection::open(const QString& path, Access access)
 }
 
 int Connection::recordedCollationVersion() const {
-    Statement version = prepare(QStringLiteral("PRAGMA user_version"));
+    Statement version = prepare(u"PRAGMA user_version"_s);
     return version.step() ? static_cast<int>(version.columnInt64(0)) : 0;
 }
 
@@ -288,7 +289,7 @@ void Connection::rebuildStaleIndexes() {
         return;
     WriteScope scope(*this);
     if (recordedCollationVersion() != FrenchCollation::version()) {
-        run(QStringLiteral("REINDEX"));
+        run(u"REINDEX"_s);
         run(collation_version_pragma());
     }
     scope.commit();
@@ -376,7 +377,7 @@ void Connection::fail(int rc, int syntaxError, const QString& sqlText) const {
     if (message.startsWith(u"no such column")) {
         if (syntaxError == 3077)
             throw VbError::avec(3070, {message.section(u':', 1).trimmed()});
-        throw VbError::avec(3061, {QStringLiteral("1")});
+        throw VbError::avec(3061, {u"1"_s});
     }
     if (syntaxError == 3075)
         throw VbError::avec(3075, {sqlText});
@@ -399,7 +400,7 @@ const TableInfo& Connection::table(const QString& name) {
 
     TableInfo info;
     info.name = actual;
-    Statement columns = prepare(QStringLiteral("PRAGMA table_info(%1)").arg(quote_name(actual)));
+    Statement columns = prepare(u"PRAGMA table_info(%1)"_s.arg(quote_name(actual)));
     while (columns.step()) {
         FieldInfo field = field_from_declaration(columns.column(1).toString(), columns.column(2).toString());
         info.defaults.push_back(default_value(field, columns.column(4)));
@@ -413,14 +414,14 @@ QStringList Connection::tableNames() const {
 }
 
 void Connection::beginTransaction() {
-    run(depth_ == 0 ? QStringLiteral("BEGIN IMMEDIATE") : QStringLiteral("SAVEPOINT ecriture"));
+    run(depth_ == 0 ? u"BEGIN IMMEDIATE"_s : u"SAVEPOINT ecriture"_s);
     ++depth_;
 }
 
 void Connection::commitTransaction() {
     if (depth_ == 0)
         throw VbError(3034);
-    run(depth_ == 1 ? QStringLiteral("COMMIT") : QStringLiteral("RELEASE ecriture"));
+    run(depth_ == 1 ? u"COMMIT"_s : u"RELEASE ecriture"_s);
     --depth_;
 }
 

@@ -10,6 +10,8 @@
 #include <QFileInfo>
 #include <QStringList>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString first_word(const QString& jetSql) {
@@ -98,8 +100,8 @@ void CompactDatabase(const QString& source, const QString& target) {
     try {
         // The source is only read, so a power cut can cost the new copy but never the base; the copy is
         // then written without waiting for the disk at every page.
-        connection->run(QStringLiteral("PRAGMA synchronous = OFF"));
-        dao::Statement vacuum = connection->prepare(QStringLiteral("VACUUM INTO ?"));
+        connection->run(u"PRAGMA synchronous = OFF"_s);
+        dao::Statement vacuum = connection->prepare(u"VACUUM INTO ?"_s);
         vacuum.bind(1, QDir::toNativeSeparators(targetInfo.absoluteFilePath()));
         while (vacuum.step()) {
         }

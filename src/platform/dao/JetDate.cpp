@@ -2,6 +2,8 @@
 
 #include <QStringList>
 
+using namespace Qt::StringLiterals;
+
 namespace dao {
 namespace {
 
@@ -47,7 +49,7 @@ std::optional<QDate> parse_user_date(const QString& text) {
 }
 
 QString to_stored_date(const QDate& date) {
-    return date.toString(QStringLiteral("yyyy-MM-dd"));
+    return date.toString(u"yyyy-MM-dd"_s);
 }
 
 std::optional<QDate> from_stored_date(const QString& stored) {
@@ -57,7 +59,7 @@ std::optional<QDate> from_stored_date(const QString& stored) {
 }
 
 QString to_shown_date(const QDate& date) {
-    return date.toString(QStringLiteral("dd/MM/yyyy"));
+    return date.toString(u"dd/MM/yyyy"_s);
 }
 
 QString shown_from_stored(const QString& stored) {

@@ -2,6 +2,8 @@
 
 #include "platform/dao/JetDate.h"
 
+using namespace Qt::StringLiterals;
+
 namespace dao {
 namespace {
 
@@ -30,14 +32,14 @@ QString read_quoted(const QString& s, qsizetype& i, QChar close) {
         }
         value += s[i];
     }
-    syntax(QStringLiteral("texte non terminé"));
+    syntax(u"texte non terminé"_s);
 }
 
 // Jet's date literals are month first: #9/1/2015# is the first of September.
 QString read_date(const QString& s, qsizetype& i) {
     const qsizetype close = s.indexOf(u'#', i + 1);
     if (close < 0)
-        syntax(QStringLiteral("date non terminée"));
+        syntax(u"date non terminée"_s);
     const QString inside = s.mid(i + 1, close - i - 1).trimmed();
     i = close + 1;
     const QStringList parts = inside.split(u'/');
@@ -47,13 +49,13 @@ QString read_date(const QString& s, qsizetype& i) {
     else
         date = from_stored_date(inside);
     if (!date)
-        syntax(QStringLiteral("date non valide"));
+        syntax(u"date non valide"_s);
     return to_stored_date(*date);
 }
 
 QString quote_string(const QString& value) {
     QString out = value;
-    out.replace(u'\'', QStringLiteral("''"));
+    out.replace(u'\'', u"''"_s);
     return u'\'' + out + u'\'';
 }
 
@@ -79,7 +81,7 @@ std::vector<Token> tokenize(const QString& s) {
         } else if (c == u'[') {
             const QString name = read_quoted(s, i, u']');
             if (name.isEmpty())
-                syntax(QStringLiteral("nom vide"));
+                syntax(u"nom vide"_s);
             tokens.push_back({Token::Kind::Name, name});
         } else if (c == u'#') {
             tokens.push_back({Token::Kind::Date, read_date(s, i)});
@@ -98,11 +100,11 @@ std::vector<Token> tokenize(const QString& s) {
             if (two == u"<>" || two == u"<=" || two == u">=") {
                 tokens.push_back({Token::Kind::Symbol, two});
                 i += 2;
-            } else if (QStringLiteral("=<>*(),.+-/&;").contains(c)) {
+            } else if (u"=<>*(),.+-/&;"_s.contains(c)) {
                 tokens.push_back({Token::Kind::Symbol, QString(c)});
                 ++i;
             } else {
-                syntax(QStringLiteral("caractère inattendu « %1 »").arg(c));
+                syntax(u"caractère inattendu « %1 »"_s.arg(c));
             }
         }
     }
@@ -111,13 +113,13 @@ std::vector<Token> tokenize(const QString& s) {
         tokens.pop_back();
     for (const Token& t : tokens)
         if (t.isSymbol(";"))
-            syntax(QStringLiteral("plusieurs instructions"));
+            syntax(u"plusieurs instructions"_s);
     return tokens;
 }
 
 QString quote_name(const QString& name) {
     QString out = name;
-    out.replace(u'"', QStringLiteral("\"\""));
+    out.replace(u'"', u"\"\""_s);
     return u'"' + out + u'"';
 }
 
@@ -141,13 +143,13 @@ QString translate_tokens(const std::vector<Token>& tokens, size_t begin, size_t 
             break;
         case Token::Kind::Word:
             if (t.isWord("true"))
-                out << QStringLiteral("1");
+                out << u"1"_s;
             else if (t.isWord("false"))
-                out << QStringLiteral("0");
+                out << u"0"_s;
             else if (t.isWord("mod"))
-                out << QStringLiteral("%");
+                out << u"%"_s;
             else if (t.isWord("distinctrow"))
-                out << QStringLiteral("DISTINCT");
+                out << u"DISTINCT"_s;
             else
                 out << t.text;
             break;
@@ -155,7 +157,7 @@ QString translate_tokens(const std::vector<Token>& tokens, size_t begin, size_t 
             if (t.isSymbol("("))
                 ++depth;
             if (t.isSymbol(")") && --depth < 0)
-                syntax(QStringLiteral("parenthèse fermante en trop"));
+                syntax(u"parenthèse fermante en trop"_s);
             // DELETE * FROM and DELETE table.* FROM: SQLite wants no star.
             if (t.isSymbol("*") && i > begin && tokens[i - 1].isWord("delete"))
                 break;
@@ -165,19 +167,19 @@ QString translate_tokens(const std::vector<Token>& tokens, size_t begin, size_t 
                 out.removeLast();
                 break;
             }
-            out << (t.isSymbol("&") ? QStringLiteral("||") : t.text);
+            out << (t.isSymbol("&") ? u"||"_s : t.text);
             break;
         }
     }
     if (depth != 0)
-        syntax(QStringLiteral("parenthèse non fermée"));
+        syntax(u"parenthèse non fermée"_s);
     return out.join(u' ');
 }
 
 QString translate_statement(const QString& jet) {
     const std::vector<Token> tokens = tokenize(jet);
     if (tokens.empty())
-        syntax(QStringLiteral("instruction vide"));
+        syntax(u"instruction vide"_s);
     return translate_tokens(tokens, 0, tokens.size());
 }
 
@@ -186,7 +188,7 @@ namespace {
 // name, or table.name; returns the column part and moves i past it.
 QString read_column(const std::vector<Token>& t, size_t& i) {
     if (i >= t.size() || !t[i].isIdentifier())
-        syntax(QStringLiteral("nom de colonne attendu"));
+        syntax(u"nom de colonne attendu"_s);
     QString name = t[i++].text;
     if (i + 1 < t.size() && t[i].isSymbol(".") && t[i + 1].isIdentifier()) {
         name = t[i + 1].text;
@@ -210,7 +212,7 @@ SelectQuery parse_select(const QString& jet) {
     }
     size_t i = 0;
     if (t.empty() || !t[i++].isWord("select"))
-        syntax(QStringLiteral("SELECT attendu"));
+        syntax(u"SELECT attendu"_s);
     if (i < t.size() && t[i].isSymbol("*")) {
         ++i;
     } else {
@@ -228,9 +230,9 @@ SelectQuery parse_select(const QString& jet) {
         }
     }
     if (i >= t.size() || !t[i++].isWord("from"))
-        syntax(QStringLiteral("FROM attendu"));
+        syntax(u"FROM attendu"_s);
     if (i >= t.size() || !t[i].isIdentifier())
-        syntax(QStringLiteral("nom de table attendu"));
+        syntax(u"nom de table attendu"_s);
     q.table = t[i++].text;
     if (i < t.size() && t[i].isWord("where")) {
         const size_t start = ++i;
@@ -240,7 +242,7 @@ SelectQuery parse_select(const QString& jet) {
             ++i;
         }
         if (i == start)
-            syntax(QStringLiteral("critère vide"));
+            syntax(u"critère vide"_s);
         q.where = translate_tokens(t, start, i);
     }
     if (is_order_by(t, i)) {
@@ -258,7 +260,7 @@ SelectQuery parse_select(const QString& jet) {
         }
     }
     if (i != t.size())
-        syntax(QStringLiteral("texte inattendu après la requête"));
+        syntax(u"texte inattendu après la requête"_s);
     return q;
 }
 

@@ -13,6 +13,8 @@
 #include <optional>
 #include <unordered_set>
 
+using namespace Qt::StringLiterals;
+
 namespace dao {
 
 // Where the recordset stands: before the first row, on a row of the key list, or after the last.
@@ -191,7 +193,7 @@ public:
             for (const QString& column : query.columns) {
                 const int index = table.indexOf(column);
                 if (index < 0)
-                    throw VbError::avec(3061, {QStringLiteral("1")});
+                    throw VbError::avec(3061, {u"1"_s});
                 tableColumn.push_back(index);
             }
         }
@@ -202,12 +204,11 @@ public:
             selected << quote_name(table.columns[index].name);
         }
         const QString from = quote_name(table.name);
-        fetch.emplace(db().prepare(QStringLiteral("SELECT %1 FROM %2 WHERE rowid = ?")
-                                       .arg(selected.join(QStringLiteral(", ")), from)));
+        fetch.emplace(db().prepare(u"SELECT %1 FROM %2 WHERE rowid = ?"_s.arg(selected.join(u", "_s), from)));
 
-        keysSql = QStringLiteral("SELECT rowid FROM %1").arg(from);
+        keysSql = u"SELECT rowid FROM %1"_s.arg(from);
         if (!query.where.isEmpty())
-            keysSql += QStringLiteral(" WHERE (%1)").arg(query.where);
+            keysSql += u" WHERE (%1)"_s.arg(query.where);
         // Text sorts on its French sort key. Columns sorted the same way share one key, so that case and
         // accents of a surname count only between rows of the same names ("DUPONT Léa" after "Dupont
         // Adam"); equal rows then keep the order of their writing.
@@ -216,22 +217,21 @@ public:
         for (const OrderTerm& term : query.order) {
             const int index = table.indexOf(term.column);
             if (index < 0)
-                throw VbError::avec(3061, {QStringLiteral("1")});
+                throw VbError::avec(3061, {u"1"_s});
             const FieldInfo& column = table.columns[index];
             const bool text = column.type == FieldType::Text || column.type == FieldType::Memo;
             allText = allText && text && term.descending == query.order.front().descending;
             texts << quote_name(column.name);
-            order << (text ? QStringLiteral("tri_fr(%1)").arg(quote_name(column.name))
-                           : quote_name(column.name)) +
-                         (term.descending ? QStringLiteral(" DESC") : QString());
+            order << (text ? u"tri_fr(%1)"_s.arg(quote_name(column.name)) : quote_name(column.name)) +
+                         (term.descending ? u" DESC"_s : QString());
         }
         if (allText && query.order.size() > 1)
-            order = QStringList{QStringLiteral("tri_fr(%1)").arg(texts.join(QStringLiteral(", "))) +
-                                (query.order.front().descending ? QStringLiteral(" DESC") : QString())};
+            order = QStringList{u"tri_fr(%1)"_s.arg(texts.join(u", "_s)) +
+                                (query.order.front().descending ? u" DESC"_s : QString())};
         // Equal sort values keep the order of their writing, the same at every opening.
         const bool lastDescending = !query.order.empty() && query.order.back().descending;
-        order << (lastDescending ? QStringLiteral("rowid DESC") : QStringLiteral("rowid"));
-        keysSql += QStringLiteral(" ORDER BY ") + order.join(QStringLiteral(", "));
+        order << (lastDescending ? u"rowid DESC"_s : u"rowid"_s);
+        keysSql += u" ORDER BY "_s + order.join(u", "_s);
     }
 
     QVariant shown(int index, const QVariant& stored) const {
@@ -317,8 +317,8 @@ public:
         } catch (const JetSyntaxError&) {
             throw VbError(3077);
         }
-        Statement s = db().prepare(
-            QStringLiteral("SELECT rowid FROM %1 WHERE (%2)").arg(quote_name(table.name), expression), 3077);
+        Statement s =
+            db().prepare(u"SELECT rowid FROM %1 WHERE (%2)"_s.arg(quote_name(table.name), expression), 3077);
         std::unordered_set<qint64> matches;
         while (s.step())
             matches.insert(s.columnInt64(0));
@@ -419,13 +419,12 @@ void Recordset::Update() {
     if (d->mode == EditMode::AddNew) {
         QString sql;
         if (columns.isEmpty()) {
-            sql = QStringLiteral("INSERT INTO %1 DEFAULT VALUES").arg(table);
+            sql = u"INSERT INTO %1 DEFAULT VALUES"_s.arg(table);
         } else {
             QStringList marks;
             for (qsizetype i = 0; i < columns.size(); ++i)
-                marks << QStringLiteral("?");
-            sql = QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
-                      .arg(table, columns.join(QStringLiteral(", ")), marks.join(QStringLiteral(", ")));
+                marks << u"?"_s;
+            sql = u"INSERT INTO %1 (%2) VALUES (%3)"_s.arg(table, columns.join(u", "_s), marks.join(u", "_s));
         }
         dao::Connection::WriteScope scope(db);
         dao::Statement insert = db.prepare(sql);
@@ -444,7 +443,7 @@ void Recordset::Update() {
     if (!columns.isEmpty()) {
         QStringList assignments;
         for (const QString& column : columns)
-            assignments << column + QStringLiteral(" = ?");
+            assignments << column + u" = ?"_s;
         dao::Connection::WriteScope scope(db);
         // Optimistic locking: the row must still be what this recordset read, or another user's save
         // would be lost without a word. Read inside the write transaction, nobody can change it between.
@@ -456,8 +455,8 @@ void Recordset::Update() {
         }
         if (*stored != d->row)
             throw VbError(3197);
-        dao::Statement update = db.prepare(QStringLiteral("UPDATE %1 SET %2 WHERE rowid = ?")
-                                               .arg(table, assignments.join(QStringLiteral(", "))));
+        dao::Statement update =
+            db.prepare(u"UPDATE %1 SET %2 WHERE rowid = ?"_s.arg(table, assignments.join(u", "_s)));
         for (size_t i = 0; i < values.size(); ++i)
             update.bind(static_cast<int>(i + 1), values[i]);
         update.bind(static_cast<int>(values.size() + 1), QVariant(qlonglong(key)));
@@ -485,7 +484,7 @@ void Recordset::Delete() {
     d->requireRow();
     dao::Connection::WriteScope scope(db);
     dao::Statement remove =
-        db.prepare(QStringLiteral("DELETE FROM %1 WHERE rowid = ?").arg(dao::quote_name(d->table.name)));
+        db.prepare(u"DELETE FROM %1 WHERE rowid = ?"_s.arg(dao::quote_name(d->table.name)));
     remove.bind(1, QVariant(qlonglong(d->keys[d->cur])));
     remove.step();
     scope.commit();

@@ -3,6 +3,8 @@
 #include <map>
 #include <new>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The texts the French runtime and database engine give for the numbers this program can meet.
@@ -88,7 +90,7 @@ const std::map<int, const char*>& catalogue() {
     return textes;
 }
 
-const QString texte_inconnu = QStringLiteral("Erreur définie par l'application ou par l'objet");
+const QString texte_inconnu = u"Erreur définie par l'application ou par l'objet"_s;
 
 // Fills each '|' with the next value; a quoted place left without a value goes with its quotes.
 QString remplir(QString modèle, const QStringList& valeurs) {

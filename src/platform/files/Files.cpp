@@ -13,6 +13,8 @@
 #include <unistd.h>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QByteArray natif(const QString& chemin) {
@@ -69,12 +71,12 @@ void exiger_modifiable(const QString& chemin, const struct stat& st) {
 
 // The runtime's wildcards: * any run of characters, ? one character, nothing else; "*.*" is every file.
 QRegularExpression motif(const QString& nom) {
-    if (nom == QStringLiteral("*.*"))
-        return motif(QStringLiteral("*"));
+    if (nom == u"*.*"_s)
+        return motif(u"*"_s);
     QString expression;
     for (const QChar c : nom) {
         if (c == u'*')
-            expression += QStringLiteral(".*");
+            expression += u".*"_s;
         else if (c == u'?')
             expression += u'.';
         else
@@ -135,7 +137,7 @@ void copier_contenu(int source, int cible, const QString& chemin_cible) {
 // A new empty file beside `cible`, made with the ordinary permissions of a new file (not those of the
 // source: a copy of a read-only template must be a base the user can write).
 std::pair<QByteArray, int> fichier_à_côté(const QString& cible) {
-    const QString base = QFileInfo(cible).absolutePath() + QStringLiteral("/.copie-%1-%2");
+    const QString base = QFileInfo(cible).absolutePath() + u"/.copie-%1-%2"_s;
     for (int essai = 0;; ++essai) {
         const QByteArray nom = natif(base.arg(::getpid()).arg(essai));
         const int fd = ::open(nom.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);

@@ -14,6 +14,8 @@
 #include <algorithm>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 // The lines of the grid: the row set's live rows by position, then the empty new row. Typed cells go to the
 // data control's row buffer, which writes them.
 class GridModel : public QAbstractTableModel {
@@ -82,7 +84,7 @@ public:
         if (orientation == Qt::Horizontal)
             return section < columnCount() ? columns[section].heading : QString();
         if (section == newRow())
-            return grid_.source_ && grid_.source_->isAddingNew() ? QStringLiteral("✎") : QStringLiteral("*");
+            return grid_.source_ && grid_.source_->isAddingNew() ? u"✎"_s : u"*"_s;
         return QString();
     }
 

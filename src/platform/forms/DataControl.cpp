@@ -19,6 +19,8 @@
 #include <QTextDocument>
 #include <QToolButton>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The engine's own box for a failure that no handler dealt with: its text alone.
@@ -168,11 +170,11 @@ DataControl::DataControl(QWidget* parent) : QWidget(parent) {
     arrow("premier", "Première fiche", Qt::LeftArrow, true, &DataControl::navigateFirst);
     arrow("précédent", "Fiche précédente", Qt::LeftArrow, false, &DataControl::navigatePrevious);
     caption_ = new QLabel(this);
-    caption_->setObjectName(QStringLiteral("caption"));
+    caption_->setObjectName(u"caption"_s);
     caption_->setAlignment(Qt::AlignCenter);
     caption_->setFrameShape(QFrame::Panel);
     caption_->setFrameShadow(QFrame::Sunken);
-    caption_->setText(QStringLiteral(" "));
+    caption_->setText(u" "_s);
     layout->addWidget(caption_, 1);
     arrow("suivant", "Fiche suivante", Qt::RightArrow, false, &DataControl::navigateNext);
     arrow("dernier", "Dernière fiche", Qt::RightArrow, true, &DataControl::navigateLast);

@@ -5,6 +5,8 @@
 #include <QStyle>
 #include <QToolTip>
 
+using namespace Qt::StringLiterals;
+
 int ÉtiquetteÉlidée::largeurDisponible() const {
     return contentsRect().width() - 2 * margin() - std::max(indent(), 0);
 }
@@ -16,8 +18,8 @@ QString ÉtiquetteÉlidée::texteAffiché() const {
 QSize ÉtiquetteÉlidée::minimumSizeHint() const {
     const QSize normale = QLabel::minimumSizeHint();
     const QMargins cadre = contentsMargins();
-    const int largeur = fontMetrics().horizontalAdvance(QStringLiteral("…")) + 2 * margin() +
-                        std::max(indent(), 0) + cadre.left() + cadre.right() + 2 * frameWidth();
+    const int largeur = fontMetrics().horizontalAdvance(u"…"_s) + 2 * margin() + std::max(indent(), 0) +
+                        cadre.left() + cadre.right() + 2 * frameWidth();
     return {std::min(normale.width(), largeur), normale.height()};
 }
 

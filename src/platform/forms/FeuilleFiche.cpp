@@ -14,6 +14,8 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 ConfigurationFiche table_de_consultation(QString nom, QString titre, QString table,
                                          std::vector<ColonneGrille> colonnes) {
     ConfigurationFiche configuration;
@@ -30,16 +32,16 @@ ConfigurationFiche table_de_consultation(QString nom, QString titre, QString tab
 }
 
 QString infobulle_rafraîchir(InfobulleRafraîchir orthographe) {
-    const QString suite = QStringLiteral(" les données, dans le cas d'une utilisation multi-utilisateurs");
+    const QString suite = u" les données, dans le cas d'une utilisation multi-utilisateurs"_s;
     switch (orthographe) {
     case InfobulleRafraîchir::rafraichir:
-        return QStringLiteral("Cliquez pour rafraichir") + suite;
+        return u"Cliquez pour rafraichir"_s + suite;
     case InfobulleRafraîchir::rafraichier:
-        return QStringLiteral("Cliquez pour rafraichier") + suite;
+        return u"Cliquez pour rafraichier"_s + suite;
     case InfobulleRafraîchir::rafraîchir:
         break;
     }
-    return QStringLiteral("Cliquez pour rafraîchir") + suite;
+    return u"Cliquez pour rafraîchir"_s + suite;
 }
 
 FeuilleFiche::FeuilleFiche(ConfigurationFiche configuration)
@@ -49,16 +51,16 @@ FeuilleFiche::FeuilleFiche(ConfigurationFiche configuration)
 
     if (!configuration_.grille.empty()) {
         grdDataGrid = new DBGrid(this);
-        grdDataGrid->setObjectName(QStringLiteral("grdDataGrid"));
+        grdDataGrid->setObjectName(u"grdDataGrid"_s);
         disposition->addWidget(grdDataGrid, 1);
     } else {
         corps_ = new QWidget(this);
-        corps_->setObjectName(QStringLiteral("corps"));
+        corps_->setObjectName(u"corps"_s);
         disposition->addWidget(corps_, 1);
     }
 
     datPrimaryRS = new DataControl(this);
-    datPrimaryRS->setObjectName(QStringLiteral("datPrimaryRS"));
+    datPrimaryRS->setObjectName(u"datPrimaryRS"_s);
     datPrimaryRS->setRecordSource(configuration_.source_de_conception);
     datPrimaryRS->Validate = [this](int& action, bool& save) { datPrimaryRS_Validate(action, save); };
     datPrimaryRS->Reposition = [this] { datPrimaryRS_Reposition(); };
@@ -107,7 +109,7 @@ void FeuilleFiche::construireBoutons(QVBoxLayout* disposition) {
         return b;
     };
     if (configuration_.bouton_accepter != BoutonAccepter::aucun) {
-        bouton_accepter = ajouter("bouton_accepter", QStringLiteral("Accepter"),
+        bouton_accepter = ajouter("bouton_accepter", u"Accepter"_s,
                                   QStringLiteral("Cliquez pour accepter ces données et les insérer dans la "
                                                  "fiche d'origine"),
                                   &FeuilleFiche::bouton_accepter_Click);
@@ -115,22 +117,21 @@ void FeuilleFiche::construireBoutons(QVBoxLayout* disposition) {
         bouton_accepter->setEnabled(configuration_.bouton_accepter != BoutonAccepter::désactivé);
     }
     if (configuration_.ajout != FormeAjout::aucune)
-        cmdAjouter = ajouter("cmdAjouter", QStringLiteral("&Ajouter"),
-                             QStringLiteral("Cliquez pour créer une nouvelle fiche de saisie"),
-                             &FeuilleFiche::cmdAjouter_Click);
+        cmdAjouter =
+            ajouter("cmdAjouter", u"&Ajouter"_s, u"Cliquez pour créer une nouvelle fiche de saisie"_s,
+                    &FeuilleFiche::cmdAjouter_Click);
     if (configuration_.suppression != FormeSuppression::aucune)
-        cmdSupprimer = ajouter("cmdSupprimer", QStringLiteral("&Supprimer"),
-                               QStringLiteral("Cliquez pour supprimer la fiche en cours"),
+        cmdSupprimer = ajouter("cmdSupprimer", u"&Supprimer"_s, u"Cliquez pour supprimer la fiche en cours"_s,
                                &FeuilleFiche::cmdSupprimer_Click);
     if (configuration_.rafraîchissement)
-        cmdRafraîchir = ajouter("cmdRafraîchir", QStringLiteral("&Rafraîchir"),
+        cmdRafraîchir = ajouter("cmdRafraîchir", u"&Rafraîchir"_s,
                                 infobulle_rafraîchir(configuration_.infobulle_rafraîchir),
                                 &FeuilleFiche::cmdRafraîchir_Click);
-    cmdMettreàjour = ajouter("cmdMettreàjour", QStringLiteral("&Valider"),
-                             QStringLiteral("Cliquez pour enregistrer les renseignements en cours"),
-                             &FeuilleFiche::cmdMettreàjour_Click);
-    cmdFermer = ajouter("cmdFermer", QStringLiteral("&Fermer"),
-                        QStringLiteral("Cliquez pour fermer cette fenêtre"), &FeuilleFiche::cmdFermer_Click);
+    cmdMettreàjour =
+        ajouter("cmdMettreàjour", u"&Valider"_s, u"Cliquez pour enregistrer les renseignements en cours"_s,
+                &FeuilleFiche::cmdMettreàjour_Click);
+    cmdFermer = ajouter("cmdFermer", u"&Fermer"_s, u"Cliquez pour fermer cette fenêtre"_s,
+                        &FeuilleFiche::cmdFermer_Click);
     disposition->addLayout(rangée);
 }
 
@@ -220,7 +221,7 @@ void FeuilleFiche::datPrimaryRS_Reposition() {
         const QString position = QString::number(datPrimaryRS->Recordset().AbsolutePosition() + 1);
         switch (configuration_.légende) {
         case LégendePosition::numérotée:
-            datPrimaryRS->setCaption(QStringLiteral("Fiche: ") + position);
+            datPrimaryRS->setCaption(u"Fiche: "_s + position);
             break;
         case LégendePosition::nue:
             datPrimaryRS->setCaption(position);
@@ -242,7 +243,7 @@ void FeuilleFiche::datPrimaryRS_Validate(int& Action, bool&) {
 
 void FeuilleFiche::datPrimaryRS_Error(int DataErr, int& Response) {
     if (configuration_.boîte_erreur_données)
-        interaction().MsgBox(QStringLiteral("Data error event hit err:") + error_text(DataErr), vbOKOnly,
+        interaction().MsgBox(u"Data error event hit err:"_s + error_text(DataErr), vbOKOnly,
                              QString::fromUtf8(titre_programme));
     Response = vbDataErrContinue;
 }

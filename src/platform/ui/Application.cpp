@@ -9,6 +9,8 @@
 #include <QTranslator>
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     traduire_qt_en_français();
 }
@@ -17,8 +19,8 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
 // translations are Qt's, found beside the program first, then where Qt was installed.
 bool Application::traduire_qt_en_français() {
     auto traducteur = std::make_unique<QTranslator>();
-    const QString nom = QStringLiteral("qtbase_fr");
-    const QStringList lieux = {QCoreApplication::applicationDirPath() + QStringLiteral("/translations"),
+    const QString nom = u"qtbase_fr"_s;
+    const QStringList lieux = {QCoreApplication::applicationDirPath() + u"/translations"_s,
                                QLibraryInfo::path(QLibraryInfo::TranslationsPath)};
     for (const QString& lieu : lieux)
         if (traducteur->load(nom, lieu)) {

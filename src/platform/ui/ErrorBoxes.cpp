@@ -2,18 +2,20 @@
 
 #include "platform/ui/Interaction.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString premier_morceau(ErrorBoxKind kind) {
     switch (kind) {
     case ErrorBoxKind::données:
-        return QStringLiteral("Le gestionnaire d'erreurs des données a rencontré l'erreur : ");
+        return u"Le gestionnaire d'erreurs des données a rencontré l'erreur : "_s;
     case ErrorBoxKind::logiciel_données:
-        return QStringLiteral("Le logiciel des données a rencontré l'erreur : ");
+        return u"Le logiciel des données a rencontré l'erreur : "_s;
     case ErrorBoxKind::standard:
         break;
     }
-    return QStringLiteral("Le logiciel a rencontré l'erreur : ");
+    return u"Le logiciel a rencontré l'erreur : "_s;
 }
 
 } // namespace

@@ -11,6 +11,8 @@
 #include <utility>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Bouton {
@@ -104,8 +106,8 @@ QString QtInteraction::InputBox(const QString& prompt, const QString& title, con
     boîte.setWindowTitle(title);
     boîte.setLabelText(prompt);
     boîte.setTextValue(defaultValue);
-    boîte.setOkButtonText(QStringLiteral("OK"));
-    boîte.setCancelButtonText(QStringLiteral("Annuler"));
+    boîte.setOkButtonText(u"OK"_s);
+    boîte.setCancelButtonText(u"Annuler"_s);
     for (auto* libellé : boîte.findChildren<QLabel*>())
         libellé->setTextFormat(Qt::PlainText);
     if (boîte.exec() != QDialog::Accepted)

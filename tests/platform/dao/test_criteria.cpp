@@ -1,6 +1,8 @@
 // The criteria the screens build find what a user expects, and fail as the engine does on a stray quote.
 #include "platform/dao/StoreTestSupport.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class Criteria : public StoreTest {
@@ -17,7 +19,7 @@ protected:
     QString found(const QString& criterion) {
         pupils->MoveFirst();
         pupils->FindFirst(criterion);
-        return pupils->NoMatch() ? QStringLiteral("aucun") : pupils->field("prénom_élève").toString();
+        return pupils->NoMatch() ? u"aucun"_s : pupils->field("prénom_élève").toString();
     }
 };
 

@@ -1,6 +1,8 @@
 // Dates, booleans and text lengths as the bound boxes write and read them.
 #include "platform/dao/StoreTestSupport.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class Values : public StoreTest {
@@ -95,7 +97,7 @@ TEST_F(Values, ColumnsAreFoundWhateverTheCaseAndAnUnknownOneIsRefused) {
 }
 
 TEST_F(Values, QuotesAndSpecialCharactersAreStoredAsTyped) {
-    const QString name = QStringLiteral("D'Arc \"Jeanne\" ; DROP TABLE élèves; -- [x] 100% _");
+    const QString name = u"D'Arc \"Jeanne\" ; DROP TABLE élèves; -- [x] 100% _"_s;
     add("élèves", {{"observations_générales", name}});
     EXPECT_EQ(values("élèves", "observations_générales"), QStringList{name});
 }

@@ -4,6 +4,8 @@
 #include <new>
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QString generic = QString::fromUtf8("Erreur définie par l'application ou par l'objet");
@@ -34,21 +36,20 @@ TEST(VbError, UnknownNumberGetsTheGenericText) {
 }
 
 TEST(VbError, PlacesAreFilledInOrderAndAnUnfilledQuotedOneGoesWithItsQuotes) {
-    const VbError e = VbError::avec(3024, {QStringLiteral("/bases/école.mdb")});
+    const VbError e = VbError::avec(3024, {u"/bases/école.mdb"_s});
     EXPECT_EQ(e.number(), 3024);
     EXPECT_EQ(e.description(), QString::fromUtf8("Fichier '/bases/école.mdb' introuvable."));
-    EXPECT_EQ(error_text(3061, {QStringLiteral("2")}), QStringLiteral("Trop peu de paramètres. 2 attendu."));
+    EXPECT_EQ(error_text(3061, {u"2"_s}), u"Trop peu de paramètres. 2 attendu."_s);
     // A quoted place left unfilled goes with its quotes.
-    EXPECT_EQ(error_text(3024), QStringLiteral("Fichier introuvable."));
+    EXPECT_EQ(error_text(3024), u"Fichier introuvable."_s);
     EXPECT_EQ(error_text(3343), QString::fromUtf8("Format de base de données non reconnu."));
 }
 
 TEST(VbError, AnyFailureBecomesANumberedError) {
     EXPECT_EQ(vb_error_from(VbError(3022)).number(), 3022);
-    EXPECT_EQ(vb_error_from(VbError(9999, QStringLiteral("texte à moi"))).description(),
-              QString::fromUtf8("texte à moi"));
+    EXPECT_EQ(vb_error_from(VbError(9999, u"texte à moi"_s)).description(), QString::fromUtf8("texte à moi"));
     EXPECT_EQ(vb_error_from(std::bad_alloc()).number(), 7);
     const VbError other = vb_error_from(std::runtime_error("english words"));
     EXPECT_EQ(other.number(), 51);
-    EXPECT_EQ(other.description(), QStringLiteral("Erreur interne"));
+    EXPECT_EQ(other.description(), u"Erreur interne"_s);
 }

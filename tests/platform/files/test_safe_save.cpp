@@ -5,11 +5,13 @@
 #include <QDir>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 TEST(SafeSave, AWriteThatFailsHalfWayLeavesTheOldFileAndNoLeftover) {
     WorkFolder folder;
-    const QString target = folder.write(QStringLiteral("liste.rtf"), "ancien");
+    const QString target = folder.write(u"liste.rtf"_s, "ancien");
     const VbError error = raised_by([&] {
         saveWhole(target, [](QIODevice& out) {
             writeAll(out, "début d'un nouveau contenu");
@@ -18,19 +20,19 @@ TEST(SafeSave, AWriteThatFailsHalfWayLeavesTheOldFileAndNoLeftover) {
     });
     EXPECT_EQ(error.number(), 61);
     EXPECT_EQ(contentOf(target), "ancien");
-    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{QStringLiteral("liste.rtf")});
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{u"liste.rtf"_s});
 }
 
 TEST(SafeSave, ACompleteWriteReplacesTheFile) {
     WorkFolder folder;
-    const QString target = folder.write(QStringLiteral("liste.rtf"), "ancien");
+    const QString target = folder.write(u"liste.rtf"_s, "ancien");
     saveWhole(target, [](QIODevice& out) { writeAll(out, "nouveau"); });
     EXPECT_EQ(contentOf(target), "nouveau");
 }
 
 TEST(SafeSave, AFolderThatIsNotThereIsRefusedWithNothingWritten) {
     WorkFolder folder;
-    const QString target = folder.file(QStringLiteral("absent/liste.rtf"));
+    const QString target = folder.file(u"absent/liste.rtf"_s);
     EXPECT_NE(error_of([&] { saveWhole(target, [](QIODevice& out) { writeAll(out, "x"); }); }), 0);
     EXPECT_EQ(contentOf(target), "<absent>");
 }

@@ -12,8 +12,10 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 QString créer_base_essai(const WorkFolder& dossier) {
-    const QString chemin = dossier.file(QStringLiteral("essai.mdb"));
+    const QString chemin = dossier.file(u"essai.mdb"_s);
     sql_direct(chemin, QStringLiteral(R"(
         CREATE TABLE fiches (nom TEXT(30), naissance DATE, actif BOOLEAN, notes MEMO, libellé TEXT(20));
         INSERT INTO fiches VALUES ('Alpha', '2015-02-01', 1, 'première', 'un');
@@ -24,15 +26,15 @@ QString créer_base_essai(const WorkFolder& dossier) {
         INSERT INTO valeurs VALUES ('B', 'Banane');
         INSERT INTO valeurs VALUES ('C', 'Cerise');
     )"));
-    journaliser_écritures(chemin, {QStringLiteral("fiches"), QStringLiteral("valeurs")});
+    journaliser_écritures(chemin, {u"fiches"_s, u"valeurs"_s});
     return chemin;
 }
 
 ConfigurationFiche feuille_essai::configuration_par_défaut() {
     ConfigurationFiche c;
-    c.nom = QStringLiteral("feuille_essai");
-    c.titre = QStringLiteral("Fiches");
-    c.source_de_conception = QStringLiteral("fiches");
+    c.nom = u"feuille_essai"_s;
+    c.titre = u"Fiches"_s;
+    c.source_de_conception = u"fiches"_s;
     return c;
 }
 
@@ -52,13 +54,13 @@ template <class W> W* lié(DataControl& données, QWidget* page, const char* nom
 feuille_essai::feuille_essai(ConfigurationFiche configuration) : FeuilleFiche(std::move(configuration)) {
     auto* disposition = new QVBoxLayout(corps());
     SSTab1 = new QTabWidget(corps());
-    SSTab1->setObjectName(QStringLiteral("SSTab1"));
+    SSTab1->setObjectName(u"SSTab1"_s);
     auto* identité = new QWidget;
     auto* suite = new QWidget;
     new QVBoxLayout(identité);
     new QVBoxLayout(suite);
-    SSTab1->addTab(identité, QStringLiteral("&Identité"));
-    SSTab1->addTab(suite, QStringLiteral("&Notes"));
+    SSTab1->addTab(identité, u"&Identité"_s);
+    SSTab1->addTab(suite, u"&Notes"_s);
     disposition->addWidget(SSTab1);
 
     nom = lié<QLineEdit>(*datPrimaryRS, identité, "nom", "nom");
@@ -77,10 +79,8 @@ void feuille_essai::datPrimaryRS_Validate(int& Action, bool& Save) {
 }
 
 feuille_grille_essai::feuille_grille_essai()
-    : FeuilleFiche(table_de_consultation(QStringLiteral("feuille_grille_essai"),
-                                         QStringLiteral("Table des valeurs"), QStringLiteral("valeurs"),
-                                         {{QStringLiteral("code"), QStringLiteral("code")},
-                                          {QStringLiteral("détails"), QStringLiteral("détails")}})) {}
+    : FeuilleFiche(table_de_consultation(u"feuille_grille_essai"_s, u"Table des valeurs"_s, u"valeurs"_s,
+                                         {{u"code"_s, u"code"_s}, {u"détails"_s, u"détails"_s}})) {}
 
 void feuille_grille_essai::bouton_accepter_Click() {
     grdDataGrid->setCol(1);

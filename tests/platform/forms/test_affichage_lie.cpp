@@ -10,8 +10,10 @@
 #include <QPlainTextEdit>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 TEST_F(ÉcransEssaiTest, an_edit_given_up_by_rafraichir_leaves_every_box_showing_the_stored_row) {
-    auto& f = ouvrir_sur<feuille_essai>(QStringLiteral("SELECT * FROM fiches"));
+    auto& f = ouvrir_sur<feuille_essai>(u"SELECT * FROM fiches"_s);
     sql_direct(base, "UPDATE fiches SET libellé = 'autre' WHERE nom = 'Alpha'");
     f.nom->setText("Alphonse"); // a write by code leaves no undo history
     taper(f.notes, "y");

@@ -4,6 +4,8 @@
 #include <QFontMetrics>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QString chemin = QStringLiteral("/srv/Année scolaire 2025-2026 — école maternelle et élémentaire des "
@@ -14,9 +16,9 @@ TEST(ÉtiquetteÉlidée, UnCheminTropLongGardeSesDeuxBoutsEtSonTexteEntier) {
     étiquette.resize(étiquette.fontMetrics().horizontalAdvance(chemin) / 2, 24);
     const QString affiché = étiquette.texteAffiché();
     EXPECT_NE(affiché, chemin);
-    EXPECT_TRUE(affiché.contains(QStringLiteral("…")));
-    EXPECT_TRUE(affiché.startsWith(QStringLiteral("/srv/Ann")));
-    EXPECT_TRUE(affiché.endsWith(QStringLiteral("élèves 2025.mdb")));
+    EXPECT_TRUE(affiché.contains(u"…"_s));
+    EXPECT_TRUE(affiché.startsWith(u"/srv/Ann"_s));
+    EXPECT_TRUE(affiché.endsWith(u"élèves 2025.mdb"_s));
     EXPECT_LE(étiquette.fontMetrics().horizontalAdvance(affiché), étiquette.width());
     EXPECT_EQ(étiquette.text(), chemin);
 }

@@ -11,24 +11,25 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class feuille_saisie : public Feuille {
 public:
-    feuille_saisie() : Feuille(QStringLiteral("feuille_saisie"), Genre::haut_niveau) {
+    feuille_saisie() : Feuille(u"feuille_saisie"_s, Genre::haut_niveau) {
         nom = new QLineEdit(this);
         prénom = new QLineEdit(this);
         prénom->move(0, 40);
         File1 = new QListWidget(this);
         File1->move(0, 80);
-        File1->addItems({QStringLiteral("a.mdb"), QStringLiteral("b.mdb")});
+        File1->addItems({u"a.mdb"_s, u"b.mdb"_s});
         resize(300, 300);
-        surGotFocus(nom, [this] { journal << QStringLiteral("nom_GotFocus"); });
-        surLostFocus(nom, [this] { journal << QStringLiteral("nom_LostFocus"); });
-        surGotFocus(prénom, [this] { journal << QStringLiteral("prénom_GotFocus"); });
-        surDblClick(nom, [this] { journal << QStringLiteral("nom_DblClick"); });
-        surDblClick(File1,
-                    [this] { journal << QStringLiteral("File1_DblClick ") + File1->currentItem()->text(); });
+        surGotFocus(nom, [this] { journal << u"nom_GotFocus"_s; });
+        surLostFocus(nom, [this] { journal << u"nom_LostFocus"_s; });
+        surGotFocus(prénom, [this] { journal << u"prénom_GotFocus"_s; });
+        surDblClick(nom, [this] { journal << u"nom_DblClick"_s; });
+        surDblClick(File1, [this] { journal << u"File1_DblClick "_s + File1->currentItem()->text(); });
     }
     QLineEdit* nom;
     QLineEdit* prénom;
@@ -58,16 +59,16 @@ TEST_F(EventFilter, FocusMovesGiveLostFocusThenGotFocus) {
 
 TEST_F(EventFilter, DoubleClickOnATextBoxWithAHandlerOnly) {
     QTest::mouseDClick(f->prénom, Qt::LeftButton);
-    EXPECT_TRUE(f->journal.filter(QStringLiteral("DblClick")).isEmpty());
+    EXPECT_TRUE(f->journal.filter(u"DblClick"_s).isEmpty());
     QTest::mouseDClick(f->nom, Qt::LeftButton);
-    EXPECT_TRUE(f->journal.contains(QStringLiteral("nom_DblClick")));
+    EXPECT_TRUE(f->journal.contains(u"nom_DblClick"_s));
 }
 
 TEST_F(EventFilter, DoubleClickOnAListReachesItsHandlerThroughTheViewport) {
     const QRect second = f->File1->visualItemRect(f->File1->item(1));
     QTest::mouseClick(f->File1->viewport(), Qt::LeftButton, {}, second.center());
     QTest::mouseDClick(f->File1->viewport(), Qt::LeftButton, {}, second.center());
-    EXPECT_EQ(f->journal.filter(QStringLiteral("DblClick")), (QStringList{"File1_DblClick b.mdb"}));
+    EXPECT_EQ(f->journal.filter(u"DblClick"_s), (QStringList{"File1_DblClick b.mdb"}));
 }
 
 TEST_F(EventFilter, AFailureInAHandlerIsShownAndTheFocusStillMoves) {

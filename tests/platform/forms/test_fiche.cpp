@@ -17,17 +17,15 @@
 #include <QTabWidget>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class FicheTest : public ÉcransEssaiTest {
 protected:
-    template <class F = feuille_essai> F& ouvrir() {
-        return ouvrir_sur<F>(QStringLiteral("SELECT * FROM fiches"));
-    }
+    template <class F = feuille_essai> F& ouvrir() { return ouvrir_sur<F>(u"SELECT * FROM fiches"_s); }
 
-    QStringList noms() const {
-        return colonne_du_fichier(base, QStringLiteral("fiches"), QStringLiteral("nom"));
-    }
+    QStringList noms() const { return colonne_du_fichier(base, u"fiches"_s, u"nom"_s); }
     QString légende(FeuilleFiche& f) const { return f.datPrimaryRS->Caption(); }
 };
 
@@ -37,7 +35,7 @@ public:
     feuille_essai_bavarde() : feuille_essai(configuration()) {}
     static ConfigurationFiche configuration() {
         ConfigurationFiche c = configuration_par_défaut();
-        c.nom = QStringLiteral("feuille_essai_bavarde");
+        c.nom = u"feuille_essai_bavarde"_s;
         c.légende = LégendePosition::nue;
         c.boîte_erreur_données = true;
         c.infobulle_rafraîchir = InfobulleRafraîchir::rafraichier;
@@ -52,7 +50,7 @@ public:
     feuille_essai_muette() : feuille_essai(configuration()) {}
     static ConfigurationFiche configuration() {
         ConfigurationFiche c = configuration_par_défaut();
-        c.nom = QStringLiteral("feuille_essai_muette");
+        c.nom = u"feuille_essai_muette"_s;
         c.légende = LégendePosition::aucune;
         c.ajout = FormeAjout::aucune;
         c.suppression = FormeSuppression::aucune;

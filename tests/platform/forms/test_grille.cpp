@@ -13,13 +13,13 @@
 #include <QPushButton>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class GrilleTest : public ÉcransEssaiTest {
 protected:
-    feuille_grille_essai& ouvrir() {
-        return ouvrir_sur<feuille_grille_essai>(QStringLiteral("SELECT * FROM valeurs"));
-    }
+    feuille_grille_essai& ouvrir() { return ouvrir_sur<feuille_grille_essai>(u"SELECT * FROM valeurs"_s); }
 
     QStringList détails() const { return colonne_du_fichier(base, "valeurs", "détails"); }
     static QString cellule(DBGrid& g, int ligne, int colonne) {
@@ -235,7 +235,7 @@ TEST_F(GrilleTest, a_refresh_on_a_file_gone_shows_the_standard_words_and_leaves_
     f.datPrimaryRS->setDatabaseName(folder.file("disparue.mdb"));
     ui().expectMsgBox();
     cliquer(f, "cmdRafraîchir");
-    EXPECT_TRUE(une_boîte(ui(), QStringLiteral("Le logiciel a rencontré l'erreur : 3024")));
+    EXPECT_TRUE(une_boîte(ui(), u"Le logiciel a rencontré l'erreur : 3024"_s));
     EXPECT_EQ(f.grdDataGrid->model()->rowCount(), 0);
     EXPECT_TRUE(f.isVisible());
     EXPECT_EQ(détails().size(), 3);

@@ -5,6 +5,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QStringList textes(const QListWidget& liste) {
@@ -16,7 +18,7 @@ QStringList textes(const QListWidget& liste) {
 
 TEST(ListesFichiers, ReprendreLeLecteurEnCoursNEstPasUnChangement) {
     DriveListBox lecteurs;
-    lecteurs.addItem(QStringLiteral("Z:"));
+    lecteurs.addItem(u"Z:"_s);
     QSignalSpy changements(&lecteurs, &DriveListBox::Change);
     const int en_cours = lecteurs.currentIndex();
     emit lecteurs.activated(en_cours);

@@ -13,6 +13,8 @@
 #include <QVBoxLayout>
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 int chargements = 0;
@@ -20,14 +22,14 @@ int chargements = 0;
 // A screen with a field in front and one on the second page of its tabs.
 class écran_nommé : public Feuille {
 public:
-    écran_nommé() : Feuille(QStringLiteral("écran_nommé")) {
+    écran_nommé() : Feuille(u"écran_nommé"_s) {
         auto* disposition = new QVBoxLayout(this);
         devant = new QLineEdit(this);
         disposition->addWidget(devant);
         onglets = new QTabWidget(this);
-        onglets->addTab(new QLineEdit, QStringLiteral("un"));
+        onglets->addTab(new QLineEdit, u"un"_s);
         derrière = new QLineEdit;
-        onglets->addTab(derrière, QStringLiteral("deux"));
+        onglets->addTab(derrière, u"deux"_s);
         disposition->addWidget(onglets);
     }
     void Form_Load() override { ++chargements; }
@@ -41,31 +43,31 @@ protected:
     void SetUp() override {
         ScriptedTest::SetUp();
         chargements = 0;
-        module1().feuilles().faireConnaître<écran_nommé>(QStringLiteral("écran_nommé"));
+        module1().feuilles().faireConnaître<écran_nommé>(u"écran_nommé"_s);
     }
 };
 
 TEST_F(ParNom, AnUnknownNameGivesNothingAndLoadsNothing) {
     const auto avant = module1().feuilles().chargées().size();
-    EXPECT_FALSE(module1().feuilles().connaît(QStringLiteral("feuille_inconnue")));
-    EXPECT_EQ(module1().feuilles().parNom(QStringLiteral("feuille_inconnue")), nullptr);
-    EXPECT_THROW(module1().feuilles().nommée(QStringLiteral("feuille_inconnue")), std::logic_error);
+    EXPECT_FALSE(module1().feuilles().connaît(u"feuille_inconnue"_s));
+    EXPECT_EQ(module1().feuilles().parNom(u"feuille_inconnue"_s), nullptr);
+    EXPECT_THROW(module1().feuilles().nommée(u"feuille_inconnue"_s), std::logic_error);
     EXPECT_EQ(module1().feuilles().chargées().size(), avant);
 }
 
 TEST_F(ParNom, AKnownNameLoadsTheScreenHiddenOnceAndAgainAfterAnUnload) {
     Feuilles& feuilles = module1().feuilles();
-    Feuille* f = feuilles.parNom(QStringLiteral("écran_nommé"));
+    Feuille* f = feuilles.parNom(u"écran_nommé"_s);
     ASSERT_NE(f, nullptr);
     EXPECT_EQ(f, feuilles.siChargée<écran_nommé>());
     EXPECT_FALSE(f->isVisible());
-    EXPECT_EQ(feuilles.parNom(QStringLiteral("écran_nommé")), f);
+    EXPECT_EQ(feuilles.parNom(u"écran_nommé"_s), f);
     EXPECT_EQ(chargements, 1);
     f->Unload();
     processDeletions();
     feuilles.toutDétruire();
-    ASSERT_TRUE(feuilles.connaît(QStringLiteral("écran_nommé"))) << "what is known outlives the screens";
-    EXPECT_NE(feuilles.parNom(QStringLiteral("écran_nommé")), nullptr);
+    ASSERT_TRUE(feuilles.connaît(u"écran_nommé"_s)) << "what is known outlives the screens";
+    EXPECT_NE(feuilles.parNom(u"écran_nommé"_s), nullptr);
     EXPECT_EQ(chargements, 2);
 }
 

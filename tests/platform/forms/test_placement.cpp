@@ -13,6 +13,8 @@
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 // Centred: 500 twips above the middle; high: 1500 above and 1000 left of it. Halves stay, and a
 // screen taller than the display gets a negative top rather than being clipped.
 TEST(Placement, PositionsInTwips) {
@@ -45,7 +47,7 @@ namespace {
 
 class feuille_placée : public Feuille {
 public:
-    feuille_placée() : Feuille(QStringLiteral("feuille_placée"), Genre::haut_niveau) { resize(400, 300); }
+    feuille_placée() : Feuille(u"feuille_placée"_s, Genre::haut_niveau) { resize(400, 300); }
 };
 
 class PlacingAScreen : public ScriptedTest {};
@@ -75,7 +77,7 @@ namespace {
 
 class feuille_enfant : public Feuille {
 public:
-    feuille_enfant() : Feuille(QStringLiteral("feuille_enfant")) { resize(200, 100); }
+    feuille_enfant() : Feuille(u"feuille_enfant"_s) { resize(200, 100); }
 };
 
 } // namespace
@@ -102,7 +104,7 @@ namespace {
 // main window's area is still hidden then.
 class feuille_mise_en_page : public Feuille {
 public:
-    feuille_mise_en_page() : Feuille(QStringLiteral("feuille_mise_en_page")) {
+    feuille_mise_en_page() : Feuille(u"feuille_mise_en_page"_s) {
         (new QVBoxLayout(this))->addWidget(new QLabel(QString(80, u'x'), this));
     }
     void Form_Load() override { centrer_feuille(*this); }
@@ -135,10 +137,10 @@ TEST(BlinkingTimer, RunsAtItsIntervalUnderItsNameAndGoesWithItsScreen) {
     int ticks = 0;
     QPointer<QTimer> timer = minuterie_clignotante(*label, 600, [&] { ++ticks; });
     ASSERT_FALSE(timer.isNull());
-    EXPECT_EQ(timer->objectName(), QStringLiteral("Timer1"));
+    EXPECT_EQ(timer->objectName(), u"Timer1"_s);
     EXPECT_EQ(timer->interval(), 600);
     EXPECT_TRUE(timer->isActive());
-    EXPECT_EQ(label->findChild<QTimer*>(QStringLiteral("Timer1")), timer.data());
+    EXPECT_EQ(label->findChild<QTimer*>(u"Timer1"_s), timer.data());
     QMetaObject::invokeMethod(timer.data(), "timeout");
     QMetaObject::invokeMethod(timer.data(), "timeout");
     EXPECT_EQ(ticks, 2);

@@ -11,6 +11,8 @@
 #include <QStringList>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // What happened to the test screens, in order.
@@ -18,24 +20,24 @@ QStringList journal;
 
 class feuille_options_essai : public Feuille {
 public:
-    feuille_options_essai() : Feuille(QStringLiteral("feuille_options_essai")) {
-        Check3 = new QCheckBox(QStringLiteral("ouvrir le dernier fichier utilisé"), this);
+    feuille_options_essai() : Feuille(u"feuille_options_essai"_s) {
+        Check3 = new QCheckBox(u"ouvrir le dernier fichier utilisé"_s, this);
         Label4 = new QLabel(this);
-        cmdFermer = new QPushButton(QStringLiteral("&Fermer"), this);
+        cmdFermer = new QPushButton(u"&Fermer"_s, this);
         QObject::connect(cmdFermer, &QPushButton::clicked, this, [this] { Unload(); });
-        avantDéchargement([] { journal << QStringLiteral("écriture"); });
+        avantDéchargement([] { journal << u"écriture"_s; });
     }
     void Form_Load() override {
         ++loads;
-        journal << QStringLiteral("Form_Load");
-        Label4->setText(QStringLiteral("chargée"));
+        journal << u"Form_Load"_s;
+        Label4->setText(u"chargée"_s);
     }
     void Form_QueryUnload(int& cancel) override {
-        journal << QStringLiteral("Form_QueryUnload");
+        journal << u"Form_QueryUnload"_s;
         cancel = refuseQuery;
     }
     void Form_Unload(int& cancel) override {
-        journal << QStringLiteral("Form_Unload");
+        journal << u"Form_Unload"_s;
         cancel = refuseUnload;
     }
 
@@ -49,13 +51,13 @@ public:
 
 class feuille_login_essai : public Feuille {
 public:
-    feuille_login_essai() : Feuille(QStringLiteral("feuille_login_essai"), Genre::haut_niveau) {}
+    feuille_login_essai() : Feuille(u"feuille_login_essai"_s, Genre::haut_niveau) {}
 };
 
 // A screen whose Form_Load touches another screen, as reading a closed screen's control does.
 class feuille_appelante : public Feuille {
 public:
-    feuille_appelante() : Feuille(QStringLiteral("feuille_appelante")) {}
+    feuille_appelante() : Feuille(u"feuille_appelante"_s) {}
     void Form_Load() override {
         lu = module1().feuilles().get<feuille_options_essai>().Label4->text();
         module1().feuilles().get<feuille_appelante>(); // its own name, while loading
@@ -80,7 +82,7 @@ TEST_F(Registry, FirstTouchLoadsHiddenAndRunsFormLoadOnceShowAndHideKeepItLoaded
     auto& f = feuilles().get<feuille_options_essai>();
     EXPECT_TRUE(feuilles().isLoaded<feuille_options_essai>());
     EXPECT_FALSE(f.isVisible());
-    EXPECT_EQ(f.Label4->text(), QStringLiteral("chargée"));
+    EXPECT_EQ(f.Label4->text(), u"chargée"_s);
     EXPECT_EQ(&feuilles().get<feuille_options_essai>(), &f);
     EXPECT_EQ(f.loads, 1);
     EXPECT_EQ(feuilles().siChargée<feuille_options_essai>(), &f);
@@ -94,7 +96,7 @@ TEST_F(Registry, FirstTouchLoadsHiddenAndRunsFormLoadOnceShowAndHideKeepItLoaded
 TEST_F(Registry, UnloadRunsItsEventsInOrderAndTheNextTouchBringsBackTheDefaults) {
     auto& f = feuilles().get<feuille_options_essai>();
     f.Check3->setChecked(true);
-    f.Label4->setText(QStringLiteral("/bases/école.mdb"));
+    f.Label4->setText(u"/bases/école.mdb"_s);
     QPointer<feuille_options_essai> old(&f);
     journal.clear();
 
@@ -106,20 +108,20 @@ TEST_F(Registry, UnloadRunsItsEventsInOrderAndTheNextTouchBringsBackTheDefaults)
 
     auto& again = feuilles().get<feuille_options_essai>();
     EXPECT_FALSE(again.Check3->isChecked());
-    EXPECT_EQ(again.Label4->text(), QStringLiteral("chargée"));
+    EXPECT_EQ(again.Label4->text(), u"chargée"_s);
     EXPECT_EQ(again.loads, 1);
 }
 
 TEST_F(Registry, CancelInQueryUnloadOrFormUnloadKeepsTheScreen) {
     auto& f = feuilles().get<feuille_options_essai>();
     f.refuseQuery = 1;
-    f.Label4->setText(QStringLiteral("gardé"));
+    f.Label4->setText(u"gardé"_s);
     journal.clear();
     EXPECT_FALSE(feuilles().unload(f));
     EXPECT_EQ(journal, (QStringList{"Form_QueryUnload"}));
     processDeletions();
     ASSERT_TRUE(feuilles().isLoaded<feuille_options_essai>());
-    EXPECT_EQ(feuilles().get<feuille_options_essai>().Label4->text(), QStringLiteral("gardé"));
+    EXPECT_EQ(feuilles().get<feuille_options_essai>().Label4->text(), u"gardé"_s);
 
     // Cancelled in Form_Unload, the screen stays too but the write is done.
     f.refuseQuery = 0;
@@ -150,7 +152,7 @@ TEST_F(Registry, AScreenMayUnloadItselfFromItsOwnHandlerOrByClosingItsWindow) {
 
 TEST_F(Registry, AFormLoadMayTouchOtherScreensAndItself) {
     auto& caller = feuilles().get<feuille_appelante>();
-    EXPECT_EQ(caller.lu, QStringLiteral("chargée"));
+    EXPECT_EQ(caller.lu, u"chargée"_s);
     EXPECT_TRUE(feuilles().isLoaded<feuille_options_essai>());
     EXPECT_EQ(feuilles().chargées().size(), 2u);
 }
@@ -182,7 +184,7 @@ TEST_F(Registry, ChildScreensGoIntoTheMainWindowAreaWhereClosingTheirWindowUnloa
     child.refuseQuery = 0;
     child.conteneur().close();
     EXPECT_FALSE(feuilles().isLoaded<feuille_options_essai>());
-    EXPECT_EQ(journal.last(), QStringLiteral("Form_Unload"));
+    EXPECT_EQ(journal.last(), u"Form_Unload"_s);
     processDeletions();
     EXPECT_TRUE(area.subWindowList().isEmpty());
     feuilles().toutDétruire();

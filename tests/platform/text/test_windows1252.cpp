@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 TEST(Windows1252, LesLettresFrançaisesEtLesSignesDeLaPage) {
-    const QString texte = QStringLiteral("Élève àéèêëîïôùûüç ÀÇ œŒ € « » …");
+    const QString texte = u"Élève àéèêëîïôùûüç ÀÇ œŒ € « » …"_s;
     const QByteArray octets = vers_windows1252(texte);
     EXPECT_EQ(octets.size(), texte.size());
     EXPECT_EQ(octets[0], '\xC9');
@@ -13,9 +15,9 @@ TEST(Windows1252, LesLettresFrançaisesEtLesSignesDeLaPage) {
 }
 
 TEST(Windows1252, CeQueLaPageNePeutTenirDevientUnPointDInterrogation) {
-    EXPECT_EQ(vers_windows1252(QStringLiteral("Łódź")), QByteArray("?\xF3"
-                                                                   "d?"));
-    EXPECT_EQ(vers_windows1252(QStringLiteral("a😀b")), QByteArray("a??b"));
+    EXPECT_EQ(vers_windows1252(u"Łódź"_s), QByteArray("?\xF3"
+                                                      "d?"));
+    EXPECT_EQ(vers_windows1252(u"a😀b"_s), QByteArray("a??b"));
 }
 
 TEST(Windows1252, LesOctetsInutilisésRestentLisibles) {

@@ -10,6 +10,8 @@
 #include <gtest/gtest-spi.h>
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class ErrorBoxes : public ScriptedTest {};
@@ -44,7 +46,7 @@ TEST_F(ErrorBoxes, TheThreeBoxesByteForByte) {
         box.show(VbError(box.number));
         EXPECT_EQ(bytes(ui().lastBox().text), box.text);
         EXPECT_EQ(ui().lastBox().buttons, vbExclamation + vbOKOnly);
-        EXPECT_EQ(ui().lastBox().title, QStringLiteral("Norvane v2"));
+        EXPECT_EQ(ui().lastBox().title, u"Norvane v2"_s);
         EXPECT_EQ(module1().interaction().mousePointer(), vbDefault);
     }
 }
@@ -52,8 +54,7 @@ TEST_F(ErrorBoxes, TheThreeBoxesByteForByte) {
 TEST_F(ErrorBoxes, NumberIsDecimalWithoutPadding) {
     ui().expectMsgBox(vbOK).expectMsgBox(vbOK);
     message_erreur_standard(VbError(5));
-    EXPECT_TRUE(
-        ui().lastBox().text.endsWith(QStringLiteral(" : 5\n\nArgument ou appel de procédure incorrect")));
+    EXPECT_TRUE(ui().lastBox().text.endsWith(u" : 5\n\nArgument ou appel de procédure incorrect"_s));
     message_erreur_standard(VbError(0, QString()));
     EXPECT_EQ(ui().lastBox().text, QString::fromUtf8("Le logiciel a rencontré l'erreur : 0\n\n"));
 }
@@ -77,10 +78,9 @@ TEST_F(ErrorBoxes, TrapEndsTheBodyAtTheFailureAndKeepsWhatWasDone) {
 TEST_F(ErrorBoxes, TrapShowsTheBoxItIsNamedFor) {
     ui().expectMsgBox().expectMsgBox();
     avec_piège(ErrorBoxKind::données, [] { throw VbError(3024); });
-    EXPECT_TRUE(ui().lastBox().text.startsWith(QStringLiteral("Le gestionnaire d'erreurs des données")));
+    EXPECT_TRUE(ui().lastBox().text.startsWith(u"Le gestionnaire d'erreurs des données"_s));
     avec_piège(ErrorBoxKind::logiciel_données, [] { throw std::out_of_range("x"); });
-    EXPECT_TRUE(
-        ui().lastBox().text.startsWith(QStringLiteral("Le logiciel des données a rencontré l'erreur : 51")));
+    EXPECT_TRUE(ui().lastBox().text.startsWith(u"Le logiciel des données a rencontré l'erreur : 51"_s));
 }
 
 TEST_F(ErrorBoxes, TrapIsSilentWhenNothingFailsAndTheSilentTrapAlways) {
@@ -115,7 +115,7 @@ TEST_F(ErrorBoxes, UntrappedFailureInATimerSlotIsShownAndTheProgramGoesOn) {
 
 TEST_F(ErrorBoxes, UntrappedFailureInAClickHandlerIsShownAndTheButtonStillWorks) {
     ui().expectMsgBox().expectMsgBox();
-    QPushButton button(QStringLiteral("&Valider"));
+    QPushButton button(u"&Valider"_s);
     int clicks = 0;
     QObject::connect(&button, &QPushButton::clicked, [&] {
         ++clicks;
@@ -139,7 +139,7 @@ TEST_F(ErrorBoxes, TrapRunsTheHandlersTidyingAfterTheBoxOnlyOnFailure) {
             order << "corps";
             throw VbError(61);
         },
-        [&] { order << QStringLiteral("après %1 boîte(s)").arg(ui().boxes().size()); });
+        [&] { order << u"après %1 boîte(s)"_s.arg(ui().boxes().size()); });
     EXPECT_EQ(order, (QStringList{"corps", "après 1 boîte(s)"}));
 
     order.clear();

@@ -5,12 +5,14 @@
 #include <QWidget>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Fenêtre {
     QWidget fenêtre;
-    QLineEdit* premier = new QLineEdit(QStringLiteral("DUPONT"), &fenêtre);
-    QLineEdit* second = new QLineEdit(QStringLiteral("Marie"), &fenêtre);
+    QLineEdit* premier = new QLineEdit(u"DUPONT"_s, &fenêtre);
+    QLineEdit* second = new QLineEdit(u"Marie"_s, &fenêtre);
 
     Fenêtre() {
         auto* disposition = new QVBoxLayout(&fenêtre);
@@ -38,8 +40,8 @@ TEST(FocusParTabulation, LeTexteDUneZoneAtteinteParTabOuMajTabNestPasSélectionn
 
     // Typing after Tab adds to the text instead of replacing it.
     QTest::keyClick(f.premier, Qt::Key_Tab);
-    QTest::keyClicks(f.second, QStringLiteral("-Anne "));
-    EXPECT_EQ(f.second->text(), QStringLiteral("-Anne Marie"));
+    QTest::keyClicks(f.second, u"-Anne "_s);
+    EXPECT_EQ(f.second->text(), u"-Anne Marie"_s);
 }
 
 TEST(FocusParTabulation, UneSélectionFaiteParLeCodeResteQuandLeFocusVientDAilleurs) {

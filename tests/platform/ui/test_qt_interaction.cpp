@@ -12,6 +12,8 @@
 #include <functional>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Acts on the dialog once it is up, as the user would.
@@ -43,13 +45,13 @@ TEST(QtInteraction, YesNoBoxHasFrenchButtonsAndReturnsTheVbCode) {
         text = static_cast<QMessageBox&>(d).text();
         for (auto* b : d.findChildren<QPushButton*>())
             buttons << b->text();
-        clickButton(d, QStringLiteral("&Non"));
+        clickButton(d, u"&Non"_s);
     });
-    EXPECT_EQ(ui.MsgBox(QStringLiteral("Voulez-vous quitter le logiciel?"), vbYesNo + vbQuestion), vbNo);
-    EXPECT_EQ(title, QStringLiteral("Norvane v2"));
-    EXPECT_EQ(text, QStringLiteral("Voulez-vous quitter le logiciel?"));
+    EXPECT_EQ(ui.MsgBox(u"Voulez-vous quitter le logiciel?"_s, vbYesNo + vbQuestion), vbNo);
+    EXPECT_EQ(title, u"Norvane v2"_s);
+    EXPECT_EQ(text, u"Voulez-vous quitter le logiciel?"_s);
     buttons.sort();
-    EXPECT_EQ(buttons, (QStringList{QStringLiteral("&Non"), QStringLiteral("&Oui")}));
+    EXPECT_EQ(buttons, (QStringList{u"&Non"_s, u"&Oui"_s}));
 }
 
 TEST(QtInteraction, IconFollowsTheCodeTextIsShownAsTypedAndCancelReturnsCancel) {
@@ -59,9 +61,9 @@ TEST(QtInteraction, IconFollowsTheCodeTextIsShownAsTypedAndCancelReturnsCancel) 
     whenDialogUp([&](QWidget& d) {
         icon = static_cast<QMessageBox&>(d).icon();
         format = static_cast<QMessageBox&>(d).textFormat();
-        clickButton(d, QStringLiteral("Annuler"));
+        clickButton(d, u"Annuler"_s);
     });
-    EXPECT_EQ(ui.MsgBox(QStringLiteral("<b>/bases/a<b>.mdb</b>"), vbOKCancel + vbExclamation), vbCancel);
+    EXPECT_EQ(ui.MsgBox(u"<b>/bases/a<b>.mdb</b>"_s, vbOKCancel + vbExclamation), vbCancel);
     EXPECT_EQ(icon, QMessageBox::Warning);
     EXPECT_EQ(format, Qt::PlainText);
 }
@@ -75,16 +77,14 @@ TEST(QtInteraction, InputBoxReturnsTheTypedTextOrEmptyOnCancel) {
         edit->setText(QString::fromUtf8("école"));
         static_cast<QInputDialog&>(d).accept();
     });
-    EXPECT_EQ(ui.InputBox(QStringLiteral("Nom"), QStringLiteral("Norvane v2"), QStringLiteral("base")),
-              QString::fromUtf8("école"));
-    EXPECT_EQ(shownDefault, QStringLiteral("base"));
+    EXPECT_EQ(ui.InputBox(u"Nom"_s, u"Norvane v2"_s, u"base"_s), QString::fromUtf8("école"));
+    EXPECT_EQ(shownDefault, u"base"_s);
 
     whenDialogUp([](QWidget& d) {
-        d.findChild<QLineEdit*>()->setText(QStringLiteral("tapé"));
-        clickButton(d, QStringLiteral("Annuler"));
+        d.findChild<QLineEdit*>()->setText(u"tapé"_s);
+        clickButton(d, u"Annuler"_s);
     });
-    EXPECT_EQ(ui.InputBox(QStringLiteral("Nom"), QStringLiteral("Norvane v2"), QStringLiteral("base")),
-              QString());
+    EXPECT_EQ(ui.InputBox(u"Nom"_s, u"Norvane v2"_s, u"base"_s), QString());
 }
 
 TEST(QtInteraction, HourglassAndBack) {
@@ -103,7 +103,7 @@ namespace {
 
 class feuille_modale : public Feuille {
 public:
-    feuille_modale() : Feuille(QStringLiteral("feuille_modale"), Genre::haut_niveau) {}
+    feuille_modale() : Feuille(u"feuille_modale"_s, Genre::haut_niveau) {}
 };
 
 } // namespace

@@ -3,6 +3,8 @@
 
 #include <QLineEdit>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Relier = ScriptedTest;
@@ -15,7 +17,7 @@ TEST_F(Relier, UnÉchecDuHandlerMontreLaBoîteStandardLàEtNeRemontePasDansQt) {
         throw VbError(53);
     });
     ui().expectMsgBox(vbOK);
-    EXPECT_NO_THROW(zone.setText(QStringLiteral("abc")));
+    EXPECT_NO_THROW(zone.setText(u"abc"_s));
     EXPECT_EQ(reçu, "abc");
     EXPECT_TRUE(une_boîte(ui(), "Le logiciel a rencontré l'erreur : 53\n\nFichier introuvable"));
 }
@@ -25,7 +27,7 @@ TEST_F(Relier, LeHandlerPrendMoinsDArgumentsQueLeSignalOuEstUneMéthodeDuReceveu
     int appels = 0;
     relier(&zone, &QLineEdit::textChanged, &zone, [&] { ++appels; });
     relier(&zone, &QLineEdit::textChanged, &zone, &QLineEdit::selectAll);
-    zone.setText(QStringLiteral("abc"));
+    zone.setText(u"abc"_s);
     EXPECT_EQ(appels, 1);
     EXPECT_EQ(zone.selectedText(), "abc");
 }

@@ -6,15 +6,17 @@
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 TEST(ScriptedInteraction, AnUnexpectedBoxFailsTheTestAndIsAnsweredWithItsFirstButtonOrCancel) {
     ScriptedInteraction ui;
     int answer = 0;
-    EXPECT_NONFATAL_FAILURE(answer = ui.MsgBox(QStringLiteral("Question"), vbYesNo + vbQuestion),
+    EXPECT_NONFATAL_FAILURE(answer = ui.MsgBox(u"Question"_s, vbYesNo + vbQuestion),
                             "inattendue : « Question »");
     EXPECT_EQ(answer, vbYes);
     EXPECT_EQ(ui.boxes().size(), 1u);
-    QString typed = QStringLiteral("x");
-    EXPECT_NONFATAL_FAILURE(typed = ui.InputBox(QStringLiteral("Nom ?")), "Nom ?");
+    QString typed = u"x"_s;
+    EXPECT_NONFATAL_FAILURE(typed = ui.InputBox(u"Nom ?"_s), "Nom ?");
     EXPECT_TRUE(typed.isEmpty()) << "an unexpected input box reads as Cancel";
 }
 
@@ -22,7 +24,7 @@ TEST(ScriptedInteraction, AnswersNeverAskedForFailTheTest) {
     EXPECT_NONFATAL_FAILURE(
         {
             ScriptedInteraction ui;
-            ui.expectMsgBox(vbOK).expectInputBox(QStringLiteral("x"));
+            ui.expectMsgBox(vbOK).expectInputBox(u"x"_s);
         },
         "2 réponse(s)");
 }
@@ -31,7 +33,7 @@ namespace {
 
 class feuille_essai : public Feuille {
 public:
-    feuille_essai() : Feuille(QStringLiteral("feuille_essai"), Genre::haut_niveau) {}
+    feuille_essai() : Feuille(u"feuille_essai"_s, Genre::haut_niveau) {}
 };
 
 } // namespace
@@ -43,6 +45,7 @@ TEST(ScriptedInteraction, AnUnexpectedModalScreenFailsTheTest) {
 }
 
 #include "support/Fixtures.h"
+
 
 TEST(ScriptedSession, UnusedAnswersFailTheTestAtItsEnd) {
     EXPECT_NONFATAL_FAILURE(
