@@ -9,120 +9,72 @@
 #include <array>
 #include <random>
 #include <vector>
+using namespace Qt::StringLiterals;
 
 namespace {
 
 // Fictional names: common French surnames and first names, combined at random.
 const QStringList noms = {
-    QStringLiteral("Martin"),    QStringLiteral("Bernard"),     QStringLiteral("Dubois"),
-    QStringLiteral("Thomas"),    QStringLiteral("Robert"),      QStringLiteral("Richard"),
-    QStringLiteral("Petit"),     QStringLiteral("Durand"),      QStringLiteral("Leroy"),
-    QStringLiteral("Moreau"),    QStringLiteral("Simon"),       QStringLiteral("Laurent"),
-    QStringLiteral("Lefèvre"),   QStringLiteral("Michel"),      QStringLiteral("Garcia"),
-    QStringLiteral("David"),     QStringLiteral("Bertrand"),    QStringLiteral("Roux"),
-    QStringLiteral("Vincent"),   QStringLiteral("Fournier"),    QStringLiteral("Morel"),
-    QStringLiteral("Girard"),    QStringLiteral("André"),       QStringLiteral("Lefebvre"),
-    QStringLiteral("Mercier"),   QStringLiteral("Dupont"),      QStringLiteral("Lambert"),
-    QStringLiteral("Bonnet"),    QStringLiteral("François"),    QStringLiteral("Martinez"),
-    QStringLiteral("Legrand"),   QStringLiteral("Garnier"),     QStringLiteral("Faure"),
-    QStringLiteral("Rousseau"),  QStringLiteral("Blanc"),       QStringLiteral("Guérin"),
-    QStringLiteral("Muller"),    QStringLiteral("Henry"),       QStringLiteral("Roussel"),
-    QStringLiteral("Nicolas"),   QStringLiteral("Perrin"),      QStringLiteral("Morin"),
-    QStringLiteral("Mathieu"),   QStringLiteral("Clément"),     QStringLiteral("Gauthier"),
-    QStringLiteral("Dumont"),    QStringLiteral("Lopez"),       QStringLiteral("Fontaine"),
-    QStringLiteral("Chevalier"), QStringLiteral("Robin"),       QStringLiteral("Masson"),
-    QStringLiteral("Sanchez"),   QStringLiteral("Gérard"),      QStringLiteral("Nguyen"),
-    QStringLiteral("Boyer"),     QStringLiteral("Denis"),       QStringLiteral("Lemaire"),
-    QStringLiteral("Duval"),     QStringLiteral("Joly"),        QStringLiteral("Gautier"),
-    QStringLiteral("Roger"),     QStringLiteral("Roche"),       QStringLiteral("Roy"),
-    QStringLiteral("Noël"),      QStringLiteral("Meyer"),       QStringLiteral("Lucas"),
-    QStringLiteral("Meunier"),   QStringLiteral("Jean"),        QStringLiteral("Pérez"),
-    QStringLiteral("Marchand"),  QStringLiteral("Dufour"),      QStringLiteral("Blanchard"),
-    QStringLiteral("Marie"),     QStringLiteral("Barbier"),     QStringLiteral("Brun"),
-    QStringLiteral("Dumas"),     QStringLiteral("Brunet"),      QStringLiteral("Schmitt"),
-    QStringLiteral("Leroux"),    QStringLiteral("Colin"),       QStringLiteral("Fernandez"),
-    QStringLiteral("Pierre"),    QStringLiteral("Renard"),      QStringLiteral("Arnaud"),
-    QStringLiteral("Rolland"),   QStringLiteral("Caron"),       QStringLiteral("Aubert"),
-    QStringLiteral("Giraud"),    QStringLiteral("Leclerc"),     QStringLiteral("Vidal"),
-    QStringLiteral("Bourgeois"), QStringLiteral("Renaud"),      QStringLiteral("Lemoine"),
-    QStringLiteral("Picard"),    QStringLiteral("Gaillard"),    QStringLiteral("Philippe"),
-    QStringLiteral("Leclercq"),  QStringLiteral("Lacroix"),     QStringLiteral("Fabre"),
-    QStringLiteral("Dupuis"),    QStringLiteral("Olivier"),     QStringLiteral("Rodriguez"),
-    QStringLiteral("Da Silva"),  QStringLiteral("Hubert"),      QStringLiteral("Louis"),
-    QStringLiteral("Charles"),   QStringLiteral("Guillot"),     QStringLiteral("Rivière"),
-    QStringLiteral("Le Gall"),   QStringLiteral("Guillaume"),   QStringLiteral("Adam"),
-    QStringLiteral("Rey"),       QStringLiteral("Moulin"),      QStringLiteral("Gonzalez"),
-    QStringLiteral("Berger"),    QStringLiteral("Lecomte"),     QStringLiteral("Ménard"),
-    QStringLiteral("Fleury"),    QStringLiteral("Deschamps"),   QStringLiteral("Carpentier"),
-    QStringLiteral("Julien"),    QStringLiteral("Benoît"),      QStringLiteral("Paris"),
-    QStringLiteral("Maillard"),  QStringLiteral("Marchal"),     QStringLiteral("Aubry"),
-    QStringLiteral("Vasseur"),   QStringLiteral("Le Roux"),     QStringLiteral("Renault"),
-    QStringLiteral("Jacquet"),   QStringLiteral("Collet"),      QStringLiteral("Prévost"),
-    QStringLiteral("Poirier"),   QStringLiteral("Charpentier"), QStringLiteral("Royer"),
-    QStringLiteral("Huet"),      QStringLiteral("Baron"),       QStringLiteral("Dupuy"),
-    QStringLiteral("Pons"),      QStringLiteral("Paul"),        QStringLiteral("Laine"),
-    QStringLiteral("Carré"),     QStringLiteral("Breton"),      QStringLiteral("Rémy"),
-    QStringLiteral("Schneider"), QStringLiteral("Perrot"),      QStringLiteral("Guyot"),
-    QStringLiteral("Barre"),     QStringLiteral("Marty"),       QStringLiteral("Cousin"),
-    QStringLiteral("Dupré"),     QStringLiteral("Duprat"),      QStringLiteral("Émond"),
-    QStringLiteral("Éloy"),      QStringLiteral("Édouard"),     QStringLiteral("Ébrard"),
+    u"Martin"_s,    u"Bernard"_s,     u"Dubois"_s,    u"Thomas"_s,   u"Robert"_s,    u"Richard"_s,
+    u"Petit"_s,     u"Durand"_s,      u"Leroy"_s,     u"Moreau"_s,   u"Simon"_s,     u"Laurent"_s,
+    u"Lefèvre"_s,   u"Michel"_s,      u"Garcia"_s,    u"David"_s,    u"Bertrand"_s,  u"Roux"_s,
+    u"Vincent"_s,   u"Fournier"_s,    u"Morel"_s,     u"Girard"_s,   u"André"_s,     u"Lefebvre"_s,
+    u"Mercier"_s,   u"Dupont"_s,      u"Lambert"_s,   u"Bonnet"_s,   u"François"_s,  u"Martinez"_s,
+    u"Legrand"_s,   u"Garnier"_s,     u"Faure"_s,     u"Rousseau"_s, u"Blanc"_s,     u"Guérin"_s,
+    u"Muller"_s,    u"Henry"_s,       u"Roussel"_s,   u"Nicolas"_s,  u"Perrin"_s,    u"Morin"_s,
+    u"Mathieu"_s,   u"Clément"_s,     u"Gauthier"_s,  u"Dumont"_s,   u"Lopez"_s,     u"Fontaine"_s,
+    u"Chevalier"_s, u"Robin"_s,       u"Masson"_s,    u"Sanchez"_s,  u"Gérard"_s,    u"Nguyen"_s,
+    u"Boyer"_s,     u"Denis"_s,       u"Lemaire"_s,   u"Duval"_s,    u"Joly"_s,      u"Gautier"_s,
+    u"Roger"_s,     u"Roche"_s,       u"Roy"_s,       u"Noël"_s,     u"Meyer"_s,     u"Lucas"_s,
+    u"Meunier"_s,   u"Jean"_s,        u"Pérez"_s,     u"Marchand"_s, u"Dufour"_s,    u"Blanchard"_s,
+    u"Marie"_s,     u"Barbier"_s,     u"Brun"_s,      u"Dumas"_s,    u"Brunet"_s,    u"Schmitt"_s,
+    u"Leroux"_s,    u"Colin"_s,       u"Fernandez"_s, u"Pierre"_s,   u"Renard"_s,    u"Arnaud"_s,
+    u"Rolland"_s,   u"Caron"_s,       u"Aubert"_s,    u"Giraud"_s,   u"Leclerc"_s,   u"Vidal"_s,
+    u"Bourgeois"_s, u"Renaud"_s,      u"Lemoine"_s,   u"Picard"_s,   u"Gaillard"_s,  u"Philippe"_s,
+    u"Leclercq"_s,  u"Lacroix"_s,     u"Fabre"_s,     u"Dupuis"_s,   u"Olivier"_s,   u"Rodriguez"_s,
+    u"Da Silva"_s,  u"Hubert"_s,      u"Louis"_s,     u"Charles"_s,  u"Guillot"_s,   u"Rivière"_s,
+    u"Le Gall"_s,   u"Guillaume"_s,   u"Adam"_s,      u"Rey"_s,      u"Moulin"_s,    u"Gonzalez"_s,
+    u"Berger"_s,    u"Lecomte"_s,     u"Ménard"_s,    u"Fleury"_s,   u"Deschamps"_s, u"Carpentier"_s,
+    u"Julien"_s,    u"Benoît"_s,      u"Paris"_s,     u"Maillard"_s, u"Marchal"_s,   u"Aubry"_s,
+    u"Vasseur"_s,   u"Le Roux"_s,     u"Renault"_s,   u"Jacquet"_s,  u"Collet"_s,    u"Prévost"_s,
+    u"Poirier"_s,   u"Charpentier"_s, u"Royer"_s,     u"Huet"_s,     u"Baron"_s,     u"Dupuy"_s,
+    u"Pons"_s,      u"Paul"_s,        u"Laine"_s,     u"Carré"_s,    u"Breton"_s,    u"Rémy"_s,
+    u"Schneider"_s, u"Perrot"_s,      u"Guyot"_s,     u"Barre"_s,    u"Marty"_s,     u"Cousin"_s,
+    u"Dupré"_s,     u"Duprat"_s,      u"Émond"_s,     u"Éloy"_s,     u"Édouard"_s,   u"Ébrard"_s,
 };
 
 const QStringList prénoms_garçons = {
-    QStringLiteral("Gabriel"), QStringLiteral("Léo"),      QStringLiteral("Raphaël"),
-    QStringLiteral("Louis"),   QStringLiteral("Arthur"),   QStringLiteral("Jules"),
-    QStringLiteral("Adam"),    QStringLiteral("Maël"),     QStringLiteral("Lucas"),
-    QStringLiteral("Hugo"),    QStringLiteral("Noah"),     QStringLiteral("Liam"),
-    QStringLiteral("Gabin"),   QStringLiteral("Sacha"),    QStringLiteral("Paul"),
-    QStringLiteral("Nathan"),  QStringLiteral("Aaron"),    QStringLiteral("Mohamed"),
-    QStringLiteral("Ethan"),   QStringLiteral("Tom"),      QStringLiteral("Éden"),
-    QStringLiteral("Léon"),    QStringLiteral("Noé"),      QStringLiteral("Tiago"),
-    QStringLiteral("Théo"),    QStringLiteral("Isaac"),    QStringLiteral("Marius"),
-    QStringLiteral("Victor"),  QStringLiteral("Ayden"),    QStringLiteral("Martin"),
-    QStringLiteral("Naël"),    QStringLiteral("Mathis"),   QStringLiteral("Axel"),
-    QStringLiteral("Robin"),   QStringLiteral("Timéo"),    QStringLiteral("Émile"),
-    QStringLiteral("Nino"),    QStringLiteral("Valentin"), QStringLiteral("Eliott"),
-    QStringLiteral("Samuel"),
+    u"Gabriel"_s, u"Léo"_s,    u"Raphaël"_s,  u"Louis"_s,   u"Arthur"_s, u"Jules"_s,  u"Adam"_s,
+    u"Maël"_s,    u"Lucas"_s,  u"Hugo"_s,     u"Noah"_s,    u"Liam"_s,   u"Gabin"_s,  u"Sacha"_s,
+    u"Paul"_s,    u"Nathan"_s, u"Aaron"_s,    u"Mohamed"_s, u"Ethan"_s,  u"Tom"_s,    u"Éden"_s,
+    u"Léon"_s,    u"Noé"_s,    u"Tiago"_s,    u"Théo"_s,    u"Isaac"_s,  u"Marius"_s, u"Victor"_s,
+    u"Ayden"_s,   u"Martin"_s, u"Naël"_s,     u"Mathis"_s,  u"Axel"_s,   u"Robin"_s,  u"Timéo"_s,
+    u"Émile"_s,   u"Nino"_s,   u"Valentin"_s, u"Eliott"_s,  u"Samuel"_s,
 };
 
 const QStringList prénoms_filles = {
-    QStringLiteral("Jade"),     QStringLiteral("Louise"),   QStringLiteral("Emma"),
-    QStringLiteral("Ambre"),    QStringLiteral("Alice"),    QStringLiteral("Rose"),
-    QStringLiteral("Anna"),     QStringLiteral("Alba"),     QStringLiteral("Romy"),
-    QStringLiteral("Mia"),      QStringLiteral("Lina"),     QStringLiteral("Léna"),
-    QStringLiteral("Julia"),    QStringLiteral("Chloé"),    QStringLiteral("Inès"),
-    QStringLiteral("Léa"),      QStringLiteral("Agathe"),   QStringLiteral("Iris"),
-    QStringLiteral("Juliette"), QStringLiteral("Mila"),     QStringLiteral("Zoé"),
-    QStringLiteral("Lou"),      QStringLiteral("Nina"),     QStringLiteral("Margaux"),
-    QStringLiteral("Eva"),      QStringLiteral("Charlie"),  QStringLiteral("Victoire"),
-    QStringLiteral("Inaya"),    QStringLiteral("Adèle"),    QStringLiteral("Sofia"),
-    QStringLiteral("Lucie"),    QStringLiteral("Clémence"), QStringLiteral("Manon"),
-    QStringLiteral("Camille"),  QStringLiteral("Éléna"),    QStringLiteral("Héloïse"),
-    QStringLiteral("Océane"),   QStringLiteral("Maëlys"),   QStringLiteral("Capucine"),
-    QStringLiteral("Élise"),
+    u"Jade"_s,    u"Louise"_s, u"Emma"_s,    u"Ambre"_s,    u"Alice"_s,    u"Rose"_s,     u"Anna"_s,
+    u"Alba"_s,    u"Romy"_s,   u"Mia"_s,     u"Lina"_s,     u"Léna"_s,     u"Julia"_s,    u"Chloé"_s,
+    u"Inès"_s,    u"Léa"_s,    u"Agathe"_s,  u"Iris"_s,     u"Juliette"_s, u"Mila"_s,     u"Zoé"_s,
+    u"Lou"_s,     u"Nina"_s,   u"Margaux"_s, u"Eva"_s,      u"Charlie"_s,  u"Victoire"_s, u"Inaya"_s,
+    u"Adèle"_s,   u"Sofia"_s,  u"Lucie"_s,   u"Clémence"_s, u"Manon"_s,    u"Camille"_s,  u"Éléna"_s,
+    u"Héloïse"_s, u"Océane"_s, u"Maëlys"_s,  u"Capucine"_s, u"Élise"_s,
 };
 
 const QStringList prénoms_adultes_hommes = {
-    QStringLiteral("Nicolas"), QStringLiteral("Julien"),   QStringLiteral("Sébastien"),
-    QStringLiteral("Mathieu"), QStringLiteral("Thomas"),   QStringLiteral("Guillaume"),
-    QStringLiteral("Jérôme"),  QStringLiteral("Olivier"),  QStringLiteral("Romain"),
-    QStringLiteral("Karim"),   QStringLiteral("Stéphane"), QStringLiteral("Antoine"),
+    u"Nicolas"_s, u"Julien"_s,  u"Sébastien"_s, u"Mathieu"_s, u"Thomas"_s,   u"Guillaume"_s,
+    u"Jérôme"_s,  u"Olivier"_s, u"Romain"_s,    u"Karim"_s,   u"Stéphane"_s, u"Antoine"_s,
 };
 
 const QStringList prénoms_adultes_femmes = {
-    QStringLiteral("Céline"), QStringLiteral("Aurélie"),  QStringLiteral("Julie"),
-    QStringLiteral("Émilie"), QStringLiteral("Sandrine"), QStringLiteral("Nathalie"),
-    QStringLiteral("Sophie"), QStringLiteral("Claire"),   QStringLiteral("Laetitia"),
-    QStringLiteral("Samia"),  QStringLiteral("Hélène"),   QStringLiteral("Virginie"),
+    u"Céline"_s, u"Aurélie"_s, u"Julie"_s,    u"Émilie"_s, u"Sandrine"_s, u"Nathalie"_s,
+    u"Sophie"_s, u"Claire"_s,  u"Laetitia"_s, u"Samia"_s,  u"Hélène"_s,   u"Virginie"_s,
 };
 
 const QStringList rues = {
-    QStringLiteral("rue de la République"), QStringLiteral("avenue Jean Jaurès"),
-    QStringLiteral("rue Victor Hugo"),      QStringLiteral("place de l'Église"),
-    QStringLiteral("rue des Écoles"),       QStringLiteral("chemin des Vignes"),
-    QStringLiteral("allée des Tilleuls"),   QStringLiteral("rue Pasteur"),
-    QStringLiteral("boulevard Gambetta"),   QStringLiteral("impasse des Lilas"),
-    QStringLiteral("rue du Moulin"),        QStringLiteral("rue de la Gare"),
+    u"rue de la République"_s, u"avenue Jean Jaurès"_s, u"rue Victor Hugo"_s,    u"place de l'Église"_s,
+    u"rue des Écoles"_s,       u"chemin des Vignes"_s,  u"allée des Tilleuls"_s, u"rue Pasteur"_s,
+    u"boulevard Gambetta"_s,   u"impasse des Lilas"_s,  u"rue du Moulin"_s,      u"rue de la Gare"_s,
 };
 
 struct Ville {
@@ -155,28 +107,23 @@ constexpr std::array<Praticien, 3> hôpitaux = {
      {"Hôpital pédiatrique du Parc", "04 00 00 20 02", "60", 1, 2},
      {"Clinique des Lilas", "04 00 00 20 03", "12", 9, 4}}};
 
-const QStringList assurances = {
-    QStringLiteral("Assurance scolaire du Rhône"), QStringLiteral("Mutuelle des Tilleuls"),
-    QStringLiteral("Prévoyance familiale des Lilas"), QStringLiteral("Caisse mutuelle des Acacias")};
+const QStringList assurances = {u"Assurance scolaire du Rhône"_s, u"Mutuelle des Tilleuls"_s,
+                                u"Prévoyance familiale des Lilas"_s, u"Caisse mutuelle des Acacias"_s};
 
 const QStringList professions = {
-    QStringLiteral("Infirmière"),  QStringLiteral("Technicien"),  QStringLiteral("Comptable"),
-    QStringLiteral("Boulanger"),   QStringLiteral("Enseignante"), QStringLiteral("Ingénieur"),
-    QStringLiteral("Vendeuse"),    QStringLiteral("Chauffeur"),   QStringLiteral("Aide-soignante"),
-    QStringLiteral("Électricien"), QStringLiteral("Secrétaire"),  QStringLiteral("Sans profession"),
+    u"Infirmière"_s,     u"Technicien"_s,  u"Comptable"_s,  u"Boulanger"_s,
+    u"Enseignante"_s,    u"Ingénieur"_s,   u"Vendeuse"_s,   u"Chauffeur"_s,
+    u"Aide-soignante"_s, u"Électricien"_s, u"Secrétaire"_s, u"Sans profession"_s,
 };
 const QStringList csp_professions = {
-    QStringLiteral("43"), QStringLiteral("47"), QStringLiteral("46"), QStringLiteral("21"),
-    QStringLiteral("42"), QStringLiteral("38"), QStringLiteral("55"), QStringLiteral("64"),
-    QStringLiteral("52"), QStringLiteral("62"), QStringLiteral("54"), QStringLiteral("85"),
+    u"43"_s, u"47"_s, u"46"_s, u"21"_s, u"42"_s, u"38"_s,
+    u"55"_s, u"64"_s, u"52"_s, u"62"_s, u"54"_s, u"85"_s,
 };
 
-const QStringList autres_nationalités = {QStringLiteral("Portugaise"), QStringLiteral("Marocaine"),
-                                         QStringLiteral("Algérienne"), QStringLiteral("Italienne"),
-                                         QStringLiteral("Turque"),     QStringLiteral("Roumaine")};
-const QStringList codes_autres_nationalités = {QStringLiteral("99139"), QStringLiteral("99350"),
-                                               QStringLiteral("99352"), QStringLiteral("99127"),
-                                               QStringLiteral("99208"), QStringLiteral("99114")};
+const QStringList autres_nationalités = {u"Portugaise"_s, u"Marocaine"_s, u"Algérienne"_s,
+                                         u"Italienne"_s,  u"Turque"_s,    u"Roumaine"_s};
+const QStringList codes_autres_nationalités = {u"99139"_s, u"99350"_s, u"99352"_s,
+                                               u"99127"_s, u"99208"_s, u"99114"_s};
 
 struct Niveau {
     const char* code;
@@ -212,16 +159,16 @@ private:
 };
 
 QString téléphone(Dés& dés, bool portable) {
-    QString numéro = portable ? QStringLiteral("0%1").arg(dés.entre(6, 7)) : QStringLiteral("04");
+    QString numéro = portable ? u"0%1"_s.arg(dés.entre(6, 7)) : u"04"_s;
     for (int i = 0; i < 4; ++i)
-        numéro += QStringLiteral(" %1").arg(dés.entre(0, 99), 2, 10, QLatin1Char('0'));
+        numéro += u" %1"_s.arg(dés.entre(0, 99), 2, 10, QLatin1Char('0'));
     return numéro;
 }
 
 QString courriel(const QString& prénom, const QString& nom) {
     QString adresse = (prénom + u'.' + nom).toLower();
     adresse.replace(u' ', u'-');
-    return adresse + QStringLiteral("@exemple.fr");
+    return adresse + u"@exemple.fr"_s;
 }
 
 QString adresse_de(const Praticien& p) {
@@ -231,39 +178,39 @@ QString adresse_de(const Praticien& p) {
 // The four columns of a doctor or a hospital, copied together as its lookup copies them.
 void copier_praticien(Recordset& familles, const QString& colonne, const Praticien& p) {
     familles.setField(colonne, QString::fromUtf8(p.nom));
-    familles.setField(QStringLiteral("téléphone_") + colonne, QString::fromUtf8(p.téléphone));
-    familles.setField(QStringLiteral("adresse_") + colonne, adresse_de(p));
-    familles.setField(QStringLiteral("ville_") + colonne, QString::fromUtf8(villes[p.ville].nom));
+    familles.setField(u"téléphone_"_s + colonne, QString::fromUtf8(p.téléphone));
+    familles.setField(u"adresse_"_s + colonne, adresse_de(p));
+    familles.setField(u"ville_"_s + colonne, QString::fromUtf8(villes[p.ville].nom));
 }
 
 // The lookups hold every street, insurer, doctor and hospital that the records name; the towns are
 // the template's own.
 void écrire_listes(Database& base) {
-    auto adresses = base.OpenRecordset(QStringLiteral("adresses"));
+    auto adresses = base.OpenRecordset(u"adresses"_s);
     for (const QString& rue : rues) {
         adresses->AddNew();
-        adresses->setField(QStringLiteral("détails"), rue);
+        adresses->setField(u"détails"_s, rue);
         adresses->Update();
     }
-    auto sociétés = base.OpenRecordset(QStringLiteral("assurances"));
+    auto sociétés = base.OpenRecordset(u"assurances"_s);
     for (const QString& société : assurances) {
         sociétés->AddNew();
-        sociétés->setField(QStringLiteral("détails"), société);
+        sociétés->setField(u"détails"_s, société);
         sociétés->Update();
     }
     const auto écrire = [&base](const QString& table, const auto& praticiens) {
         auto rs = base.OpenRecordset(table);
         for (const Praticien& p : praticiens) {
             rs->AddNew();
-            rs->setField(QStringLiteral("nom"), QString::fromUtf8(p.nom));
-            rs->setField(QStringLiteral("téléphone"), QString::fromUtf8(p.téléphone));
-            rs->setField(QStringLiteral("adresse"), adresse_de(p));
-            rs->setField(QStringLiteral("ville"), QString::fromUtf8(villes[p.ville].nom));
+            rs->setField(u"nom"_s, QString::fromUtf8(p.nom));
+            rs->setField(u"téléphone"_s, QString::fromUtf8(p.téléphone));
+            rs->setField(u"adresse"_s, adresse_de(p));
+            rs->setField(u"ville"_s, QString::fromUtf8(villes[p.ville].nom));
             rs->Update();
         }
     };
-    écrire(QStringLiteral("médecins"), médecins);
-    écrire(QStringLiteral("hôpitaux"), hôpitaux);
+    écrire(u"médecins"_s, médecins);
+    écrire(u"hôpitaux"_s, hôpitaux);
 }
 
 struct Famille {
@@ -272,7 +219,7 @@ struct Famille {
 
 Famille écrire_famille(Recordset& familles, Dés& dés, int numéro) {
     Famille f;
-    f.référence = QStringLiteral("%1").arg(numéro, 6, 10, QLatin1Char('0'));
+    f.référence = u"%1"_s.arg(numéro, 6, 10, QLatin1Char('0'));
     f.nom = dés.parmi(noms);
     f.numéro = QString::number(dés.entre(1, 180));
     f.rue = dés.parmi(rues);
@@ -285,50 +232,45 @@ Famille écrire_famille(Recordset& familles, Dés& dés, int numéro) {
     const QString prénom1 = dés.parmi(mère_d_abord ? prénoms_adultes_femmes : prénoms_adultes_hommes);
     const int métier1 = dés.entre(0, static_cast<int>(professions.size()) - 1);
     familles.AddNew();
-    familles.setField(QStringLiteral("référence_famille"), f.référence);
-    familles.setField(QStringLiteral("genre_responsable_légal"),
-                      mère_d_abord ? QStringLiteral("Madame") : QStringLiteral("Monsieur"));
-    familles.setField(QStringLiteral("nom_responsable_légal"), f.nom);
-    familles.setField(QStringLiteral("prénom_responsable_légal"), prénom1);
-    familles.setField(QStringLiteral("profession_responsable_légal"), professions[métier1]);
-    familles.setField(QStringLiteral("csp_responsable_légal"), csp_professions[métier1]);
-    familles.setField(QStringLiteral("téléphone_professionnel2_responsable_légal"), téléphone(dés, true));
-    familles.setField(QStringLiteral("mail_responsable_légal"), courriel(prénom1, f.nom));
-    familles.setField(QStringLiteral("élection_comité_responsable_légal"), dés.chance(80) ? "oui" : "non");
-    familles.setField(QStringLiteral("numéro_responsable"), f.numéro);
-    familles.setField(QStringLiteral("adresse_responsable"), f.rue);
-    familles.setField(QStringLiteral("code_postal_responsable"), f.code_postal);
-    familles.setField(QStringLiteral("ville_responsable"), f.ville);
-    familles.setField(QStringLiteral("communication_données"), dés.chance(85) ? "oui" : "non");
-    familles.setField(QStringLiteral("société_assurance"), dés.parmi(assurances));
-    familles.setField(QStringLiteral("police_assurance"),
-                      QStringLiteral("AS-%1").arg(dés.entre(100000, 999999)));
+    familles.setField(u"référence_famille"_s, f.référence);
+    familles.setField(u"genre_responsable_légal"_s, mère_d_abord ? u"Madame"_s : u"Monsieur"_s);
+    familles.setField(u"nom_responsable_légal"_s, f.nom);
+    familles.setField(u"prénom_responsable_légal"_s, prénom1);
+    familles.setField(u"profession_responsable_légal"_s, professions[métier1]);
+    familles.setField(u"csp_responsable_légal"_s, csp_professions[métier1]);
+    familles.setField(u"téléphone_professionnel2_responsable_légal"_s, téléphone(dés, true));
+    familles.setField(u"mail_responsable_légal"_s, courriel(prénom1, f.nom));
+    familles.setField(u"élection_comité_responsable_légal"_s, dés.chance(80) ? u"oui"_s : u"non"_s);
+    familles.setField(u"numéro_responsable"_s, f.numéro);
+    familles.setField(u"adresse_responsable"_s, f.rue);
+    familles.setField(u"code_postal_responsable"_s, f.code_postal);
+    familles.setField(u"ville_responsable"_s, f.ville);
+    familles.setField(u"communication_données"_s, dés.chance(85) ? u"oui"_s : u"non"_s);
+    familles.setField(u"société_assurance"_s, dés.parmi(assurances));
+    familles.setField(u"police_assurance"_s, u"AS-%1"_s.arg(dés.entre(100000, 999999)));
     if (dés.chance(85))
-        copier_praticien(familles, QStringLiteral("médecin_traitant"),
+        copier_praticien(familles, u"médecin_traitant"_s,
                          médecins[dés.entre(0, static_cast<int>(médecins.size()) - 1)]);
     if (dés.chance(60))
-        copier_praticien(familles, QStringLiteral("hôpital_préférentiel"),
+        copier_praticien(familles, u"hôpital_préférentiel"_s,
                          hôpitaux[dés.entre(0, static_cast<int>(hôpitaux.size()) - 1)]);
     if (dés.chance(75)) {
         const QString prénom2 = dés.parmi(mère_d_abord ? prénoms_adultes_hommes : prénoms_adultes_femmes);
         const int métier2 = dés.entre(0, static_cast<int>(professions.size()) - 1);
-        familles.setField(QStringLiteral("situation_familiale"),
-                          dés.chance(70) ? QStringLiteral("Mariés") : QStringLiteral("Pacsés"));
-        familles.setField(QStringLiteral("genre_conjoint"),
-                          mère_d_abord ? QStringLiteral("Monsieur") : QStringLiteral("Madame"));
-        familles.setField(QStringLiteral("nom_conjoint"), f.nom);
-        familles.setField(QStringLiteral("prénom_conjoint"), prénom2);
-        familles.setField(QStringLiteral("profession_conjoint"), professions[métier2]);
-        familles.setField(QStringLiteral("csp_conjoint"), csp_professions[métier2]);
-        familles.setField(QStringLiteral("téléphone_professionnel2_conjoint"), téléphone(dés, true));
-        familles.setField(QStringLiteral("élection_comité_conjoint"), dés.chance(80) ? "oui" : "non");
-        familles.setField(QStringLiteral("numéro_conjoint"), f.numéro);
-        familles.setField(QStringLiteral("adresse_conjoint"), f.rue);
-        familles.setField(QStringLiteral("code_postal_conjoint"), f.code_postal);
-        familles.setField(QStringLiteral("ville_conjoint"), f.ville);
+        familles.setField(u"situation_familiale"_s, dés.chance(70) ? u"Mariés"_s : u"Pacsés"_s);
+        familles.setField(u"genre_conjoint"_s, mère_d_abord ? u"Monsieur"_s : u"Madame"_s);
+        familles.setField(u"nom_conjoint"_s, f.nom);
+        familles.setField(u"prénom_conjoint"_s, prénom2);
+        familles.setField(u"profession_conjoint"_s, professions[métier2]);
+        familles.setField(u"csp_conjoint"_s, csp_professions[métier2]);
+        familles.setField(u"téléphone_professionnel2_conjoint"_s, téléphone(dés, true));
+        familles.setField(u"élection_comité_conjoint"_s, dés.chance(80) ? u"oui"_s : u"non"_s);
+        familles.setField(u"numéro_conjoint"_s, f.numéro);
+        familles.setField(u"adresse_conjoint"_s, f.rue);
+        familles.setField(u"code_postal_conjoint"_s, f.code_postal);
+        familles.setField(u"ville_conjoint"_s, f.ville);
     } else {
-        familles.setField(QStringLiteral("situation_familiale"),
-                          dés.chance(50) ? QStringLiteral("Divorcés") : QStringLiteral("Célibataire"));
+        familles.setField(u"situation_familiale"_s, dés.chance(50) ? u"Divorcés"_s : u"Célibataire"_s);
     }
     familles.Update();
     return f;
@@ -348,49 +290,46 @@ void écrire_élève(Recordset& élèves, Dés& dés, const Famille& f, const Cl
     const QDate inscription = rentrée.addYears(-années_ici);
 
     élèves.AddNew();
-    élèves.setField(QStringLiteral("matricule"),
-                    QStringLiteral("%1").arg(matricule, 6, 10, QLatin1Char('0')));
-    élèves.setField(QStringLiteral("référence_famille"), f.référence);
-    élèves.setField(QStringLiteral("nom_élève"), f.nom);
-    élèves.setField(QStringLiteral("prénom_élève"), dés.parmi(garçon ? prénoms_garçons : prénoms_filles));
-    élèves.setField(QStringLiteral("date_naissance_élève"), naissance);
-    élèves.setField(QStringLiteral("lieu_naissance_élève"), f.ville);
-    élèves.setField(QStringLiteral("sexe_élève"),
-                    garçon ? QStringLiteral("Masculin") : QStringLiteral("Féminin"));
+    élèves.setField(u"matricule"_s, u"%1"_s.arg(matricule, 6, 10, QLatin1Char('0')));
+    élèves.setField(u"référence_famille"_s, f.référence);
+    élèves.setField(u"nom_élève"_s, f.nom);
+    élèves.setField(u"prénom_élève"_s, dés.parmi(garçon ? prénoms_garçons : prénoms_filles));
+    élèves.setField(u"date_naissance_élève"_s, naissance);
+    élèves.setField(u"lieu_naissance_élève"_s, f.ville);
+    élèves.setField(u"sexe_élève"_s, garçon ? u"Masculin"_s : u"Féminin"_s);
     if (dés.chance(90)) {
-        élèves.setField(QStringLiteral("nationalité_élève"), QStringLiteral("Française"));
-        élèves.setField(QStringLiteral("code_nationalité_élève"), QStringLiteral("99100"));
+        élèves.setField(u"nationalité_élève"_s, u"Française"_s);
+        élèves.setField(u"code_nationalité_élève"_s, u"99100"_s);
     } else {
         const int n = dés.entre(0, static_cast<int>(autres_nationalités.size()) - 1);
-        élèves.setField(QStringLiteral("nationalité_élève"), autres_nationalités[n]);
-        élèves.setField(QStringLiteral("code_nationalité_élève"), codes_autres_nationalités[n]);
+        élèves.setField(u"nationalité_élève"_s, autres_nationalités[n]);
+        élèves.setField(u"code_nationalité_élève"_s, codes_autres_nationalités[n]);
     }
-    élèves.setField(QStringLiteral("date_inscription_élève"), inscription);
+    élèves.setField(u"date_inscription_élève"_s, inscription);
     if (dés.chance(4)) {
-        élèves.setField(QStringLiteral("date_radiation_élève"), rentrée.addDays(dés.entre(20, 200)));
-        élèves.setField(QStringLiteral("établissement_accueil"),
-                        QStringLiteral("École Jules Ferry, Grenoble"));
+        élèves.setField(u"date_radiation_élève"_s, rentrée.addDays(dés.entre(20, 200)));
+        élèves.setField(u"établissement_accueil"_s, u"École Jules Ferry, Grenoble"_s);
     }
-    élèves.setField(QStringLiteral("ainé"), ainé);
-    élèves.setField(QStringLiteral("référence_classe_élève"), classe.référence);
-    élèves.setField(QStringLiteral("niveau_classe_élève"), QString::fromUtf8(niveau.code));
-    élèves.setField(QStringLiteral("cycle_classe_élève"), QString::fromUtf8(niveau.cycle));
+    élèves.setField(u"ainé"_s, ainé);
+    élèves.setField(u"référence_classe_élève"_s, classe.référence);
+    élèves.setField(u"niveau_classe_élève"_s, QString::fromUtf8(niveau.code));
+    élèves.setField(u"cycle_classe_élève"_s, QString::fromUtf8(niveau.cycle));
     if (classe.niveau >= 4)
-        élèves.setField(QStringLiteral("langue_vivante_élève"), QStringLiteral("Anglais"));
-    élèves.setField(QStringLiteral("numéro_résidence"), f.numéro);
-    élèves.setField(QStringLiteral("adresse_résidence"), f.rue);
-    élèves.setField(QStringLiteral("code_postal_résidence"), f.code_postal);
-    élèves.setField(QStringLiteral("ville_résidence"), f.ville);
-    élèves.setField(QStringLiteral("téléphone1_résidence"), f.téléphone);
-    élèves.setField(QStringLiteral("nom_contact1"), dés.parmi(noms));
-    élèves.setField(QStringLiteral("prénom_contact1"), dés.parmi(prénoms_adultes_femmes));
-    élèves.setField(QStringLiteral("téléphone_contact1"), téléphone(dés, true));
-    élèves.setField(QStringLiteral("vaccinations"), QStringLiteral("à jour"));
+        élèves.setField(u"langue_vivante_élève"_s, u"Anglais"_s);
+    élèves.setField(u"numéro_résidence"_s, f.numéro);
+    élèves.setField(u"adresse_résidence"_s, f.rue);
+    élèves.setField(u"code_postal_résidence"_s, f.code_postal);
+    élèves.setField(u"ville_résidence"_s, f.ville);
+    élèves.setField(u"téléphone1_résidence"_s, f.téléphone);
+    élèves.setField(u"nom_contact1"_s, dés.parmi(noms));
+    élèves.setField(u"prénom_contact1"_s, dés.parmi(prénoms_adultes_femmes));
+    élèves.setField(u"téléphone_contact1"_s, téléphone(dés, true));
+    élèves.setField(u"vaccinations"_s, u"à jour"_s);
     if (dés.chance(8))
-        élèves.setField(QStringLiteral("allergies"), QStringLiteral("arachide"));
-    élèves.setField(QStringLiteral("restauration_scolaire"), dés.chance(70) ? "oui" : "non");
-    élèves.setField(QStringLiteral("coopérative_scolaire"), dés.chance(90) ? "payée" : "non payée");
-    élèves.setField(QStringLiteral("participation_usep"), dés.chance(40) ? "oui" : "non");
+        élèves.setField(u"allergies"_s, u"arachide"_s);
+    élèves.setField(u"restauration_scolaire"_s, dés.chance(70) ? u"oui"_s : u"non"_s);
+    élèves.setField(u"coopérative_scolaire"_s, dés.chance(90) ? u"payée"_s : u"non payée"_s);
+    élèves.setField(u"participation_usep"_s, dés.chance(40) ? u"oui"_s : u"non"_s);
     élèves.Update();
 }
 
@@ -405,42 +344,39 @@ std::vector<Classe> classes_pour(int élèves) {
 }
 
 void écrire_équipe(Database& base, Dés& dés, const std::vector<Classe>& classes) {
-    auto équipe = base.OpenRecordset(QStringLiteral("équipe"));
+    auto équipe = base.OpenRecordset(u"équipe"_s);
     for (const Classe& classe : classes) {
         const bool femme = dés.chance(80);
         const QString nom = dés.parmi(noms);
         const QString prénom = dés.parmi(femme ? prénoms_adultes_femmes : prénoms_adultes_hommes);
         équipe->AddNew();
-        équipe->setField(QStringLiteral("genre_enseignant"),
-                         femme ? QStringLiteral("Madame") : QStringLiteral("Monsieur"));
-        équipe->setField(QStringLiteral("nom_enseignant"), nom);
-        équipe->setField(QStringLiteral("prénom_enseignant"), prénom);
-        équipe->setField(QStringLiteral("mail_enseignant"), courriel(prénom, nom));
-        équipe->setField(QStringLiteral("référence_classe_enseignant"), classe.référence);
-        équipe->setField(QStringLiteral("niveau_classe_enseignant"),
-                         QString::fromUtf8(niveaux[classe.niveau].code));
-        équipe->setField(QStringLiteral("cycle_classe_enseignant"),
-                         QString::fromUtf8(niveaux[classe.niveau].cycle));
+        équipe->setField(u"genre_enseignant"_s, femme ? u"Madame"_s : u"Monsieur"_s);
+        équipe->setField(u"nom_enseignant"_s, nom);
+        équipe->setField(u"prénom_enseignant"_s, prénom);
+        équipe->setField(u"mail_enseignant"_s, courriel(prénom, nom));
+        équipe->setField(u"référence_classe_enseignant"_s, classe.référence);
+        équipe->setField(u"niveau_classe_enseignant"_s, QString::fromUtf8(niveaux[classe.niveau].code));
+        équipe->setField(u"cycle_classe_enseignant"_s, QString::fromUtf8(niveaux[classe.niveau].cycle));
         équipe->Update();
     }
 }
 
 void écrire_école(Database& base) {
-    auto école = base.OpenRecordset(QStringLiteral("école"));
+    auto école = base.OpenRecordset(u"école"_s);
     école->AddNew();
-    école->setField(QStringLiteral("nom_école"), QStringLiteral("École primaire des Tilleuls"));
-    école->setField(QStringLiteral("numéro_école"), QStringLiteral("12"));
-    école->setField(QStringLiteral("adresse_école"), QStringLiteral("rue des Écoles"));
-    école->setField(QStringLiteral("code_postal_école"), QStringLiteral("69100"));
-    école->setField(QStringLiteral("ville_école"), QStringLiteral("Villeurbanne"));
-    école->setField(QStringLiteral("téléphone_école"), QStringLiteral("04 00 00 00 00"));
-    école->setField(QStringLiteral("mail_école"), QStringLiteral("ecole.tilleuls@exemple.fr"));
-    école->setField(QStringLiteral("rne_école"), QStringLiteral("0699999Z"));
-    école->setField(QStringLiteral("genre_directeur_école"), QStringLiteral("Madame"));
-    école->setField(QStringLiteral("nom_directeur_école"), QStringLiteral("Lambert"));
-    école->setField(QStringLiteral("prénom_directeur_école"), QStringLiteral("Claire"));
-    école->setField(QStringLiteral("titre_directeur"), QStringLiteral("Directrice"));
-    école->setField(QStringLiteral("politesse_directeur"), QStringLiteral("Madame la Directrice"));
+    école->setField(u"nom_école"_s, u"École primaire des Tilleuls"_s);
+    école->setField(u"numéro_école"_s, u"12"_s);
+    école->setField(u"adresse_école"_s, u"rue des Écoles"_s);
+    école->setField(u"code_postal_école"_s, u"69100"_s);
+    école->setField(u"ville_école"_s, u"Villeurbanne"_s);
+    école->setField(u"téléphone_école"_s, u"04 00 00 00 00"_s);
+    école->setField(u"mail_école"_s, u"ecole.tilleuls@exemple.fr"_s);
+    école->setField(u"rne_école"_s, u"0699999Z"_s);
+    école->setField(u"genre_directeur_école"_s, u"Madame"_s);
+    école->setField(u"nom_directeur_école"_s, u"Lambert"_s);
+    école->setField(u"prénom_directeur_école"_s, u"Claire"_s);
+    école->setField(u"titre_directeur"_s, u"Directrice"_s);
+    école->setField(u"politesse_directeur"_s, u"Madame la Directrice"_s);
     école->Update();
 }
 
@@ -454,8 +390,8 @@ void remplir_démonstration(Database& base, const Démonstration& options) {
         écrire_listes(base);
         écrire_école(base);
         écrire_équipe(base, dés, classes);
-        auto familles = base.OpenRecordset(QStringLiteral("familles"));
-        auto élèves = base.OpenRecordset(QStringLiteral("élèves"));
+        auto familles = base.OpenRecordset(u"familles"_s);
+        auto élèves = base.OpenRecordset(u"élèves"_s);
         int matricule = 0;
         for (int famille = 1; matricule < options.élèves; ++famille) {
             const Famille f = écrire_famille(*familles, dés, famille);
@@ -489,26 +425,23 @@ QString texte_ressource(const QString& nom) {
 // hundred rows each, which keeps every statement small for the engine.
 QString insertions_villes(const QString& tableau) {
     constexpr int lignes_par_insertion = 500;
-    const auto littéral = [](QString texte) {
-        return u'\'' + texte.replace(u'\'', QStringLiteral("''")) + u'\'';
-    };
+    const auto littéral = [](QString texte) { return u'\'' + texte.replace(u'\'', u"''"_s) + u'\''; };
     QStringList valeurs;
     for (const QString& ligne : tableau.split(u'\n', Qt::SkipEmptyParts).mid(1)) {
         const QStringList cellules = ligne.split(u'\t');
         if (cellules.size() == 2)
-            valeurs << u'(' + littéral(cellules[0]) + QStringLiteral(", ") + littéral(cellules[1]) + u')';
+            valeurs << u'(' + littéral(cellules[0]) + u", "_s + littéral(cellules[1]) + u')';
     }
     QString sql;
     for (qsizetype début = 0; début < valeurs.size(); début += lignes_par_insertion)
-        sql += QStringLiteral("INSERT INTO villes (code_postal, détails) VALUES ") +
-               valeurs.mid(début, lignes_par_insertion).join(QStringLiteral(", ")) + QStringLiteral(";\n");
+        sql += u"INSERT INTO villes (code_postal, détails) VALUES "_s +
+               valeurs.mid(début, lignes_par_insertion).join(u", "_s) + u";\n"_s;
     return sql;
 }
 
 } // namespace
 
 QStringList scripts_modèle() {
-    return {texte_ressource(QStringLiteral(":/modele/schema.sql")),
-            texte_ressource(QStringLiteral(":/modele/seed.sql")),
-            insertions_villes(texte_ressource(QStringLiteral(":/modele/villes.tsv")))};
+    return {texte_ressource(u":/modele/schema.sql"_s), texte_ressource(u":/modele/seed.sql"_s),
+            insertions_villes(texte_ressource(u":/modele/villes.tsv"_s))};
 }

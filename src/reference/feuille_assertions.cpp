@@ -1,5 +1,8 @@
 #include "reference/feuille_assertions.h"
 
+using namespace Qt::StringLiterals;
+
 feuille_assertions::feuille_assertions()
     : FeuilleConsultation(consultation("feuille_assertions", "Table des assertions", "assertions",
-                                       {{"détails", "détails"}}, {.légende = LégendePosition::aucune})) {}
+                                       {{u"détails"_s, u"détails"_s}},
+                                       {.légende = LégendePosition::aucune})) {}

@@ -1,6 +1,10 @@
 #include "reference/feuille_medecins.h"
 
+using namespace Qt::StringLiterals;
+
 feuille_médecins::feuille_médecins()
-    : FeuilleConsultation(consultation(
-          "feuille_médecins", "Table des médecins", "médecins",
-          {{"nom", "nom"}, {"téléphone", "téléphone"}, {"adresse", "adresse"}, {"ville", "ville"}})) {}
+    : FeuilleConsultation(consultation("feuille_médecins", "Table des médecins", "médecins",
+                                       {{u"nom"_s, u"nom"_s},
+                                        {u"téléphone"_s, u"téléphone"_s},
+                                        {u"adresse"_s, u"adresse"_s},
+                                        {u"ville"_s, u"ville"_s}})) {}

@@ -165,7 +165,7 @@ void FileListBox::Refresh() {
     clear();
     if (chemin_.isEmpty())
         return;
-    const QStringList motifs = motif_.split(';', Qt::SkipEmptyParts);
+    const QStringList motifs = motif_.split(u';', Qt::SkipEmptyParts);
     const QFileInfoList fichiers =
         QDir(chemin_).entryInfoList(motifs, QDir::Files, QDir::Name | QDir::IgnoreCase | QDir::LocaleAware);
     for (const QFileInfo& fichier : fichiers)

@@ -36,9 +36,9 @@ QString depuis_windows1252(const QByteArray& octets) {
         const auto u = static_cast<unsigned char>(o);
         if (u >= 0x80 && u <= 0x9F) {
             const char16_t c = plage_80_9f[u - 0x80];
-            texte.append(c == 0 ? QChar(u) : QChar(c));
+            texte.append(c == 0 ? QChar(char16_t(u)) : QChar(c));
         } else {
-            texte.append(QChar(u));
+            texte.append(QChar(char16_t(u)));
         }
     }
     return texte;
