@@ -3,8 +3,8 @@
 #include "EcransEssai.h"
 
 #include "platform/forms/DataControl.h"
+#include "platform/forms/FieldRows.h"
 #include "platform/forms/LimiteSaisie.h"
-#include "platform/forms/SuiviOnglets.h"
 #include "platform/ui/ErrorBoxes.h"
 #include "store/Module1.h"
 #include "support/PiloteEcran.h"
@@ -402,17 +402,12 @@ TEST_F(FicheTest, a_screen_not_yet_pointed_at_a_file_fails_with_the_engine_error
 
 TEST_F(FicheTest, a_field_taking_the_focus_brings_its_tab_forward) {
     auto& f = ouvrir();
-    suivre_onglets(f, *f.SSTab1, {{"nom", 0}, {"naissance", 0}, {"actif", 0}, {"notes", 1}});
+    followPages(f, *f.SSTab1);
     f.notes->setFocus(Qt::TabFocusReason);
     EXPECT_EQ(f.SSTab1->currentIndex(), 1);
     f.naissance->setFocus(Qt::TabFocusReason);
     EXPECT_EQ(f.SSTab1->currentIndex(), 0);
     EXPECT_TRUE(f.naissance->hasFocus());
-    EXPECT_EQ(error_of([&] {
-                  suivre_onglets(f, *f.SSTab1, {{"nom", 0}, {"champ_absent", 1}});
-              }),
-              424)
-        << "a table naming a missing field is refused";
 }
 
 TEST_F(FicheTest, a_last_row_the_engine_refuses_keeps_the_screen_open_with_its_edit) {
