@@ -1,6 +1,7 @@
 // What a user reads and may type on the pupil screen: captions, entry limits and help texts of every tab.
 #include "people/feuille_eleve.h"
 #include "platform/forms/LimiteSaisie.h"
+#include "support/Donnees.h"
 #include "support/Fixtures.h"
 
 #include <QApplication>
@@ -22,126 +23,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int une_ligne_sans_limite = 0;
-constexpr int plusieurs_lignes = -1;
-
-struct Attendu {
-    const char* champ;
-    int onglet;
-    const char* légende; // text of the caption label, or of the caption button
-    const char* bouton;  // caption button, nullptr when the caption is a label
-    int longueur;        // entry limit, une_ligne_sans_limite or plusieurs_lignes
-    const char* aide;    // help text, nullptr for none
-};
-
-const char* const choix = "Cliquez pour accéder aux différents choix possibles";
-
-// clang-format off
-const Attendu fiche[] = {
-    {"date_inscription", 0, "date d'inscription", "Command15", une_ligne_sans_limite,
-     "Date d'inscription de l'élève dans l'établissement (au format JJ/MM/AAAA)"},
-    {"date_naissance", 0, "date de naissance", nullptr, une_ligne_sans_limite,
-     "Date de naissance de l'élève (au format JJ/MM/AAAA)"},
-    {"lieu_naissance", 0, "lieu de naissance", nullptr, 50, "Lieu de naissance de l'élève"},
-    {"sexe", 0, "sexe", "Command7", 8, "Sexe de l'élève"},
-    {"nationalité", 0, "nationalité", "Command5", 30, "Nationalité de l'élève"},
-    {"code_nationalité", 0, "code nationalité", nullptr, 5, "Code de la nationalité de l'élève"},
-    {"chemin_photo", 0, "photo", "Command14", 254, "chemin d'accès à la photo de l'élève"},
-    {"date_radiation", 0, "date de radiation", nullptr, une_ligne_sans_limite,
-     "Date de radiation de l'établissement pour l'élève concerné (au format JJ/MM/AAAA)"},
-    {"établissement_accueil", 0, "Etablissement d'accueil", nullptr, 50,
-     "Coordonnées de l'établissement d'accueil suite à la radiation"},
-
-    {"référence_classe_élève", 1, "référence de la classe", "Command12", 5, "Référence de la classe"},
-    {"niveau_classe_élève", 1, "niveau", nullptr, 10, "Niveau de la classe dans laquelle est inscrit l'élève"},
-    {"cycle_classe_élève", 1, "cycle", nullptr, 1, "Cycle dans lequel est inscrit l'élève"},
-    {"cursus_allongé_élève", 1, "cursus allongé", nullptr, 50, "Détails du cursus de l'élève (allongement)"},
-    {"saisine_ccpe_élève", 1, "saisine MDPH", nullptr, 50,
-     "Détails des opérations de signalement de l'élève (date saisine,....)"},
-    {"langue_vivante_élève", 1, "langue vivante", "Command11", 30, "Langue vivante étudiée par l'élève"},
-
-    {"nom_contact1", 2, nullptr, nullptr, 30, "Nom d'une personne à contacter"},
-    {"prénom_contact1", 2, nullptr, nullptr, 30, "Prénom d'une personne à contacter"},
-    {"téléphone_contact1", 2, nullptr, nullptr, 20, "Coordonnées téléphoniques d'une personne à contacter"},
-    {"nom_contact2", 2, nullptr, nullptr, 30, "Nom d'une personne à contacter"},
-    {"prénom_contact2", 2, nullptr, nullptr, 30, "Prénom d'une personne à contacter"},
-    {"téléphone_contact2", 2, nullptr, nullptr, 20, "Coordonnées téléphoniques d'une personne à contacter"},
-    {"nom_contact3", 2, nullptr, nullptr, 30, "Nom d'une personne à contacter"},
-    {"prénom_contact3", 2, nullptr, nullptr, 30, "Prénom d'une personne à contacter"},
-    {"téléphone_contact3", 2, nullptr, nullptr, 20, "Coordonnées téléphoniques d'une personne à contacter"},
-    {"nom_contact4", 2, nullptr, nullptr, 30, "Nom d'une personne à contacter"},
-    {"prénom_contact4", 2, nullptr, nullptr, 30, "Prénom d'une personne à contacter"},
-    {"téléphone_contact4", 2, nullptr, nullptr, 20, "Coordonnées téléphoniques d'une personne à contacter"},
-    {"nom_contact5", 2, nullptr, nullptr, 30, "Nom d'une personne à contacter"},
-    {"prénom_contact5", 2, nullptr, nullptr, 30, "Prénom d'une personne à contacter"},
-    {"téléphone_contact5", 2, nullptr, nullptr, 20, "Coordonnées téléphoniques d'une personne à contacter"},
-
-    {"numéro_résidence", 3, "numéro", nullptr, 10, "Numéro de voirie"},
-    {"adresse_résidence", 3, "adresse", "Command8", 50, "Adresse - première composante de l'adresse"},
-    {"adresse2_résidence", 3, "suite adresse", nullptr, 50, "Adresse - deuxième composante éventuelle"},
-    {"code_postal_résidence", 3, "code postal", "Command9", 8, "Code postal"},
-    {"ville_résidence", 3, "ville", "Command10", 50, "Ville"},
-    {"téléphone1_résidence", 3, "téléphone1", nullptr, 20, "Coordonnées téléphoniques"},
-    {"téléphone2_résidence", 3, "téléphone 2", nullptr, 20, "Coordonnées téléphoniques"},
-
-    {"vaccinations", 4, "vaccinations", nullptr, 50, "Vaccinations"},
-    {"allergies", 4, "allergies", nullptr, 50, "Allergies"},
-    {"contre_indications", 4, "contre indications", nullptr, 50, "Contre indications"},
-    {"observations_médicales", 4, "observations médicales", nullptr, plusieurs_lignes,
-     "Observations médicales uniquement --- ATTENTION : aucun renseignement préjudiciable à l'enfant ou à la "
-     "famille "},
-    {"participation_usep", 4, "participation USEP", nullptr, 20, "USEP"},
-    {"restauration_scolaire", 4, "restauration scolaire", nullptr, 30, "Restauration scolaire"},
-    {"coopérative_scolaire", 4, "coopérative scolaire", nullptr, 30, "Coopérative scolaire"},
-    {"observations_générales", 4, "observations générales", nullptr, plusieurs_lignes,
-     "Observations générales sur l'enfant --- ATTENTION : aucune donnée préjudiciable à l'enfant ou à la "
-     "famille"},
-
-    {"champ_paramétable1", 5, "champ paramétable 1", nullptr, 50, nullptr},
-    {"champ_paramétable2", 5, "champ paramétable 2", nullptr, 50, nullptr},
-    {"champ_paramétable3", 5, "champ paramétable 3", nullptr, 50, nullptr},
-    {"champ_paramétable4", 5, "champ paramétable 4", nullptr, 50, nullptr},
-    {"champ_paramétable5", 5, "champ paramétable 5", nullptr, plusieurs_lignes, nullptr},
-    {"champ_paramétable6", 6, "champ paramétable 6", nullptr, 50, nullptr},
-    {"champ_paramétable7", 6, "champ paramétable 7", nullptr, 50, nullptr},
-    {"champ_paramétable8", 6, "champ paramétable 8", nullptr, 50, nullptr},
-    {"champ_paramétable9", 6, "champ paramétable 9", nullptr, plusieurs_lignes, nullptr},
-    {"champ_paramétable10", 6, "champ paramétable 10", nullptr, plusieurs_lignes, nullptr},
-};
-
-// Buttons and boxes whose caption and help text stand on their own.
-const struct { const char* nom; const char* légende; const char* aide; } boutons[] = {
-    {"Command15", "date d'inscription", "Cliquez pour accepter la date du jour comme date d'inscription"},
-    {"Command14", "photo", "Cliquez pour choisir la photo de l'élève"},
-    {"Command7", "sexe", choix},
-    {"Command5", "nationalité", choix},
-    {"Command12", "référence de la classe", choix},
-    {"Command11", "langue vivante", choix},
-    {"Command8", "adresse", choix},
-    {"Command9", "code postal", choix},
-    {"Command10", "ville", choix},
-    {"Command16", "CLIQUEZ ICI si l'adresse de résidence est identique à celle du responsable légal",
-     "Cliquez pour accepter automatiquement l'adresse du responsable légal en tant qu'adresse du "
-     "responsable légal"},
-    {"documents_suite", "Imprimer le document sélectionné",
-     "Cliquez pour imprimer le document sélectionné dans la liste ci-dessus pour l'élève en cours"},
-    {"Command6", "Modifier  le document sélectionné",
-     "Cliquez pour modifier le document sélectionné dans la liste ci-dessus"},
-    {"Command2", "matricule",
-     "Cliquez ici pour accéder à une fiche précise directement à partir d'un matricule"},
-    {"Command13", "nom",
-     "Cliquez ici pour accéder à une fiche précise directement à partir d'un nom (ou d'une partie de nom avec "
-     "utilisation de ? et *)"},
-    {"Command4", "Parents", "Cliquez pour accéder à la fiche des parents de l'élève en cours"},
-    {"Command3", "&Imprimer", "Cliquez pour imprimer la fiche"},
-    {"cmdAjouter", "&Ajouter", "Cliquez pour créer une nouvelle fiche de saisie"},
-    {"cmdSupprimer", "&Supprimer", "Cliquez pour supprimer la fiche en cours"},
-    {"cmdRafraîchir", "&Rafraîchir",
-     "Cliquez pour rafraîchir les données, dans le cas d'une utilisation multi-utilisateurs"},
-    {"cmdMettreàjour", "&Valider", "Cliquez pour enregistrer les renseignements en cours"},
-    {"cmdFermer", "&Fermer", "Cliquez pour fermer cette fenêtre"},
-};
-// clang-format on
+// The fields of the tabs and the buttons are in tests/data: eleve_champs.tsv and eleve_boutons.tsv.
 
 class FicheEleve : public ::testing::Test {
 protected:
@@ -159,36 +41,36 @@ protected:
 };
 
 TEST_F(FicheEleve, EveryFieldOfTheTabsHasItsCaptionLimitHelpAndPage) {
-    for (const Attendu& a : fiche) {
-        SCOPED_TRACE(a.champ);
-        auto* champ = trouve<QWidget>(a.champ);
+    for (const QStringList& a : table_de_données(u"eleve_champs.tsv"_s)) {
+        const QString &nom = a[0], &légende = a[2], &bouton = a[3], &longueur = a[4], &aide = a[5];
+        SCOPED_TRACE(nom.toStdString());
+        auto* champ = f->findChild<QWidget*>(nom);
         ASSERT_NE(champ, nullptr);
-        EXPECT_TRUE(f->SSTab1->widget(a.onglet)->isAncestorOf(champ));
-        EXPECT_EQ(champ->toolTip(), a.aide ? u(a.aide) : QString());
-        if (a.bouton) {
-            EXPECT_EQ(trouve<QPushButton>(a.bouton)->text(), u(a.légende));
-        } else if (a.légende) {
-            EXPECT_EQ(étiquette_de(champ), u(a.légende));
-        }
-        if (a.longueur == plusieurs_lignes) {
+        EXPECT_TRUE(f->SSTab1->widget(a[1].toInt())->isAncestorOf(champ));
+        EXPECT_EQ(champ->toolTip(), aide);
+        if (!bouton.isEmpty())
+            EXPECT_EQ(f->findChild<QPushButton*>(bouton)->text(), légende);
+        else if (!légende.isEmpty())
+            EXPECT_EQ(étiquette_de(champ), légende);
+        if (longueur == u"plusieurs lignes"_s) {
             auto* zone = qobject_cast<QPlainTextEdit*>(champ);
             ASSERT_NE(zone, nullptr);
             EXPECT_EQ(zone->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
         } else {
             auto* ligne = qobject_cast<QLineEdit*>(champ);
             ASSERT_NE(ligne, nullptr);
-            EXPECT_EQ(limite_saisie(*ligne), a.longueur == une_ligne_sans_limite ? 32767 : a.longueur);
+            EXPECT_EQ(limite_saisie(*ligne), longueur == u"sans limite"_s ? 32767 : longueur.toInt());
         }
     }
 }
 
 TEST_F(FicheEleve, ButtonsCarryTheirCaptionsAndHelpTexts) {
-    for (const auto& b : boutons) {
-        SCOPED_TRACE(b.nom);
-        auto* bouton = trouve<QPushButton>(b.nom);
+    for (const QStringList& b : table_de_données(u"eleve_boutons.tsv"_s)) {
+        SCOPED_TRACE(b[0].toStdString());
+        auto* bouton = f->findChild<QPushButton*>(b[0]);
         ASSERT_NE(bouton, nullptr);
-        EXPECT_EQ(bouton->text(), u(b.légende));
-        EXPECT_EQ(bouton->toolTip(), u(b.aide));
+        EXPECT_EQ(bouton->text(), b[1]);
+        EXPECT_EQ(bouton->toolTip(), b[2]);
     }
     EXPECT_EQ(f->Check1->text(), u("Impression directe sans prévisualisation"));
     EXPECT_EQ(f->Check2->toolTip(), u("indication de l'aîné dans l'école, dont le nom servira en particulier "

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-TEST(SafeSave, AWriteThatFailsHalfWayLeavesTheOldFileAndNoLeftover) {
+TEST(SafeSave, AWriteThatFailsHalfWayLeavesTheOldFileAndNoLeftoverAndACompleteOneReplacesIt) {
     WorkFolder folder;
     const QString target = folder.write(u"liste.rtf"_s, "ancien");
     const VbError error = raised_by([&] {
@@ -21,11 +21,6 @@ TEST(SafeSave, AWriteThatFailsHalfWayLeavesTheOldFileAndNoLeftover) {
     EXPECT_EQ(error.number(), 61);
     EXPECT_EQ(contentOf(target), "ancien");
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{u"liste.rtf"_s});
-}
-
-TEST(SafeSave, ACompleteWriteReplacesTheFile) {
-    WorkFolder folder;
-    const QString target = folder.write(u"liste.rtf"_s, "ancien");
     saveWhole(target, [](QIODevice& out) { writeAll(out, "nouveau"); });
     EXPECT_EQ(contentOf(target), "nouveau");
 }
