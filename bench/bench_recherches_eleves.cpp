@@ -2,7 +2,7 @@
 // the end of the alphabetical order, a jump by matricule with a leading wildcard, and a new order.
 #include "BenchSupport.h"
 #include "people/ordres_eleves.h"
-#include "people/recherches_eleves.h"
+#include "people/recherches.h"
 #include "platform/dao/Database.h"
 #include "platform/forms/DataControl.h"
 

@@ -2,14 +2,18 @@
 #include "platform/forms/Disposition.h"
 
 #include "people/age.h"
+#include "people/feuille_choix_famille.h"
+#include "people/feuille_famille.h"
+#include "people/numerotation.h"
 #include "people/ordres_eleves.h"
-#include "people/recherches_eleves.h"
+#include "people/recherches.h"
 
 #include "platform/forms/Clignotement.h"
 #include "platform/forms/DBGrid.h"
 #include "platform/forms/DataControl.h"
 #include "platform/forms/LimiteSaisie.h"
 #include "platform/ui/ErrorBoxes.h"
+#include "platform/ui/Relier.h"
 #include "platform/vb/Conversions.h"
 #include "reference/retours.h"
 #include "reports/feuille_documents.h"
@@ -178,6 +182,8 @@ void feuille_élève::brancher_handlers() {
     surLostFocus(matricule, [this] { matricule_LostFocus(); });
     surLostFocus(nom_enfant, [this] { nom_enfant_LostFocus(); });
     surLostFocus(prénom_enfant, [this] { prénom_enfant_LostFocus(); });
+    relier(Command4, &QPushButton::clicked, this, [this] { Command4_Click(); });
+    relier(Command16, &QPushButton::clicked, this, [this] { Command16_Click(); });
     QObject::connect(Command15, &QPushButton::clicked, this, [this] { Command15_Click(); });
     QObject::connect(Command6, &QPushButton::clicked, this, [this] { Command6_Click(); });
     brancher_consultations(*this);
@@ -447,11 +453,7 @@ void feuille_élève::cmdAjouter_Click() {
         const QString fratrie = réponse == vbYes ? référence_famille->text() : QString();
 
         fixer_ordre(0);
-        datPrimaryRS->setRecordSource(ordre_des_matricules);
-        datPrimaryRS->Refresh();
-        datPrimaryRS->Recordset().MoveLast();
-        const double suivant = CDbl(matricule->text()) + 1;
-        const QString nouveau = format_zéros(texte_du_nombre(suivant).trimmed());
+        const QString nouveau = format_zéros(numéro_suivant(*datPrimaryRS, ordre_des_matricules, *matricule));
 
         datPrimaryRS->setRecordSource(ordre_alphabétique);
         datPrimaryRS->Refresh();
@@ -520,6 +522,89 @@ void feuille_élève::date_naissance_Change() {
 // The field stands disabled and never has the focus to lose. Were it enabled, its exit would teach the
 // family situations table the family screen's situation, not a class.
 void feuille_élève::référence_classe_élève_LostFocus() {}
+
+namespace {
+
+const QString pas_encore_liée = u"La fiche de l'élève n'est pas encore liée à la fiche des parents."_s;
+
+// The family screen, unseen, on the family of this reference (compared by `comparaison`), in edit
+// mode; or, with none, on the row it was on, in edit mode too. True when the family was found.
+bool chercher_la_famille(feuille_famille& famille, const QString& référence, const QString& comparaison) {
+    famille.datPrimaryRS->setRecordSource(u"SELECT * FROM familles"_s);
+    famille.datPrimaryRS->Refresh();
+    DataRecordset& familles = famille.datPrimaryRS->Recordset();
+    familles.FindFirst(u"référence_famille "_s + comparaison + u" \""_s + référence + u"\""_s);
+    familles.Edit();
+    return !familles.NoMatch();
+}
+
+int question(const QString& texte) {
+    return module1().interaction().MsgBox(texte, vbYesNo + vbQuestion, QString::fromUtf8(titre_programme));
+}
+
+// The next family, numbered without zeros: they come only if the user passes through the reference.
+void commencer_une_famille(feuille_famille& famille) {
+    const QString numéro = numéro_suivant(
+        *famille.datPrimaryRS, u"SELECT * FROM familles ORDER BY référence_famille ASC"_s, *famille.Text13);
+    famille.datPrimaryRS->setRecordSource(
+        u"SELECT * FROM familles ORDER BY nom_responsable_légal ASC, prénom_responsable_légal ASC"_s);
+    famille.datPrimaryRS->Refresh();
+    famille.datPrimaryRS->Recordset().AddNew();
+    famille.Text13->setText(numéro);
+    famille.Show();
+    famille.ZOrder();
+}
+
+} // namespace
+
+// The pupil's reference is read as it stands on the screen, saved or not.
+void feuille_élève::Command4_Click() {
+    avec_piège(ErrorBoxKind::standard, [this] {
+        ouvrir_table_familles();
+        ouvrir_table_choix_famille();
+        feuille_famille& famille = module1().feuilles().get<feuille_famille>();
+        if (!référence_famille->text().isEmpty()) {
+            if (!chercher_la_famille(famille, référence_famille->text(), u"LIKE"_s)) {
+                question(u"La fiche de la famille n'existe pas... Créez-la!"_s);
+                return;
+            }
+            famille.Show();
+            famille.ZOrder();
+            return;
+        }
+        if (question(pas_encore_liée + u"\n\n La fiche des parents a t-elle déjà été créée lors d'une saisie "
+                                       u"précédente?"_s) == vbYes) {
+            feuille_choix_famille& choix = module1().feuilles().get<feuille_choix_famille>();
+            choix.bouton_accepter->setVisible(true);
+            module1().origine_appel = 1;
+            choix.Show();
+            choix.ZOrder();
+            return;
+        }
+        commencer_une_famille(famille);
+    });
+}
+
+// A one-time copy: later changes of the family's address do not reach the pupil, and the telephones
+// stay the pupil's own.
+void feuille_élève::Command16_Click() {
+    avec_piège(ErrorBoxKind::standard, [this] {
+        ouvrir_table_familles();
+        ouvrir_table_choix_famille();
+        if (référence_famille->text().isEmpty())
+            return;
+        feuille_famille& famille = module1().feuilles().get<feuille_famille>();
+        if (!chercher_la_famille(famille, référence_famille->text(), u"="_s)) {
+            question(pas_encore_liée);
+            return;
+        }
+        numéro_résidence->setText(famille.Text3->text());
+        adresse_résidence->setText(famille.Text2->text());
+        adresse2_résidence->setText(famille.Text1->text());
+        code_postal_résidence->setText(famille.Text5->text());
+        ville_résidence->setText(famille.Text4->text());
+    });
+}
 
 void feuille_élève::Command15_Click() {
     date_inscription->setText(module1().horloge().aujourdhui().toString(u"dd/MM/yyyy"_s));

@@ -136,6 +136,10 @@ public:
     void matricule_LostFocus();
     void nom_enfant_LostFocus();
     void prénom_enfant_LostFocus();
+    // "Parents": from the pupil to its family, to the picker, or to a new family.
+    void Command4_Click();
+    // The family's address becomes the pupil's residence.
+    void Command16_Click();
     void Command15_Click();
     void Command6_Click();
     void Timer1_Timer();

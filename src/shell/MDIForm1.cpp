@@ -1,6 +1,7 @@
 #include "shell/MDIForm1.h"
 
 #include "people/feuille_eleve.h"
+#include "people/feuille_famille.h"
 #include "platform/forms/EtiquetteElidee.h"
 #include "platform/forms/TouchesAcces.h"
 #include "platform/ui/ErrorBoxes.h"
@@ -169,7 +170,7 @@ template <class F> void montrer_avec_le_focus() {
 }
 
 const ÉcranAprèsOuverture écrans_après_ouverture[] = {
-    {&feuille_options::Check1, nullptr}, // feuille_famille
+    {&feuille_options::Check1, montrer_avec_le_focus<feuille_famille>},
     {&feuille_options::Check2, montrer_avec_le_focus<feuille_élève>},
     {&feuille_options::Check4, nullptr}, // feuille_traitements
 };

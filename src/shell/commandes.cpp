@@ -1,10 +1,12 @@
 #include "shell/commandes.h"
 
 #include "people/feuille_eleve.h"
+#include "people/feuille_famille.h"
 #include "reference/feuille_adresses.h"
 #include "reference/feuille_assertions.h"
 #include "reference/feuille_assurances.h"
 #include "reference/feuille_csp.h"
+#include "reference/feuille_equipe.h"
 #include "reference/feuille_genres.h"
 #include "reference/feuille_hopitaux.h"
 #include "reference/feuille_langues_vivantes.h"
@@ -14,7 +16,6 @@
 #include "reference/feuille_sexe.h"
 #include "reference/feuille_situations_familiales.h"
 #include "reference/feuille_villes.h"
-#include "reference/feuille_equipe.h"
 #include "reports/feuille_documents.h"
 #include "shell/MDIForm1.h"
 #include "shell/regle_de_preparation.h"
@@ -36,7 +37,7 @@ const std::vector<LigneDeCommande>& carte_des_commandes() {
         {"menufichierindex1", propre(&MDIForm1::menufichierindex1_Click)},
         {"menufichierindex3", propre(&MDIForm1::menufichierindex3_Click)},
         {"menufichierindex2", propre(&MDIForm1::menufichierindex2_Click)},
-        {"menuenfantsindex2", {}}, // feuille_famille
+        {"menuenfantsindex2", préparer<feuille_famille>(&ouvrir_table_familles, &étapes_en_plus_familles)},
         {"menuenfantsindex1", préparer<feuille_élève>(&ouvrir_table_élèves, &étapes_en_plus_élèves)},
         {"menuexploitationindex3", {}}, // feuille_traitements
         {"menuexploitationindex4", {}}, // spreadsheet export
@@ -65,7 +66,7 @@ const std::vector<LigneDeCommande>& carte_des_commandes() {
         {"menuutilitairesindex3", {}}, // emptying the lookup tables
         {"menuutilitairesindex4", {}}, // gateway export
         {"menuoptionsindex1", propre(&MDIForm1::menuoptionsindex1_Click)},
-        {"menuaideindex1", {}},        // feuille_copyright
+        {"menuaideindex1", {}}, // feuille_copyright
     };
     return carte;
 }

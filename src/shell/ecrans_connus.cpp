@@ -1,6 +1,8 @@
 #include "shell/ecrans_connus.h"
 
+#include "people/feuille_choix_famille.h"
 #include "people/feuille_eleve.h"
+#include "people/feuille_famille.h"
 #include "platform/forms/Feuilles.h"
 #include "reference/feuille_adresses.h"
 #include "reference/feuille_assertions.h"
@@ -23,15 +25,17 @@
 using namespace Qt::StringLiterals;
 
 // A screen that another subsystem reaches joins here, one line, as it is built. Until then a lookup
-// treats its caller's values of origine_appel as unknown (feuille_famille, feuille_école and
-// feuille_inspection are still to come).
+// treats its caller's values of origine_appel as unknown (feuille_école and feuille_inspection are
+// still to come).
 void faire_connaître_les_écrans() {
     Feuilles& registre = feuilles();
     // The callers into whose fields the lookups write.
     registre.faireConnaître<feuille_élève>(u"feuille_élève"_s);
+    registre.faireConnaître<feuille_famille>(u"feuille_famille"_s);
     registre.faireConnaître<feuille_équipe>(u"feuille_équipe"_s);
     // The screens of the ouvrir_table_<table> family.
     registre.faireConnaître<feuille_documents>(u"feuille_documents"_s);
+    registre.faireConnaître<feuille_choix_famille>(u"feuille_choix_famille"_s);
     registre.faireConnaître<feuille_adresses>(u"feuille_adresses"_s);
     registre.faireConnaître<feuille_assertions>(u"feuille_assertions"_s);
     registre.faireConnaître<feuille_assurances>(u"feuille_assurances"_s);

@@ -5,6 +5,7 @@
 #include "store/Module1.h"
 #include "store/feuille_choix_base.h"
 
+#include <QComboBox>
 #include <functional>
 #include <stdexcept>
 
@@ -106,6 +107,19 @@ void ouvrir_table_villes() {
 
 void ouvrir_table_équipe() {
     ouvrir_table("feuille_équipe", "SELECT * FROM équipe");
+}
+
+void ouvrir_table_familles() {
+    Feuille& famille = ouvrir_table(
+        "feuille_famille",
+        "SELECT * FROM familles ORDER BY nom_responsable_légal ASC, prénom_responsable_légal ASC");
+    // The list says the order the source was just given, without pointing it a second time.
+    if (auto* ordres = famille.findChild<QComboBox*>(u"Combo1"_s))
+        ordres->setCurrentIndex(0);
+}
+
+void ouvrir_table_choix_famille() {
+    ouvrir_table("feuille_choix_famille", "SELECT * FROM familles");
 }
 
 void ouvrir_table_élèves() {

@@ -39,6 +39,10 @@ void ouvrir_table_situations_familiales();
 void ouvrir_table_villes();
 // The teaching team, which is also the list of classes.
 void ouvrir_table_équipe();
+// The families in alphabetical order, the family screen's list on its first entry.
+void ouvrir_table_familles();
+// The family picker of the pupil screen.
+void ouvrir_table_choix_famille();
 // The pupils in matricule order, whatever the pupil screen's list says; then the captions of their
 // ten configurable fields (Data1).
 void ouvrir_table_élèves();

@@ -1,4 +1,4 @@
-#include "people/recherches_eleves.h"
+#include "people/recherches.h"
 
 #include "platform/forms/DataControl.h"
 #include "platform/ui/Interaction.h"
@@ -6,12 +6,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-struct Recherche {
-    const char* invite;
-    const char* début_critère;
-    const char* fin_critère;
-};
 
 constexpr Recherche par_matricule{"Entrez le matricule de l'enfant dont vous voulez voir la fiche...",
                                   "matricule like '", "'"};
@@ -29,6 +23,8 @@ QString sans_blancs(const QString& texte) {
     return texte.mid(début, fin - début);
 }
 
+} // namespace
+
 void positionner(DataControl& source, Interaction& utilisateur, const Recherche& recherche) {
     const QString réponse = sans_blancs(utilisateur.InputBox(QString::fromUtf8(recherche.invite),
                                                              u"Positionnement sur une fiche"_s, QString()));
@@ -42,8 +38,6 @@ void positionner(DataControl& source, Interaction& utilisateur, const Recherche&
         utilisateur.MsgBox(u"Fiche introuvable..."_s, vbOKOnly + vbInformation,
                            QString::fromUtf8(titre_programme));
 }
-
-} // namespace
 
 void positionner_par_matricule(DataControl& source, Interaction& utilisateur) {
     positionner(source, utilisateur, par_matricule);
