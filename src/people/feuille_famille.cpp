@@ -95,7 +95,8 @@ feuille_famille::feuille_famille() : FeuilleFiche(configuration_famille()) {
 feuille_famille::~feuille_famille() = default;
 
 void feuille_famille::construire() {
-    FieldBuilder disposition(*datPrimaryRS, {.fitBoxWidths = true, .tightButtons = true});
+    FieldBuilder disposition(
+        *datPrimaryRS, {.fitBoxWidths = true, .tightButtons = true, .textLines = 3, .fixedTextHeight = true});
     auto* colonne = new QVBoxLayout(corps());
     colonne->setContentsMargins(0, 0, 0, 0);
     colonne->addWidget(construire_bandeau(disposition));
@@ -173,10 +174,8 @@ void feuille_famille::construire_onglets(FieldBuilder& disposition) {
         "Cliquez pour accepter automatiquement l'adresse du parent 1 en tant qu'adresse du Parent 2");
     page(1)->addWidget(Command16, 0, Qt::AlignLeft);
 
-    auto* côte_à_côte = new QHBoxLayout;
-    côte_à_côte->addWidget(disposition.addGroupBox(u"Frame8"_s, this), 3);
-    côte_à_côte->addWidget(disposition.addGroupBox(u"Frame6"_s, this), 2);
-    page(2)->addLayout(côte_à_côte);
+    page(2)->addWidget(disposition.addGroupBox(u"Frame8"_s, this));
+    page(2)->addWidget(disposition.addGroupBox(u"Frame6"_s, this));
     auto* autorisation_ligne = new QGridLayout;
     page(2)->addLayout(autorisation_ligne);
     disposition.addGroup(QString(), autorisation_ligne);
@@ -190,7 +189,6 @@ void feuille_famille::finir_disposition(FieldBuilder&) {
     Text13->setFixedWidth(Text13->fontMetrics().horizontalAdvance(u"0000000000"_s) + 16);
     // The blinking face must not make the row jump: the button keeps the width of its longer face.
     Command19->setMinimumWidth(Command19->fontMetrics().horizontalAdvance(texte(autorisation)) + 24);
-    observations_assurance->setMinimumHeight(3 * observations_assurance->fontMetrics().lineSpacing());
 }
 
 void feuille_famille::brancher_handlers() {

@@ -108,8 +108,11 @@ struct DataControl::Binding {
         case Kind::LineEdit: {
             QLineEdit* box = lineEdit();
             const QString text = value.toString();
-            if (box->isUndoAvailable() || box->isRedoAvailable() || box->text() != text)
+            if (box->isUndoAvailable() || box->isRedoAvailable() || box->text() != text) {
                 box->setText(text);
+                // A value longer than its box shows its beginning, as one reads it.
+                box->setCursorPosition(0);
+            }
             break;
         }
         case Kind::PlainText: {
