@@ -166,8 +166,11 @@ QString téléphone(Dés& dés, bool portable) {
 }
 
 QString courriel(const QString& prénom, const QString& nom) {
-    QString adresse = (prénom + u'.' + nom).toLower();
-    adresse.replace(u' ', u'-');
+    // An address is written without accents: "claire.andre", not "claire.andré".
+    QString adresse;
+    for (const QChar c : (prénom + u'.' + nom).toLower().normalized(QString::NormalizationForm_D))
+        if (c.category() != QChar::Mark_NonSpacing)
+            adresse += c == u' ' || c == u'\'' ? u'-' : c;
     return adresse + u"@exemple.fr"_s;
 }
 

@@ -1,6 +1,7 @@
 #include "BaseEleves.h"
 
 #include "people/feuille_eleve.h"
+#include "people/feuille_famille.h"
 #include "shell/MDIForm1.h"
 #include "shell/commandes.h"
 #include "store/Module1.h"
@@ -30,6 +31,16 @@ void ajouter_élèves(const QString& chemin, std::initializer_list<const char*> 
         ajouter_élève(chemin, QString::fromUtf8(m), u"NOM"_s + QString::fromUtf8(m));
 }
 
+void ajouter_famille(const QString& chemin, const std::vector<std::pair<const char*, QString>>& valeurs) {
+    QStringList colonnes, textes;
+    for (const auto& [colonne, valeur] : valeurs) {
+        colonnes << QString::fromUtf8(colonne);
+        textes << QLatin1Char('\'') + QString(valeur).replace(u"'"_s, u"''"_s) + QLatin1Char('\'');
+    }
+    exécuter_par_le_moteur(chemin, u"INSERT INTO familles ("_s + colonnes.join(u", "_s) + u") VALUES ("_s +
+                                       textes.join(u", "_s) + u")"_s);
+}
+
 ÉcranÉlèveTest::ÉcranÉlèveTest() = default;
 ÉcranÉlèveTest::~ÉcranÉlèveTest() = default;
 
@@ -54,6 +65,14 @@ feuille_élève& ÉcranÉlèveTest::ouvrir() {
         throw std::runtime_error("la fiche élève ne s'est pas ouverte");
     if (activer)
         montrer_active(*f);
+    return *f;
+}
+
+feuille_famille& ÉcranÉlèveTest::ouvrir_familles() {
+    exécuter_commande(*mdi, u"menuenfantsindex2"_s);
+    auto* f = module1().feuilles().siChargée<feuille_famille>();
+    if (!f)
+        throw std::runtime_error("la fiche famille ne s'est pas ouverte");
     return *f;
 }
 

@@ -7,9 +7,12 @@
 #include <QStringList>
 #include <initializer_list>
 #include <memory>
+#include <utility>
+#include <vector>
 
 class MDIForm1;
 class feuille_élève;
+class feuille_famille;
 
 // A fresh work base for the pupil screens, copied from the template: no pupil, no parameters, the
 // template's letters.
@@ -20,6 +23,9 @@ void ajouter_élève(const QString& chemin, const QString& matricule, const QStr
                    const QString& prénom = {}, const QString& référence = {});
 // Pupils known by their matricule alone, each named "NOM" and the matricule.
 void ajouter_élèves(const QString& chemin, std::initializer_list<const char*> matricules);
+
+// A family written into the file behind the program's back, column by column.
+void ajouter_famille(const QString& chemin, const std::vector<std::pair<const char*, QString>>& valeurs);
 
 // The pupil screen over a fresh work base, in the main window, as the user reaches it.
 class ÉcranÉlèveTest : public WorkFolderTest {
@@ -35,5 +41,7 @@ protected:
 
     // "Gestion du fichier des &Elèves", as the user picks it in the menu.
     feuille_élève& ouvrir();
+    // "Gestion du fichier des &Familles".
+    feuille_famille& ouvrir_familles();
     QStringList matricules() const;
 };

@@ -47,6 +47,7 @@ struct Appelant {
 const Appelant appelants[] = {
     {"feuille_élève", "menuenfantsindex1", "élèves"},
     {"feuille_équipe", "menuparamètresindex3", "équipe"},
+    {"feuille_famille", "menuenfantsindex2", "familles"},
 };
 
 const Appelant* appelant_nommé(const QString& nom) {
