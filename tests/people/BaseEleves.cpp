@@ -31,11 +31,11 @@ void ajouter_élèves(const QString& chemin, std::initializer_list<const char*> 
         ajouter_élève(chemin, QString::fromUtf8(m), u"NOM"_s + QString::fromUtf8(m));
 }
 
-void ajouter_famille(const QString& chemin, const std::vector<std::pair<const char*, QString>>& valeurs) {
+void ajouter_famille(const QString& chemin, const QString& valeurs) {
     QStringList colonnes, textes;
-    for (const auto& [colonne, valeur] : valeurs) {
-        colonnes << QString::fromUtf8(colonne);
-        textes << QLatin1Char('\'') + QString(valeur).replace(u"'"_s, u"''"_s) + QLatin1Char('\'');
+    for (const QString& paire : valeurs.split(u'|')) {
+        colonnes << paire.section(u'=', 0, 0);
+        textes << u"'"_s + paire.section(u'=', 1).replace(u"'"_s, u"''"_s) + u"'"_s;
     }
     exécuter_par_le_moteur(chemin, u"INSERT INTO familles ("_s + colonnes.join(u", "_s) + u") VALUES ("_s +
                                        textes.join(u", "_s) + u")"_s);

@@ -7,8 +7,6 @@
 #include <QStringList>
 #include <initializer_list>
 #include <memory>
-#include <utility>
-#include <vector>
 
 class MDIForm1;
 class feuille_élève;
@@ -24,8 +22,8 @@ void ajouter_élève(const QString& chemin, const QString& matricule, const QStr
 // Pupils known by their matricule alone, each named "NOM" and the matricule.
 void ajouter_élèves(const QString& chemin, std::initializer_list<const char*> matricules);
 
-// A family written into the file behind the program's back, column by column.
-void ajouter_famille(const QString& chemin, const std::vector<std::pair<const char*, QString>>& valeurs);
+// A family written into the file behind the program's back, as "colonne=valeur|colonne=valeur".
+void ajouter_famille(const QString& chemin, const QString& valeurs);
 
 // The pupil screen over a fresh work base, in the main window, as the user reaches it.
 class ÉcranÉlèveTest : public WorkFolderTest {
