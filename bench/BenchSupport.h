@@ -8,8 +8,12 @@
 #include "platform/ui/Interaction.h"
 #include "shell/ecrans_connus.h"
 
+#include "platform/forms/Feuilles.h"
+#include "store/Module1.h"
+
 #include <QApplication>
 #include <QFile>
+#include <QMdiArea>
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 #include <cstdio>
@@ -116,6 +120,23 @@ private:
     int bouton_;
     QString réponse_;
     int pointeur_ = vbDefault;
+};
+
+// The run state as the program starts a session on the school: no screen loaded, a user who answers
+// No, the screens opening inside the main window's area.
+struct Session {
+    QMdiArea zone;
+
+    Session() { recommencer(); }
+    ~Session() { module1().réinitialiser(); }
+
+    void recommencer() {
+        module1().réinitialiser();
+        module1().setInteraction(std::make_shared<RéponseFixe>(vbNo));
+        module1().base_en_cours = école();
+        module1().feuilles().setMdiArea(&zone);
+        zone.show();
+    }
 };
 
 // The benchmarks' main(): an offscreen application, the screens made known by name as the program's

@@ -21,23 +21,6 @@ constexpr double objectif_ouverture_ms = 100;
 constexpr double objectif_ajout_ms = 100;
 constexpr double objectif_déplacement_us = 30;
 
-// The run state as the program starts a session on the school: no screen loaded, the scripted user in
-// place, the screens opening inside the main window's area.
-struct Session {
-    QMdiArea zone;
-
-    Session() { recommencer(); }
-    ~Session() { module1().réinitialiser(); }
-
-    void recommencer() {
-        module1().réinitialiser();
-        module1().setInteraction(std::make_shared<banc::RéponseFixe>(vbNo));
-        module1().base_en_cours = banc::école();
-        module1().feuilles().setMdiArea(&zone);
-        zone.show();
-    }
-};
-
 // The menu command "Gestion des élèves", as its preparing rule runs it, until the screen is drawn.
 feuille_élève& commande_gestion_des_élèves() {
     ouvrir_table_élèves();
@@ -53,7 +36,7 @@ feuille_élève& commande_gestion_des_élèves() {
 // The first opening after the program started, measured once: the main window's area is up, but no
 // screen has been built yet in this process.
 void BM_première_ouverture_dans_le_processus(benchmark::State& state) {
-    Session session;
+    banc::Session session;
     QCoreApplication::processEvents();
     for (auto _ : state)
         benchmark::DoNotOptimize(commande_gestion_des_élèves().matricule->text());
@@ -65,7 +48,7 @@ BENCHMARK(BM_première_ouverture_dans_le_processus)
     ->Repetitions(1);
 
 void BM_première_ouverture_dans_la_session(benchmark::State& state) {
-    Session session;
+    banc::Session session;
     for (auto _ : state) {
         state.PauseTiming();
         session.recommencer();
@@ -77,7 +60,7 @@ void BM_première_ouverture_dans_la_session(benchmark::State& state) {
 BENCHMARK(BM_première_ouverture_dans_la_session)->Unit(benchmark::kMillisecond);
 
 void BM_ouvertures_suivantes(benchmark::State& state) {
-    Session session;
+    banc::Session session;
     commande_gestion_des_élèves();
     for (auto _ : state)
         benchmark::DoNotOptimize(commande_gestion_des_élèves().matricule->text());
@@ -86,7 +69,7 @@ void BM_ouvertures_suivantes(benchmark::State& state) {
 BENCHMARK(BM_ouvertures_suivantes)->Unit(benchmark::kMillisecond);
 
 void BM_ajouter_un_élève(benchmark::State& state) {
-    Session session;
+    banc::Session session;
     feuille_élève& f = commande_gestion_des_élèves();
     for (auto _ : state) {
         f.cmdAjouter_Click();
@@ -97,7 +80,7 @@ void BM_ajouter_un_élève(benchmark::State& state) {
 BENCHMARK(BM_ajouter_un_élève)->Unit(benchmark::kMillisecond);
 
 void BM_élève_suivant(benchmark::State& state) {
-    Session session;
+    banc::Session session;
     feuille_élève& f = commande_gestion_des_élèves();
     DataRecordset& rs = f.datPrimaryRS->Recordset();
     for (auto _ : state) {
