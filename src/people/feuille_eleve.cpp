@@ -1,5 +1,4 @@
 #include "people/feuille_eleve.h"
-#include "platform/forms/Disposition.h"
 
 #include "people/age.h"
 #include "people/feuille_choix_famille.h"
@@ -33,7 +32,6 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTimer>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -68,14 +66,6 @@ protected:
 
 QString texte(const char* utf8) {
     return QString::fromUtf8(utf8);
-}
-
-QPushButton* nouveau_bouton(QWidget* parent, const char* nom, const char* légende, const char* aide) {
-    auto* b = new QPushButton(texte(légende), parent);
-    b->setObjectName(texte(nom));
-    if (aide)
-        b->setToolTip(texte(aide));
-    return b;
 }
 
 // A box that gathers controls without a caption of its own.
@@ -214,8 +204,8 @@ QWidget* feuille_élève::construire_bandeau(FieldBuilder& disposition) {
     bas->addWidget(construire_boutons(), 1);
     lignes->addLayout(bas);
 
-    Command4 = nouveau_bouton(Frame12, "Command4", "Parents",
-                              "Cliquez pour accéder à la fiche des parents de l'élève en cours");
+    Command4 = namedButton(Frame12, "Command4", "Parents",
+                           "Cliquez pour accéder à la fiche des parents de l'élève en cours");
     fitButtonToCaption(*Command4);
     return bandeau;
 }
@@ -225,21 +215,10 @@ QWidget* feuille_élève::construire_bandeau(FieldBuilder& disposition) {
 QWidget* feuille_élève::construire_boutons() {
     auto* Frame11 = cadre(this, "Frame11");
     auto* rangée = new QHBoxLayout(Frame11);
-    Command3 = nouveau_bouton(Frame11, "Command3", "&Imprimer", "Cliquez pour imprimer la fiche");
-    // The position caption keeps room for a school of a hundred thousand pupils beside the arrows.
-    int flèches = 0;
-    for (const QWidget* flèche : datPrimaryRS->findChildren<QToolButton*>())
-        flèches += flèche->sizeHint().width();
-    datPrimaryRS->setMinimumWidth(flèches +
-                                  datPrimaryRS->fontMetrics().horizontalAdvance(u"Fiche: 000000"_s) + 12);
-    for (QWidget* w : std::initializer_list<QWidget*>{datPrimaryRS, cmdAjouter, cmdSupprimer, cmdRafraîchir,
-                                                      cmdMettreàjour, cmdFermer}) {
-        retirer_de(layout(), w);
-        rangée->addWidget(w);
-    }
+    Command3 = namedButton(Frame11, "Command3", "&Imprimer", "Cliquez pour imprimer la fiche");
     // On a small display the buttons give up their spare width, not the list of orders its text.
-    for (QPushButton* b : {cmdAjouter, cmdSupprimer, cmdRafraîchir, cmdMettreàjour, cmdFermer, Command3})
-        fitButtonToCaption(*b);
+    ranger_navigation(*rangée);
+    fitButtonToCaption(*Command3);
     rangée->addStretch(1);
     rangée->addWidget(Command3);
     return Frame11;
@@ -270,10 +249,10 @@ void feuille_élève::construire_onglets(FieldBuilder& disposition) {
     auto* Frame7 = disposition.addGroupBox(u"Frame7"_s, this);
     page(3)->addWidget(Frame7);
     Command16 =
-        nouveau_bouton(Frame7, "Command16",
-                       "CLIQUEZ ICI si l'adresse de résidence est identique à celle du responsable légal",
-                       "Cliquez pour accepter automatiquement l'adresse du responsable légal en tant "
-                       "qu'adresse du responsable légal");
+        namedButton(Frame7, "Command16",
+                    "CLIQUEZ ICI si l'adresse de résidence est identique à celle du responsable légal",
+                    "Cliquez pour accepter automatiquement l'adresse du responsable légal en tant "
+                    "qu'adresse du responsable légal");
     // The copy of the family's address comes first: it fills most of the fields below it.
     const QString résidence = u"Frame7"_s;
     disposition.grid(résidence)->addWidget(Command16, disposition.takeRow(résidence), 0, 1, -1);
@@ -381,11 +360,11 @@ void feuille_élève::construire_documents(QWidget* page) {
     pile->addWidget(Check1);
     auto* boutons = new QHBoxLayout;
     documents_suite =
-        nouveau_bouton(Frame1, "documents_suite", "Imprimer le document sélectionné",
-                       "Cliquez pour imprimer le document sélectionné dans la liste ci-dessus pour "
-                       "l'élève en cours");
-    Command6 = nouveau_bouton(Frame1, "Command6", "Modifier  le document sélectionné",
-                              "Cliquez pour modifier le document sélectionné dans la liste ci-dessus");
+        namedButton(Frame1, "documents_suite", "Imprimer le document sélectionné",
+                    "Cliquez pour imprimer le document sélectionné dans la liste ci-dessus pour "
+                    "l'élève en cours");
+    Command6 = namedButton(Frame1, "Command6", "Modifier  le document sélectionné",
+                           "Cliquez pour modifier le document sélectionné dans la liste ci-dessus");
     boutons->addWidget(documents_suite);
     boutons->addWidget(Command6);
     boutons->addStretch(1);

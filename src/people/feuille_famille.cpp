@@ -6,7 +6,6 @@
 
 #include "platform/forms/Clignotement.h"
 #include "platform/forms/DataControl.h"
-#include "platform/forms/Disposition.h"
 #include "platform/forms/Placement.h"
 #include "platform/ui/ErrorBoxes.h"
 #include "platform/ui/Relier.h"
@@ -24,7 +23,6 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTimer>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -64,9 +62,7 @@ QString texte(const char* utf8) {
 }
 
 QPushButton* nouveau_bouton(QWidget* parent, const char* nom, const char* légende, const char* aide) {
-    auto* b = new QPushButton(texte(légende), parent);
-    b->setObjectName(texte(nom));
-    b->setToolTip(texte(aide));
+    QPushButton* b = namedButton(parent, nom, légende, aide);
     fitButtonToCaption(*b);
     return b;
 }
@@ -132,19 +128,7 @@ QWidget* feuille_famille::construire_bandeau(FieldBuilder& disposition) {
     auto* Frame1 = new QGroupBox(bandeau);
     Frame1->setObjectName(u"Frame1"_s);
     auto* rangée = new QHBoxLayout(Frame1);
-    // Room for the position of a large file beside the arrows.
-    int flèches = 0;
-    for (const QWidget* flèche : datPrimaryRS->findChildren<QToolButton*>())
-        flèches += flèche->sizeHint().width();
-    datPrimaryRS->setMinimumWidth(flèches +
-                                  datPrimaryRS->fontMetrics().horizontalAdvance(u"Fiche: 000000"_s) + 12);
-    for (QWidget* w : std::initializer_list<QWidget*>{datPrimaryRS, cmdAjouter, cmdSupprimer, cmdRafraîchir,
-                                                      cmdMettreàjour, cmdFermer}) {
-        retirer_de(layout(), w);
-        rangée->addWidget(w);
-    }
-    for (QPushButton* b : {cmdAjouter, cmdSupprimer, cmdRafraîchir, cmdMettreàjour, cmdFermer})
-        fitButtonToCaption(*b);
+    ranger_navigation(*rangée);
     Command3 = nouveau_bouton(Frame1, "Command3", "&Imprimer", "Cliquez pour imprimer la fiche");
     Command4 = nouveau_bouton(Frame1, "Command4", "Enfants",
                               "Cliquez pour accéder aux fiches des enfants de la famille en cours");

@@ -2,6 +2,8 @@
 
 #include "platform/forms/DBGrid.h"
 #include "platform/forms/DataControl.h"
+#include "platform/forms/Disposition.h"
+#include "platform/forms/FieldRows.h"
 #include "platform/forms/Placement.h"
 #include "platform/ui/ErrorBoxes.h"
 #include "platform/ui/Interaction.h"
@@ -12,6 +14,7 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QTabWidget>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -158,6 +161,23 @@ bool FeuilleFiche::eventFilter(QObject* surveillé, QEvent* événement) {
         for (QShortcut* touche : touches_accepter_)
             touche->setEnabled(événement->type() == QEvent::ShowToParent);
     return Feuille::eventFilter(surveillé, événement);
+}
+
+void FeuilleFiche::ranger_navigation(QBoxLayout& rangée) {
+    int flèches = 0;
+    for (const QWidget* flèche : datPrimaryRS->findChildren<QToolButton*>())
+        flèches += flèche->sizeHint().width();
+    datPrimaryRS->setMinimumWidth(flèches +
+                                  datPrimaryRS->fontMetrics().horizontalAdvance(u"Fiche: 000000"_s) + 12);
+    retirer_de(layout(), datPrimaryRS);
+    rangée.addWidget(datPrimaryRS);
+    for (QPushButton* b : {cmdAjouter, cmdSupprimer, cmdRafraîchir, cmdMettreàjour, cmdFermer}) {
+        if (!b)
+            continue;
+        retirer_de(layout(), b);
+        rangée.addWidget(b);
+        fitButtonToCaption(*b);
+    }
 }
 
 void FeuilleFiche::tabuler_à_travers_onglets(QTabWidget* onglets, QList<QWidget*> ordre) {

@@ -10,6 +10,7 @@
 class DataControl;
 class DBGrid;
 class QPushButton;
+class QBoxLayout;
 class QShortcut;
 class QTabWidget;
 class QVBoxLayout;
@@ -132,6 +133,11 @@ protected:
     // page of `onglets`, bringing forward the page of the field it lands on, where Qt's own walk
     // skips the fields of hidden pages.
     void tabuler_à_travers_onglets(QTabWidget* onglets, QList<QWidget*> ordre);
+
+    // A screen with a band above its tabs: the navigator and the frame's buttons move into `rangée`, in
+    // their order, each button as narrow as its caption allows on a small display; the navigator keeps
+    // room for the position of a large file beside its arrows.
+    void ranger_navigation(QBoxLayout& rangée);
 
     // Where a screen of bound boxes lays out its own controls, above the navigator.
     QWidget* corps() const { return corps_; }

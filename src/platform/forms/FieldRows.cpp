@@ -35,6 +35,14 @@ void fitWidth(QLineEdit& box, int limit) {
 
 } // namespace
 
+QPushButton* namedButton(QWidget* parent, const char* name, const char* caption, const char* tip) {
+    auto* button = new QPushButton(text(caption), parent);
+    button->setObjectName(text(name));
+    if (tip)
+        button->setToolTip(text(tip));
+    return button;
+}
+
 void fitButtonToCaption(QPushButton& button) {
     button.setMinimumWidth(std::min(button.minimumSizeHint().width(),
                                     button.fontMetrics().horizontalAdvance(button.text()) + 16));
@@ -100,10 +108,7 @@ std::vector<FieldBuilder::Made> FieldBuilder::build(std::span<const Spec> specs)
         QWidget* control = make(s, parent, g);
         QPushButton* button = nullptr;
         if (s.button) {
-            button = new QPushButton(text(s.caption), parent);
-            button->setObjectName(text(s.button));
-            if (s.buttonTip)
-                button->setToolTip(text(s.buttonTip));
+            button = namedButton(parent, s.button, s.caption, s.buttonTip);
             if (style_.tightButtons)
                 fitButtonToCaption(*button);
             // A screen reader names the field by the caption it reads on the button.

@@ -126,6 +126,9 @@ private:
     std::vector<QWidget*> fields_;
 };
 
+// A button as a screen declares it: its object name, caption and help text (none when null).
+QPushButton* namedButton(QWidget* parent, const char* name, const char* caption, const char* tip = nullptr);
+
 // A button may shrink to its caption on a small display, where the style makes every button as wide.
 void fitButtonToCaption(QPushButton& button);
 
