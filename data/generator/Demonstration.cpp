@@ -372,7 +372,9 @@ void écrire_école(Database& base) {
     école->setField(u"adresse_école"_s, u"rue des Écoles"_s);
     école->setField(u"code_postal_école"_s, u"69100"_s);
     école->setField(u"ville_école"_s, u"Villeurbanne"_s);
+    école->setField(u"adresse2_école"_s, u"BP 12"_s);
     école->setField(u"téléphone_école"_s, u"04 00 00 00 00"_s);
+    école->setField(u"télécopie_école"_s, u"04 00 00 00 01"_s);
     école->setField(u"mail_école"_s, u"ecole.tilleuls@exemple.fr"_s);
     école->setField(u"rne_école"_s, u"0699999Z"_s);
     école->setField(u"genre_directeur_école"_s, u"Madame"_s);
@@ -381,6 +383,43 @@ void écrire_école(Database& base) {
     école->setField(u"titre_directeur"_s, u"Directrice"_s);
     école->setField(u"politesse_directeur"_s, u"Madame la Directrice"_s);
     école->Update();
+
+    auto inspection = base.OpenRecordset(u"inspection"_s);
+    inspection->AddNew();
+    inspection->setField(u"nom_inspection"_s, u"Circonscription de Villeurbanne Nord"_s);
+    inspection->setField(u"numéro_inspection"_s, u"4"_s);
+    inspection->setField(u"adresse_inspection"_s, u"place de la Mairie"_s);
+    inspection->setField(u"adresse2_inspection"_s, u"2e étage"_s);
+    inspection->setField(u"code_postal_inspection"_s, u"69100"_s);
+    inspection->setField(u"ville_inspection"_s, u"Villeurbanne"_s);
+    inspection->setField(u"téléphone_inspection"_s, u"04 00 00 00 10"_s);
+    inspection->setField(u"mail_inspection"_s, u"ien.villeurbanne-nord@exemple.fr"_s);
+    inspection->setField(u"rne_inspection"_s, u"0699998Y"_s);
+    inspection->setField(u"genre_inpecteur"_s, u"Monsieur"_s);
+    inspection->setField(u"prénom_inspecteur"_s, u"Marc"_s);
+    inspection->setField(u"nom_inspecteur"_s, u"Fontaine"_s);
+    inspection->setField(u"politesse_inspecteur"_s, u"Monsieur l'Inspecteur"_s);
+    inspection->setField(u"titre_inspecteur"_s, u"Inspecteur de l'Education Nationale"_s);
+    inspection->Update();
+}
+
+// A few free fields named, as a school names those it uses; the others keep no caption.
+void écrire_champs_paramétrables(Database& base) {
+    const char* const champs[][2] = {
+        {"Garde périscolaire", "Jours de garderie du matin ou du soir"},
+        {"Transport scolaire", "Ligne et arrêt du car scolaire"},
+        {"PAI", "Projet d'accueil individualisé : date et objet"},
+        {"Étude surveillée", "Jours d'étude surveillée"},
+        {"Suivi", "Observations de l'équipe éducative"},
+    };
+    auto paramètres = base.OpenRecordset(u"paramètres"_s);
+    paramètres->AddNew();
+    for (int i = 0; i < 5; ++i) {
+        const QString n = QString::number(i + 1);
+        paramètres->setField(u"intitulé_champ_paramétrable"_s + n, QString::fromUtf8(champs[i][0]));
+        paramètres->setField(u"infobulle_champ_paramétrable"_s + n, QString::fromUtf8(champs[i][1]));
+    }
+    paramètres->Update();
 }
 
 } // namespace
@@ -392,6 +431,7 @@ void remplir_démonstration(Database& base, const Démonstration& options) {
     try {
         écrire_listes(base);
         écrire_école(base);
+        écrire_champs_paramétrables(base);
         écrire_équipe(base, dés, classes);
         auto familles = base.OpenRecordset(u"familles"_s);
         auto élèves = base.OpenRecordset(u"élèves"_s);

@@ -6,19 +6,23 @@
 #include "reference/feuille_assertions.h"
 #include "reference/feuille_assurances.h"
 #include "reference/feuille_csp.h"
+#include "reference/feuille_ecole.h"
 #include "reference/feuille_equipe.h"
 #include "reference/feuille_genres.h"
 #include "reference/feuille_hopitaux.h"
+#include "reference/feuille_inspection.h"
 #include "reference/feuille_langues_vivantes.h"
 #include "reference/feuille_medecins.h"
 #include "reference/feuille_nationalites.h"
 #include "reference/feuille_niveaux.h"
+#include "reference/feuille_parametres.h"
 #include "reference/feuille_sexe.h"
 #include "reference/feuille_situations_familiales.h"
 #include "reference/feuille_villes.h"
 #include "reports/feuille_documents.h"
 #include "shell/MDIForm1.h"
 #include "shell/regle_de_preparation.h"
+#include "store/feuille_acces.h"
 #include "store/ouvrir_table.h"
 
 namespace {
@@ -41,12 +45,12 @@ const std::vector<LigneDeCommande>& carte_des_commandes() {
         {"menuenfantsindex1", préparer<feuille_élève>(&ouvrir_table_élèves, &étapes_en_plus_élèves)},
         {"menuexploitationindex3", {}}, // feuille_traitements
         {"menuexploitationindex4", {}}, // spreadsheet export
-        {"menuparamètresindex1", {}},   // feuille_inspection
-        {"menuparamètresindex2", {}},   // feuille_école
+        {"menuparamètresindex1", préparer<feuille_inspection>(ouvrir_table_inspection)},
+        {"menuparamètresindex2", préparer<feuille_école>(ouvrir_table_école)},
         {"menuparamètresindex3", préparer<feuille_équipe>(ouvrir_table_équipe)},
         {"menuparamètresindex4", préparer<feuille_documents>(ouvrir_table_documents)},
-        {"menuparamètresindex5", {}},  // feuille_paramètres
-        {"menuparamètresindex22", {}}, // feuille_accès
+        {"menuparamètresindex5", préparer<feuille_paramètres>(ouvrir_table_paramètres)},
+        {"menuparamètresindex22", préparer<feuille_accès>(ouvrir_table_passe_accès)},
         {"menuparamètresindex6", préparer<feuille_adresses>(ouvrir_table_adresses)},
         {"menuparamètresindex7", préparer<feuille_assurances>(ouvrir_table_assurances)},
         {"menuparamètresindex23", préparer<feuille_assertions>(ouvrir_table_assertions)},

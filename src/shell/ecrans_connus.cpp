@@ -8,13 +8,16 @@
 #include "reference/feuille_assertions.h"
 #include "reference/feuille_assurances.h"
 #include "reference/feuille_csp.h"
+#include "reference/feuille_ecole.h"
 #include "reference/feuille_equipe.h"
 #include "reference/feuille_genres.h"
 #include "reference/feuille_hopitaux.h"
+#include "reference/feuille_inspection.h"
 #include "reference/feuille_langues_vivantes.h"
 #include "reference/feuille_medecins.h"
 #include "reference/feuille_nationalites.h"
 #include "reference/feuille_niveaux.h"
+#include "reference/feuille_parametres.h"
 #include "reference/feuille_sexe.h"
 #include "reference/feuille_situations_familiales.h"
 #include "reference/feuille_villes.h"
@@ -24,17 +27,19 @@
 
 using namespace Qt::StringLiterals;
 
-// A screen that another subsystem reaches joins here, one line, as it is built. Until then a lookup
-// treats its caller's values of origine_appel as unknown (feuille_école and feuille_inspection are
-// still to come).
+// A screen that another subsystem reaches joins here, one line, as it is built: a lookup writes into
+// its callers found by name, and the ouvrir_table_<table> family points its screens by name.
 void faire_connaître_les_écrans() {
     Feuilles& registre = feuilles();
     // The callers into whose fields the lookups write.
     registre.faireConnaître<feuille_élève>(u"feuille_élève"_s);
     registre.faireConnaître<feuille_famille>(u"feuille_famille"_s);
     registre.faireConnaître<feuille_équipe>(u"feuille_équipe"_s);
+    registre.faireConnaître<feuille_école>(u"feuille_école"_s);
+    registre.faireConnaître<feuille_inspection>(u"feuille_inspection"_s);
     // The screens of the ouvrir_table_<table> family.
     registre.faireConnaître<feuille_documents>(u"feuille_documents"_s);
+    registre.faireConnaître<feuille_paramètres>(u"feuille_paramètres"_s);
     registre.faireConnaître<feuille_choix_famille>(u"feuille_choix_famille"_s);
     registre.faireConnaître<feuille_adresses>(u"feuille_adresses"_s);
     registre.faireConnaître<feuille_assertions>(u"feuille_assertions"_s);

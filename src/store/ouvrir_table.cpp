@@ -3,6 +3,7 @@
 #include "platform/forms/Feuilles.h"
 #include "platform/ui/ErrorBoxes.h"
 #include "store/Module1.h"
+#include "store/feuille_acces.h"
 #include "store/feuille_choix_base.h"
 
 #include <QComboBox>
@@ -107,6 +108,23 @@ void ouvrir_table_villes() {
 
 void ouvrir_table_équipe() {
     ouvrir_table("feuille_équipe", "SELECT * FROM équipe");
+}
+
+void ouvrir_table_école() {
+    ouvrir_table("feuille_école", "SELECT * FROM école");
+}
+
+void ouvrir_table_inspection() {
+    ouvrir_table("feuille_inspection", "SELECT * FROM inspection");
+}
+
+void ouvrir_table_paramètres() {
+    ouvrir_table("feuille_paramètres", "SELECT * FROM paramètres", SiÉchec::boîte_standard);
+}
+
+void ouvrir_table_passe_accès() {
+    pointer_source(*feuilles().get<feuille_accès>().datPrimaryRS, u"SELECT * FROM passe"_s,
+                   SiÉchec::boîte_standard);
 }
 
 void ouvrir_table_familles() {

@@ -39,6 +39,12 @@ void ouvrir_table_situations_familiales();
 void ouvrir_table_villes();
 // The teaching team, which is also the list of classes.
 void ouvrir_table_équipe();
+// The one-row sheets: the school, the inspection, the captions of the pupil's free fields (a failure
+// shown with the standard box), and the access code on its own screen (the same).
+void ouvrir_table_école();
+void ouvrir_table_inspection();
+void ouvrir_table_paramètres();
+void ouvrir_table_passe_accès();
 // The families in alphabetical order, the family screen's list on its first entry.
 void ouvrir_table_familles();
 // The family picker of the pupil screen.
