@@ -48,6 +48,8 @@ const Appelant appelants[] = {
     {"feuille_élève", "menuenfantsindex1", "élèves"},
     {"feuille_équipe", "menuparamètresindex3", "équipe"},
     {"feuille_famille", "menuenfantsindex2", "familles"},
+    {"feuille_école", "menuparamètresindex2", "école"},
+    {"feuille_inspection", "menuparamètresindex1", "inspection"},
 };
 
 const Appelant* appelant_nommé(const QString& nom) {
