@@ -1,6 +1,7 @@
 #include "people/feuille_eleve.h"
 
 #include "people/age.h"
+#include "people/apprentissage.h"
 #include "people/feuille_choix_famille.h"
 #include "people/feuille_famille.h"
 #include "people/numerotation.h"
@@ -177,6 +178,7 @@ void feuille_élève::brancher_handlers() {
     QObject::connect(Command15, &QPushButton::clicked, this, [this] { Command15_Click(); });
     QObject::connect(Command6, &QPushButton::clicked, this, [this] { Command6_Click(); });
     brancher_consultations(*this);
+    brancher_apprentissage(*this);
     followPages(*this, *SSTab1);
 }
 
@@ -470,7 +472,6 @@ void feuille_élève::brancher_recherches_et_âge() {
     QObject::connect(Command2, &QPushButton::clicked, this, [this] { Command2_Click(); });
     QObject::connect(Command13, &QPushButton::clicked, this, [this] { Command13_Click(); });
     QObject::connect(date_naissance, &QLineEdit::textChanged, this, [this] { date_naissance_Change(); });
-    surLostFocus(référence_classe_élève, [this] { référence_classe_élève_LostFocus(); });
 }
 
 // No trap: a failure of the search goes up to the event loop, which reports it.
@@ -497,10 +498,6 @@ void feuille_élève::date_naissance_Change() {
             Label12->setText(*âge);
     });
 }
-
-// The field stands disabled and never has the focus to lose. Were it enabled, its exit would teach the
-// family situations table the family screen's situation, not a class.
-void feuille_élève::référence_classe_élève_LostFocus() {}
 
 namespace {
 

@@ -130,8 +130,6 @@ public:
     void Command13_Click();
     // The age in Label12, at each change of the birth date's text.
     void date_naissance_Change();
-    // Silent while référence_classe_élève stays disabled, as it always does.
-    void référence_classe_élève_LostFocus();
 
     void matricule_LostFocus();
     void nom_enfant_LostFocus();

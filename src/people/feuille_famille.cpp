@@ -1,5 +1,6 @@
 #include "people/feuille_famille.h"
 
+#include "people/apprentissage.h"
 #include "people/feuille_eleve.h"
 #include "people/numerotation.h"
 #include "people/recherches.h"
@@ -187,6 +188,7 @@ void feuille_famille::brancher_handlers() {
     relier(Command4, &QPushButton::clicked, this, [this] { Command4_Click(); });
     relier(Command16, &QPushButton::clicked, this, [this] { Command16_Click(); });
     brancher_consultations(*this);
+    brancher_apprentissage(*this);
     followPages(*this, *SSTab1);
 }
 
