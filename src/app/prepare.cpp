@@ -1,6 +1,8 @@
 // norvane-prepare DOSSIER: writes basevide.mdz and, unless it is already there, exemple.mdb with 200
-// fictional pupils into the work folder. norvane-prepare --modele FICHIER: writes the template alone.
+// fictional pupils (a dozen with a drawn portrait in DOSSIER/photos) into the work folder. norvane-prepare
+// --modele FICHIER: writes the template alone.
 #include "generator/Demonstration.h"
+#include "generator/Portraits.h"
 #include "platform/dao/BaseBuilder.h"
 #include "platform/dao/Database.h"
 #include "platform/errors/VbError.h"
@@ -8,6 +10,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTextStream>
 
 using namespace Qt::StringLiterals;
@@ -22,6 +25,8 @@ void écrire_exemple(const QString& modèle, const QString& cible) {
     try {
         auto base = Database::open(à_côté);
         remplir_démonstration(*base, Démonstration{});
+        // A dozen pupils with a portrait, beside the base.
+        photographier_élèves(*base, QFileInfo(cible).dir().filePath(u"photos"_s), 12);
         base->Close();
     } catch (...) {
         QFile::remove(à_côté);

@@ -3,6 +3,7 @@
 #include "people/age.h"
 #include "people/apprentissage.h"
 #include "people/feuille_choix_famille.h"
+#include "people/feuille_choix_photo.h"
 #include "people/feuille_famille.h"
 #include "people/numerotation.h"
 #include "people/ordres_eleves.h"
@@ -12,6 +13,7 @@
 #include "platform/forms/DBGrid.h"
 #include "platform/forms/DataControl.h"
 #include "platform/forms/LimiteSaisie.h"
+#include "platform/forms/Pictures.h"
 #include "platform/ui/ErrorBoxes.h"
 #include "platform/ui/Relier.h"
 #include "platform/vb/Conversions.h"
@@ -176,6 +178,9 @@ void feuille_élève::brancher_handlers() {
     relier(Command4, &QPushButton::clicked, this, [this] { Command4_Click(); });
     relier(Command16, &QPushButton::clicked, this, [this] { Command16_Click(); });
     QObject::connect(Command15, &QPushButton::clicked, this, [this] { Command15_Click(); });
+    relier(chemin_photo, &QLineEdit::textChanged, this, [this] { chemin_photo_Change(); });
+    relier(Command14, &QPushButton::clicked, this, [this] { Command14_Click(); });
+    surDblClick(photo, [this] { Command14_Click(); });
     QObject::connect(Command6, &QPushButton::clicked, this, [this] { Command6_Click(); });
     brancher_consultations(*this);
     brancher_apprentissage(*this);
@@ -579,6 +584,19 @@ void feuille_élève::Command16_Click() {
         adresse2_résidence->setText(famille.Text1->text());
         code_postal_résidence->setText(famille.Text5->text());
         ville_résidence->setText(famille.Text4->text());
+    });
+}
+
+// No path, or a file gone: the empty frame, without a word.
+void feuille_élève::chemin_photo_Change() {
+    avec_piège(ErrorBoxKind::standard, [this] { showPicture(*photo, chemin_photo->text()); });
+}
+
+void feuille_élève::Command14_Click() {
+    avec_piège(ErrorBoxKind::standard, [] {
+        feuille_choix_photo& choix = module1().feuilles().get<feuille_choix_photo>();
+        choix.Show();
+        choix.ZOrder();
     });
 }
 

@@ -139,6 +139,10 @@ public:
     // The family's address becomes the pupil's residence.
     void Command16_Click();
     void Command15_Click();
+    // The photo of the record, reloaded at each change of its path: by a move or by the picker.
+    void chemin_photo_Change();
+    // "photo" and a double click on the picture: the picker, not modal.
+    void Command14_Click();
     void Command6_Click();
     void Timer1_Timer();
     // Label2_Change to Label11_Change: a help carrier's text becomes the help balloon of its field.

@@ -21,6 +21,7 @@
 #include "reference/feuille_villes.h"
 #include "reports/feuille_documents.h"
 #include "shell/MDIForm1.h"
+#include "shell/feuille_copyright.h"
 #include "shell/regle_de_preparation.h"
 #include "store/feuille_acces.h"
 #include "store/ouvrir_table.h"
@@ -70,7 +71,14 @@ const std::vector<LigneDeCommande>& carte_des_commandes() {
         {"menuutilitairesindex3", {}}, // emptying the lookup tables
         {"menuutilitairesindex4", {}}, // gateway export
         {"menuoptionsindex1", propre(&MDIForm1::menuoptionsindex1_Click)},
-        {"menuaideindex1", {}}, // feuille_copyright
+        {"menuaideindex1",
+         [](MDIForm1&) {
+             feuille_copyright& àpropos = feuilles().get<feuille_copyright>();
+             àpropos.Show();
+             àpropos.setFocus();
+             àpropos.ZOrder();
+             àpropos.SSTab1->setCurrentIndex(0);
+         }},
     };
     return carte;
 }

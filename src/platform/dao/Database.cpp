@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QStringList>
+#include <sqlite3.h>
 
 using namespace Qt::StringLiterals;
 
@@ -111,4 +112,8 @@ void CompactDatabase(const QString& source, const QString& target) {
         throw;
     }
     connection->close();
+}
+
+QString engineVersion() {
+    return u"SQLite "_s + QString::fromLatin1(sqlite3_libversion());
 }

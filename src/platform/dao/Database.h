@@ -59,3 +59,6 @@ private:
 // 3343 if it is no database, 3044 if target's folder does not exist, 3204 if target exists, and 3045
 // ("already in use") if anybody, in this program or another, holds source open.
 void CompactDatabase(const QString& source, const QString& target);
+
+// The storage engine under the program, with its version as the library reports it at run time.
+QString engineVersion();

@@ -165,7 +165,10 @@ void FileListBox::Refresh() {
     clear();
     if (chemin_.isEmpty())
         return;
-    const QStringList motifs = motif_.split(u';', Qt::SkipEmptyParts);
+    // "*.jpg ; *.gif ; *.bmp": each pattern without its blanks, matched whatever the case.
+    QStringList motifs;
+    for (const QString& motif : motif_.split(u';', Qt::SkipEmptyParts))
+        motifs << motif.trimmed();
     const QFileInfoList fichiers =
         QDir(chemin_).entryInfoList(motifs, QDir::Files, QDir::Name | QDir::IgnoreCase | QDir::LocaleAware);
     for (const QFileInfo& fichier : fichiers)
