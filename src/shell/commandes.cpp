@@ -1,5 +1,6 @@
 #include "shell/commandes.h"
 
+#include "exports/initialisation_tables.h"
 #include "people/feuille_eleve.h"
 #include "people/feuille_famille.h"
 #include "reference/feuille_adresses.h"
@@ -61,9 +62,9 @@ const std::vector<LigneDeCommande>& carte_des_commandes() {
         {"menuparamètresindex17",
          préparer<feuille_situations_familiales>(ouvrir_table_situations_familiales)},
         {"menuparamètresindex16", préparer<feuille_villes>(ouvrir_table_villes)},
-        {"menuutilitairesindex1", {}}, // emptying the families
-        {"menuutilitairesindex2", {}}, // emptying the pupils
-        {"menuutilitairesindex3", {}}, // emptying the lookup tables
+        {"menuutilitairesindex1", [](MDIForm1&) { menuutilitairesindex1_Click(); }},
+        {"menuutilitairesindex2", [](MDIForm1&) { menuutilitairesindex2_Click(); }},
+        {"menuutilitairesindex3", [](MDIForm1&) { menuutilitairesindex3_Click(); }},
         {"menuutilitairesindex4", {}}, // gateway export
         {"menuoptionsindex1", propre(&MDIForm1::menuoptionsindex1_Click)},
         {"menuaideindex1", {}}, // feuille_copyright
