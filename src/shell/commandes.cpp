@@ -1,6 +1,7 @@
 #include "shell/commandes.h"
 
 #include "exports/initialisation_tables.h"
+#include "exports/passerelle.h"
 #include "people/feuille_eleve.h"
 #include "people/feuille_famille.h"
 #include "reference/feuille_adresses.h"
@@ -65,7 +66,8 @@ const std::vector<LigneDeCommande>& carte_des_commandes() {
         {"menuutilitairesindex1", [](MDIForm1&) { menuutilitairesindex1_Click(); }},
         {"menuutilitairesindex2", [](MDIForm1&) { menuutilitairesindex2_Click(); }},
         {"menuutilitairesindex3", [](MDIForm1&) { menuutilitairesindex3_Click(); }},
-        {"menuutilitairesindex4", {}}, // gateway export
+        {"menuutilitairesindex4",
+         [](MDIForm1& mdi) { menuutilitairesindex4_Click(mdi.fichier_passerelle_resté_ouvert); }},
         {"menuoptionsindex1", propre(&MDIForm1::menuoptionsindex1_Click)},
         {"menuaideindex1", {}}, // feuille_copyright
     };
