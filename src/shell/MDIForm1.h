@@ -52,6 +52,8 @@ public:
 
     // options.ini as a failed reading left it: open for the rest of the run.
     std::unique_ptr<QFile> fichier_options_resté_ouvert;
+    // File number 2, NORVANEX.EXP, as a failed gateway export left it: open for the rest of the run.
+    std::unique_ptr<QFile> fichier_passerelle_resté_ouvert;
 
 private:
     void construire_menus();

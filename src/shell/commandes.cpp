@@ -1,5 +1,7 @@
 #include "shell/commandes.h"
 
+#include "exports/initialisation_tables.h"
+#include "exports/passerelle.h"
 #include "people/feuille_eleve.h"
 #include "people/feuille_famille.h"
 #include "reference/feuille_adresses.h"
@@ -66,10 +68,11 @@ const std::vector<LigneDeCommande>& carte_des_commandes() {
         {"menuparamètresindex17",
          préparer<feuille_situations_familiales>(ouvrir_table_situations_familiales)},
         {"menuparamètresindex16", préparer<feuille_villes>(ouvrir_table_villes)},
-        {"menuutilitairesindex1", {}}, // emptying the families
-        {"menuutilitairesindex2", {}}, // emptying the pupils
-        {"menuutilitairesindex3", {}}, // emptying the lookup tables
-        {"menuutilitairesindex4", {}}, // gateway export
+        {"menuutilitairesindex1", [](MDIForm1&) { menuutilitairesindex1_Click(); }},
+        {"menuutilitairesindex2", [](MDIForm1&) { menuutilitairesindex2_Click(); }},
+        {"menuutilitairesindex3", [](MDIForm1&) { menuutilitairesindex3_Click(); }},
+        {"menuutilitairesindex4",
+         [](MDIForm1& mdi) { menuutilitairesindex4_Click(mdi.fichier_passerelle_resté_ouvert); }},
         {"menuoptionsindex1", propre(&MDIForm1::menuoptionsindex1_Click)},
         {"menuaideindex1",
          [](MDIForm1&) {

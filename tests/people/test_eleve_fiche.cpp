@@ -1,7 +1,7 @@
 // The pupil screen on a work base: opening by its menu command, new pupils and their matricules, the
 // sibling question, deletion, saving and closing, the captions of the configurable fields and the
 // letter templates.
-#include "BaseEleves.h"
+#include "support/BaseEleves.h"
 
 #include "people/feuille_eleve.h"
 #include "platform/forms/DBGrid.h"

@@ -1,6 +1,6 @@
 // What a screen reader says of the pupil screen's fields: each one's caption, read from its label or
 // from the button that carries it.
-#include "BaseEleves.h"
+#include "support/BaseEleves.h"
 
 #include "people/feuille_eleve.h"
 

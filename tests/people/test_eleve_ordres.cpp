@@ -1,6 +1,6 @@
 // The pupil screen's orders, its two jumps to one pupil and its age display, on a small school whose
 // names carry accents.
-#include "BaseEleves.h"
+#include "support/BaseEleves.h"
 
 #include "people/feuille_eleve.h"
 #include "platform/forms/DataControl.h"

@@ -1,6 +1,6 @@
 // The family screen on a work base: its fields as described, the numbering of new families, the
 // searches, the address copies, the blinking consent, and the ways between a pupil and its family.
-#include "BaseEleves.h"
+#include "support/BaseEleves.h"
 
 #include "people/feuille_choix_famille.h"
 #include "people/feuille_eleve.h"

@@ -413,8 +413,8 @@ QStringList Connection::tableNames() const {
     return tableNames_;
 }
 
-void Connection::beginTransaction() {
-    run(depth_ == 0 ? u"BEGIN IMMEDIATE"_s : u"SAVEPOINT ecriture"_s);
+void Connection::beginTransaction(bool forReading) {
+    run(depth_ > 0 ? u"SAVEPOINT ecriture"_s : forReading ? u"BEGIN"_s : u"BEGIN IMMEDIATE"_s);
     ++depth_;
 }
 

@@ -93,7 +93,9 @@ public:
         bool open_ = true;
     };
 
-    void beginTransaction();
+    // A transaction of its own for writing (the write lock taken at once), or for reading (the read
+    // lock taken at the first read and kept to the end); inside another, a savepoint.
+    void beginTransaction(bool forReading = false);
     void commitTransaction();
     void rollbackTransaction();
     int transactionDepth() const { return depth_; }

@@ -66,6 +66,10 @@ void Database::BeginTrans() {
     connection().beginTransaction();
 }
 
+void Database::BeginReadTrans() {
+    connection().beginTransaction(true);
+}
+
 void Database::CommitTrans() {
     connection().commitTransaction();
 }

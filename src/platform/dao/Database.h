@@ -35,6 +35,10 @@ public:
 
     // Groups several writes into one transaction (each Update, Delete and Execute is otherwise its own).
     void BeginTrans();
+    // The same for a long reading: until CommitTrans, every read sees one state of the file and the
+    // file's lock is taken once, not once a row. Other readers go on; a write inside takes the write
+    // lock then.
+    void BeginReadTrans();
     void CommitTrans();
     void Rollback();
 

@@ -24,9 +24,31 @@ char octet_pour(char16_t c) {
 QByteArray vers_windows1252(const QString& texte) {
     QByteArray octets;
     octets.reserve(texte.size());
-    for (const QChar c : texte)
-        octets.append(octet_pour(c.unicode()));
+    ajouter_en_windows1252(octets, texte);
     return octets;
+}
+
+qsizetype ajouter_en_windows1252(QByteArray& octets, QStringView texte) {
+    // At most one byte a UTF-16 unit: the room is made once, and what a pair of halves left over given
+    // back at the end.
+    const qsizetype début = octets.size();
+    octets.resize(début + texte.size());
+    char* sortie = octets.data() + début;
+    qsizetype remplacés = 0;
+    for (qsizetype i = 0; i < texte.size(); ++i) {
+        const QChar c = texte[i];
+        if (c.unicode() < 0x80) {
+            *sortie++ = static_cast<char>(c.unicode());
+            continue;
+        }
+        if (c.isHighSurrogate() && i + 1 < texte.size() && texte[i + 1].isLowSurrogate())
+            ++i; // both halves of one character
+        const char octet = octet_pour(c.unicode());
+        remplacés += octet == '?';
+        *sortie++ = octet;
+    }
+    octets.resize(sortie - octets.constData());
+    return remplacés;
 }
 
 QString depuis_windows1252(const QByteArray& octets) {

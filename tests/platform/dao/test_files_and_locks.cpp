@@ -214,6 +214,18 @@ TEST(Sharing, AWriterWaitsForAnotherThenGivesUpWithTheLockedError) {
     EXPECT_EQ(error_of([&] { second->Execute("DELETE * FROM genres"); }), 0);
 }
 
+TEST(Sharing, ALongReadingLeavesOthersReadingAndMayWrite) {
+    TemplateBase base;
+    auto first = Database::open(base.path());
+    auto second = Database::open(base.path());
+    first->BeginReadTrans();
+    EXPECT_EQ(first->OpenRecordset("sexe")->RecordCount(), 2);
+    EXPECT_EQ(second->OpenRecordset("sexe")->RecordCount(), 2);
+    first->Execute("DELETE * FROM sexe");
+    first->CommitTrans();
+    EXPECT_EQ(second->OpenRecordset("sexe")->RecordCount(), 0);
+}
+
 // A file that another program is writing is busy, not damaged, and the attempt leaves it as it was.
 TEST(Sharing, ABaseAnotherProgramHoldsAtOpeningIsLockedNotDamaged) {
     TemplateBase base;

@@ -17,7 +17,10 @@ TEST(Windows1252, LesLettresFrançaisesEtLesSignesDeLaPage) {
 TEST(Windows1252, CeQueLaPageNePeutTenirDevientUnPointDInterrogation) {
     EXPECT_EQ(vers_windows1252(u"Łódź"_s), QByteArray("?\xF3"
                                                       "d?"));
-    EXPECT_EQ(vers_windows1252(u"a😀b"_s), QByteArray("a??b"));
+    EXPECT_EQ(vers_windows1252(u"a😀b"_s), QByteArray("a?b"));
+    QByteArray octets("x");
+    EXPECT_EQ(ajouter_en_windows1252(octets, u"?Ł😀é"_s), 2);
+    EXPECT_EQ(octets, QByteArray("x???\xE9"));
 }
 
 TEST(Windows1252, LesOctetsInutilisésRestentLisibles) {

@@ -22,7 +22,9 @@ void ajouter_élève(const QString& chemin, const QString& matricule, const QStr
 // Pupils known by their matricule alone, each named "NOM" and the matricule.
 void ajouter_élèves(const QString& chemin, std::initializer_list<const char*> matricules);
 
-// A family written into the file behind the program's back, as "colonne=valeur|colonne=valeur".
+// A row written into the file behind the program's back, as "colonne=valeur|colonne=valeur".
+void ajouter_ligne(const QString& chemin, const QString& table, const QString& valeurs);
+// A family, so written.
 void ajouter_famille(const QString& chemin, const QString& valeurs);
 
 // The pupil screen over a fresh work base, in the main window, as the user reaches it.

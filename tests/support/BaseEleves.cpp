@@ -1,4 +1,4 @@
-#include "BaseEleves.h"
+#include "support/BaseEleves.h"
 
 #include "people/feuille_eleve.h"
 #include "people/feuille_famille.h"
@@ -32,13 +32,17 @@ void ajouter_élèves(const QString& chemin, std::initializer_list<const char*> 
 }
 
 void ajouter_famille(const QString& chemin, const QString& valeurs) {
+    ajouter_ligne(chemin, u"familles"_s, valeurs);
+}
+
+void ajouter_ligne(const QString& chemin, const QString& table, const QString& valeurs) {
     QStringList colonnes, textes;
     for (const QString& paire : valeurs.split(u'|')) {
         colonnes << paire.section(u'=', 0, 0);
         textes << u"'"_s + paire.section(u'=', 1).replace(u"'"_s, u"''"_s) + u"'"_s;
     }
-    exécuter_par_le_moteur(chemin, u"INSERT INTO familles ("_s + colonnes.join(u", "_s) + u") VALUES ("_s +
-                                       textes.join(u", "_s) + u")"_s);
+    exécuter_par_le_moteur(chemin, u"INSERT INTO "_s + table + u" ("_s + colonnes.join(u", "_s) +
+                                       u") VALUES ("_s + textes.join(u", "_s) + u")"_s);
 }
 
 ÉcranÉlèveTest::ÉcranÉlèveTest() = default;
