@@ -1,7 +1,7 @@
 // The learning of lookup values, brought to life by enabling its fields: the new row and its word, the
 // lookup pointed back at its whole table, case and wildcards as the engine's LIKE has them, the quote
 // failing into the box; the language and the class with their own departures.
-#include "BaseEleves.h"
+#include "support/BaseEleves.h"
 
 #include "people/feuille_eleve.h"
 #include "people/feuille_famille.h"

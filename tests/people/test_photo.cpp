@@ -1,7 +1,7 @@
 // The pupil's photo: the picture follows the record, a missing file leaves the frame empty and a file
 // that is no image says so; the picker's three steps (a change of folder clears the choice, a click
 // makes it, "&Accepter" gives it to the pupil).
-#include "BaseEleves.h"
+#include "support/BaseEleves.h"
 
 #include "generator/Portraits.h"
 #include "people/feuille_choix_photo.h"
