@@ -78,8 +78,9 @@ TEST_F(FicheFamille, EveryFieldIsBoundWithItsCaptionLimitHelpTabAndLookupState) 
             EXPECT_EQ(zone->toPlainText() + c[5], QString::number(i) + u("sans limite"));
             EXPECT_EQ(zone->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
         }
-        if (précédent) // the keyboard walks the rows in the table's order
+        if (précédent) { // the keyboard walks the rows in the table's order
             EXPECT_EQ(précédent->nextInFocusChain(), champ);
+        }
         précédent = champ;
     }
     for (const QStringList& b : table_de_données(u("famille_boutons.tsv"))) {
@@ -174,8 +175,9 @@ TEST_F(FicheFamille, TheThreeSearchesFindTheFirstMatchOfTheOrderWithWildcardsAcc
             ui().expectMsgBox();
         répondre(f, c.bouton, c.réponse);
         EXPECT_EQ(f.Text13->text(), u(c.trouvée ? c.trouvée : "000002"));
-        if (!c.trouvée)
+        if (!c.trouvée) {
             EXPECT_EQ(ui().lastBox(), Box::titled(u("Fiche introuvable..."), vbOKOnly + vbInformation));
+        }
         cliquer(*f.datPrimaryRS, u("dernier"));
     }
     // A quote breaks the criterion after the move to the first family, which has saved the edit.

@@ -49,8 +49,9 @@ TEST_F(FeuillesUniques, SchoolAndInspectionFieldsAsDescribedKeptAcrossAClosing) 
             EXPECT_EQ(champ->toolTip(), c[8]);
             EXPECT_EQ(limite_saisie(*champ), c[6].toInt());
             EXPECT_EQ(champ->isEnabled(), c[7] == u("typed"));
-            if (précédent)
+            if (précédent) {
                 EXPECT_EQ(suivant(précédent), champ);
+            }
             précédent = champ;
             champ->setText(c[3].left(c[6].toInt()));
         }
