@@ -1,0 +1,243 @@
+#include "platform/report/PreviewWindow.h"
+
+#include "platform/files/SafeSave.h"
+#include "platform/report/Destination.h"
+#include "platform/report/PagePainter.h"
+#include "platform/report/Writers.h"
+#include "platform/ui/ErrorBoxes.h"
+#include "platform/ui/Relier.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double min_zoom = 0.25, max_zoom = 5.0, zoom_step = 1.25;
+constexpr int gutter = 16; // grey around the page, in pixels
+
+} // namespace
+
+// The sheet of paper at the zoom, drawn straight from the page's elements.
+class PreviewWindow::PageView : public QWidget {
+public:
+    explicit PageView(PreviewWindow& owner) : QWidget(nullptr), owner_(owner) {
+        setObjectName(u"page"_s);
+        setAttribute(Qt::WA_OpaquePaintEvent);
+    }
+
+    QSizeF paperPixels(double zoom) const {
+        const QSizeF mm = owner_.report().pageLayout.fullRect(QPageLayout::Millimeter).size();
+        return mm * dotsPerMm(zoom);
+    }
+    double dotsPerMm(double zoom) const { return logicalDpiX() / 25.4 * zoom; }
+
+    void resizeToPaper() {
+        const QSizeF paper = paperPixels(owner_.zoom());
+        resize(static_cast<int>(paper.width()) + 2 * gutter, static_cast<int>(paper.height()) + 2 * gutter);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.fillRect(rect(), QColor(0x80, 0x80, 0x80));
+        const QSizeF paper = paperPixels(owner_.zoom());
+        const QRectF sheet(gutter, gutter, paper.width(), paper.height());
+        painter.fillRect(sheet.translated(3, 3), QColor(0x50, 0x50, 0x50));
+        painter.fillRect(sheet, Qt::white);
+        painter.translate(sheet.topLeft());
+        painter.setClipRect(QRectF(QPointF(0, 0), paper));
+        paintPage(painter, owner_.page(), dotsPerMm(owner_.zoom()), owner_.zoom());
+    }
+
+private:
+    PreviewWindow& owner_;
+};
+
+PreviewWindow::PreviewWindow(std::shared_ptr<const RenderedReport> report, QWidget* parent)
+    : QWidget(parent), report_(std::move(report)) {
+    setObjectName(u"aperçu"_s);
+    setWindowTitle(u"Aperçu - %1"_s.arg(report_->title));
+    setFocusPolicy(Qt::StrongFocus);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    bar_ = new QWidget(this);
+    auto* row = new QHBoxLayout(bar_);
+    row->setContentsMargins(6, 4, 6, 4);
+    column->addWidget(bar_);
+
+    addButton(u"première"_s, u"|◀"_s, u"Première page (Origine)"_s, nullptr);
+    addButton(u"précédente"_s, u"◀"_s, u"Page précédente (Page préc.)"_s, &PreviewWindow::previousPage);
+    position_ = new QLabel(bar_);
+    position_->setObjectName(u"position"_s);
+    position_->setMinimumWidth(110);
+    position_->setAlignment(Qt::AlignCenter);
+    row->addWidget(position_);
+    addButton(u"suivante"_s, u"▶"_s, u"Page suivante (Page suiv.)"_s, &PreviewWindow::nextPage);
+    addButton(u"dernière"_s, u"▶|"_s, u"Dernière page (Fin)"_s, nullptr);
+    row->addSpacing(16);
+    addButton(u"réduire"_s, u"−"_s, u"Réduire (Ctrl+-)"_s, &PreviewWindow::zoomOut);
+    zoomLabel_ = new QLabel(bar_);
+    zoomLabel_->setObjectName(u"zoom"_s);
+    zoomLabel_->setMinimumWidth(50);
+    zoomLabel_->setAlignment(Qt::AlignCenter);
+    row->addWidget(zoomLabel_);
+    addButton(u"agrandir"_s, u"+"_s, u"Agrandir (Ctrl++)"_s, &PreviewWindow::zoomIn);
+    addButton(u"pleine_largeur"_s, u"Pleine &largeur"_s, u"Ajuster à la largeur de la fenêtre"_s,
+              &PreviewWindow::fitWidth);
+    row->addSpacing(16);
+    addButton(u"imprimer"_s, u"&Imprimer..."_s, u"Imprimer (Ctrl+P)"_s, &PreviewWindow::print);
+    addButton(u"enregistrer"_s, u"Enregistrer en &PDF..."_s, u"Enregistrer en PDF (Ctrl+S)"_s,
+              static_cast<void (PreviewWindow::*)()>(&PreviewWindow::saveAsPdf));
+    row->addStretch(1);
+    addButton(u"fermer"_s, u"&Fermer"_s, u"Fermer l'aperçu (Échap)"_s, nullptr);
+    relier(bar_->findChild<QToolButton*>(u"première"_s), &QToolButton::clicked, this,
+           [this] { showPage(0); });
+    relier(bar_->findChild<QToolButton*>(u"dernière"_s), &QToolButton::clicked, this,
+           [this] { showPage(report_->pageCount() - 1); });
+    relier(bar_->findChild<QToolButton*>(u"fermer"_s), &QToolButton::clicked, this,
+           [this] { window()->close(); });
+
+    scroll_ = new QScrollArea(this);
+    scroll_->setObjectName(u"défilement"_s);
+    scroll_->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    scroll_->setBackgroundRole(QPalette::Dark);
+    scroll_->setFocusPolicy(Qt::NoFocus);
+    view_ = new PageView(*this);
+    scroll_->setWidget(view_);
+    column->addWidget(scroll_, 1);
+
+    const std::pair<QKeySequence, std::function<void()>> keys[] = {
+        {QKeySequence(Qt::Key_PageDown), [this] { nextPage(); }},
+        {QKeySequence(Qt::Key_PageUp), [this] { previousPage(); }},
+        {QKeySequence(Qt::Key_Home), [this] { showPage(0); }},
+        {QKeySequence(Qt::Key_End), [this] { showPage(report_->pageCount() - 1); }},
+        {QKeySequence(QKeySequence::ZoomIn), [this] { zoomIn(); }},
+        {QKeySequence(Qt::CTRL | Qt::Key_Equal), [this] { zoomIn(); }},
+        {QKeySequence(QKeySequence::ZoomOut), [this] { zoomOut(); }},
+        {QKeySequence(Qt::CTRL | Qt::Key_0), [this] { fitWidth(); }},
+        {QKeySequence(QKeySequence::Print), [this] { print(); }},
+        {QKeySequence(QKeySequence::Save), [this] { saveAsPdf(); }},
+        {QKeySequence(Qt::Key_Escape), [this] { window()->close(); }},
+    };
+    for (const auto& [sequence, action] : keys) {
+        auto* shortcut = new QShortcut(sequence, this);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        relier(shortcut, &QShortcut::activated, this, action);
+    }
+    view_->resizeToPaper();
+    update_();
+}
+
+PreviewWindow::~PreviewWindow() = default;
+
+void PreviewWindow::addButton(const QString& name, const QString& text, const QString& tip,
+                              void (PreviewWindow::*action)()) {
+    auto* b = new QToolButton(bar_);
+    b->setObjectName(name);
+    b->setText(text);
+    b->setToolTip(tip);
+    b->setAutoRaise(true);
+    b->setFocusPolicy(Qt::NoFocus);
+    bar_->layout()->addWidget(b);
+    if (action != nullptr)
+        relier(b, &QToolButton::clicked, this, action);
+}
+
+const ReportPage& PreviewWindow::page() const {
+    if (!cached_ || cached_->first != current_)
+        cached_.emplace(current_, report_->page(current_));
+    return cached_->second;
+}
+
+void PreviewWindow::showPage(int index) {
+    const int clamped = std::clamp(index, 0, report_->pageCount() - 1);
+    if (clamped == current_)
+        return;
+    current_ = clamped;
+    scroll_->verticalScrollBar()->setValue(0);
+    update_();
+}
+
+void PreviewWindow::setZoom(double zoom) {
+    zoom_ = std::clamp(zoom, min_zoom, max_zoom);
+    view_->resizeToPaper();
+    update_();
+}
+
+void PreviewWindow::zoomIn() {
+    fitting_ = false;
+    setZoom(zoom_ * zoom_step);
+}
+
+void PreviewWindow::zoomOut() {
+    fitting_ = false;
+    setZoom(zoom_ / zoom_step);
+}
+
+void PreviewWindow::fitWidth() {
+    fitting_ = true;
+    const double room = scroll_->viewport()->width() - 2 * gutter - 4;
+    const double paper = view_->paperPixels(1.0).width();
+    if (room > 50 && paper > 0)
+        setZoom(room / paper);
+}
+
+void PreviewWindow::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    if (fitting_)
+        fitWidth();
+}
+
+void PreviewWindow::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (fitting_)
+        fitWidth();
+}
+
+void PreviewWindow::update_() {
+    position_->setText(u"Page %1 / %2"_s.arg(current_ + 1).arg(report_->pageCount()));
+    zoomLabel_->setText(u"%1 %"_s.arg(std::lround(zoom_ * 100)));
+    bar_->findChild<QToolButton*>(u"précédente"_s)->setEnabled(current_ > 0);
+    bar_->findChild<QToolButton*>(u"première"_s)->setEnabled(current_ > 0);
+    bar_->findChild<QToolButton*>(u"suivante"_s)->setEnabled(current_ + 1 < report_->pageCount());
+    bar_->findChild<QToolButton*>(u"dernière"_s)->setEnabled(current_ + 1 < report_->pageCount());
+    view_->update();
+}
+
+void PreviewWindow::print() {
+    avec_piège(ErrorBoxKind::standard, [this] {
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setPageLayout(report_->pageLayout);
+        QPrintDialog dialog(&printer, this);
+        dialog.setWindowTitle(u"Imprimer - %1"_s.arg(report_->title));
+        if (dialog.exec() == QDialog::Accepted)
+            printReport(*report_, printer, printer.copyCount());
+    });
+}
+
+void PreviewWindow::saveAsPdf() {
+    const QString proposal =
+        QDir::home().filePath(report_->title.isEmpty() ? u"état.pdf"_s : report_->title + u".pdf"_s);
+    const QString path =
+        QFileDialog::getSaveFileName(this, u"Enregistrer en PDF"_s, proposal, u"Documents PDF (*.pdf)"_s);
+    if (!path.isEmpty())
+        saveAsPdf(path);
+}
+
+void PreviewWindow::saveAsPdf(const QString& path) {
+    avec_piège(ErrorBoxKind::standard,
+               [&] { saveWhole(path, [this](QIODevice& d) { writePdf(*report_, d); }); });
+}
