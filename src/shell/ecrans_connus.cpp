@@ -19,6 +19,7 @@
 #include "reference/feuille_situations_familiales.h"
 #include "reference/feuille_villes.h"
 #include "reports/feuille_documents.h"
+#include "reports/feuille_traitements.h"
 #include "shell/MDIForm1.h"
 #include "shell/feuille_patientez.h"
 
@@ -33,6 +34,8 @@ void faire_connaître_les_écrans() {
     registre.faireConnaître<feuille_élève>(u"feuille_élève"_s);
     registre.faireConnaître<feuille_famille>(u"feuille_famille"_s);
     registre.faireConnaître<feuille_équipe>(u"feuille_équipe"_s);
+    // The treatments screen, whose fields restrict the reports and the spreadsheet export.
+    registre.faireConnaître<feuille_traitements>(u"feuille_traitements"_s);
     // The screens of the ouvrir_table_<table> family.
     registre.faireConnaître<feuille_documents>(u"feuille_documents"_s);
     registre.faireConnaître<feuille_choix_famille>(u"feuille_choix_famille"_s);

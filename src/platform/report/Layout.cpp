@@ -280,12 +280,13 @@ Layout parseLayout(const QString& text, const QString& path) {
     Layout l;
     l.path = path;
     QString section;
-    int number = 0;
+    int number = 0, last = 1;
     for (const QString& raw : text.split(u'\n')) {
         ++number;
         const QString line = raw.trimmed();
         if (line.isEmpty() || line.startsWith(u'#'))
             continue;
+        last = number;
         try {
             if (line.startsWith(u'[')) {
                 if (!line.endsWith(u']'))
@@ -305,11 +306,11 @@ Layout parseLayout(const QString& text, const QString& path) {
     }
     const bool needsTable = l.kind != Layout::Kind::Sheet;
     if (needsTable && l.table.isEmpty())
-        throw report_error::layoutInvalid(path, number, u"[données] ne nomme aucune table"_s);
+        throw report_error::layoutInvalid(path, last, u"[données] ne nomme aucune table"_s);
     if (l.kind == Layout::Kind::List && l.columns.empty())
-        throw report_error::layoutInvalid(path, number, u"[liste] n'a aucune colonne"_s);
+        throw report_error::layoutInvalid(path, last, u"[liste] n'a aucune colonne"_s);
     if (l.kind == Layout::Kind::Statistic && l.countField.isEmpty())
-        throw report_error::layoutInvalid(path, number, u"[statistique] ne dit pas quoi compter"_s);
+        throw report_error::layoutInvalid(path, last, u"[statistique] ne dit pas quoi compter"_s);
     return l;
 }
 
