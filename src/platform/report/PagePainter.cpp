@@ -21,6 +21,8 @@ QFont fontOf(const FontSpec& spec, double scale) {
     f.setPointSizeF(std::max(1.0, spec.size * scale));
     f.setBold(spec.bold);
     f.setItalic(spec.italic);
+    // No ligatures: "ff" and "fi" stay two letters that a reader of the PDF can search and copy.
+    f.setLetterSpacing(QFont::PercentageSpacing, 100.001);
     return f;
 }
 

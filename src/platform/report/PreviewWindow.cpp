@@ -11,6 +11,7 @@
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMdiSubWindow>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -108,7 +109,7 @@ PreviewWindow::PreviewWindow(std::shared_ptr<const RenderedReport> report, QWidg
     relier(bar_->findChild<QToolButton*>(u"dernière"_s), &QToolButton::clicked, this,
            [this] { showPage(report_->pageCount() - 1); });
     relier(bar_->findChild<QToolButton*>(u"fermer"_s), &QToolButton::clicked, this,
-           [this] { window()->close(); });
+           [this] { closeWindow(); });
 
     scroll_ = new QScrollArea(this);
     scroll_->setObjectName(u"défilement"_s);
@@ -130,7 +131,7 @@ PreviewWindow::PreviewWindow(std::shared_ptr<const RenderedReport> report, QWidg
         {QKeySequence(Qt::CTRL | Qt::Key_0), [this] { fitWidth(); }},
         {QKeySequence(QKeySequence::Print), [this] { print(); }},
         {QKeySequence(QKeySequence::Save), [this] { saveAsPdf(); }},
-        {QKeySequence(Qt::Key_Escape), [this] { window()->close(); }},
+        {QKeySequence(Qt::Key_Escape), [this] { closeWindow(); }},
     };
     for (const auto& [sequence, action] : keys) {
         auto* shortcut = new QShortcut(sequence, this);
@@ -215,6 +216,14 @@ void PreviewWindow::update_() {
     bar_->findChild<QToolButton*>(u"suivante"_s)->setEnabled(current_ + 1 < report_->pageCount());
     bar_->findChild<QToolButton*>(u"dernière"_s)->setEnabled(current_ + 1 < report_->pageCount());
     view_->update();
+}
+
+void PreviewWindow::closeWindow() {
+    // Inside the main window's area the window is the sub-window, not the main window.
+    if (auto* sub = qobject_cast<QMdiSubWindow*>(parentWidget()))
+        sub->close();
+    else
+        close();
 }
 
 void PreviewWindow::print() {

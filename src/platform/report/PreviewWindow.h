@@ -37,6 +37,9 @@ public:
     void saveAsPdf();
     void saveAsPdf(const QString& path);
 
+    // Closes the preview's window: its sub-window in the main window's area, or itself.
+    void closeWindow();
+
     // The page on screen, laid out once while it stays there.
     const ReportPage& page() const;
 
