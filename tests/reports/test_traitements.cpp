@@ -9,6 +9,8 @@
 #include "reports/etat.h"
 #include "reports/feuille_traitements.h"
 #include "shell/MDIForm1.h"
+#include "shell/feuille_options.h"
+#include "shell/options.h"
 #include "store/Module1.h"
 #include "support/BasesDeTest.h"
 #include "support/Donnees.h"
@@ -233,6 +235,17 @@ TEST_F(Traitements, closing_hides_and_keeps_what_was_typed_and_chosen) {
     EXPECT_EQ(f.Text2->text(), u"CE1"_s);
     EXPECT_TRUE(f.Option1[2]->isChecked());
     EXPECT_EQ(liste(1)->count(), 11); // filled once
+}
+
+} // namespace
+
+namespace {
+
+TEST_F(Traitements, the_start_up_option_shows_the_screen_after_an_opening) {
+    fixer_case(feuilles().get<feuille_options>().Check4, 1);
+    feuilles().get<MDIForm1>().montrer_écrans_après_ouverture();
+    ASSERT_TRUE(feuilles().isLoaded<feuille_traitements>());
+    EXPECT_FALSE(feuilles().get<feuille_traitements>().conteneur().isHidden());
 }
 
 } // namespace

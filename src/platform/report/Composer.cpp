@@ -347,7 +347,7 @@ public:
             ChartElement chart;
             chart.pie = layout_.chart == Layout::Chart::Pie;
             chart.font = font();
-            chart.title = layout_.title;
+            chart.title = QString(); // the page has the title above it
             for (const auto& [label, n] : counts_) {
                 chart.categories << label;
                 chart.values.push_back(n);

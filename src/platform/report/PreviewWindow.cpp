@@ -7,6 +7,7 @@
 #include "platform/ui/ErrorBoxes.h"
 #include "platform/ui/Relier.h"
 
+#include <QAction>
 #include <QDir>
 #include <QFileDialog>
 #include <QHBoxLayout>
@@ -18,7 +19,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QShortcut>
-#include <QToolButton>
+#include <QToolBar>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -74,42 +75,36 @@ PreviewWindow::PreviewWindow(std::shared_ptr<const RenderedReport> report, QWidg
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    bar_ = new QWidget(this);
-    auto* row = new QHBoxLayout(bar_);
-    row->setContentsMargins(6, 4, 6, 4);
+    // A tool bar folds what does not fit into its extension menu: nothing is cut on a small display.
+    bar_ = new QToolBar(this);
+    bar_->setObjectName(u"barre"_s);
+    bar_->setFocusPolicy(Qt::NoFocus);
     column->addWidget(bar_);
-
-    addButton(u"première"_s, u"|◀"_s, u"Première page (Origine)"_s, nullptr);
-    addButton(u"précédente"_s, u"◀"_s, u"Page précédente (Page préc.)"_s, &PreviewWindow::previousPage);
+    addButton(u"première"_s, u"|◀"_s, u"Première page (Origine)"_s, [this] { showPage(0); });
+    addButton(u"précédente"_s, u"◀"_s, u"Page précédente (Page préc.)"_s, [this] { previousPage(); });
     position_ = new QLabel(bar_);
     position_->setObjectName(u"position"_s);
-    position_->setMinimumWidth(110);
+    position_->setMinimumWidth(100);
     position_->setAlignment(Qt::AlignCenter);
-    row->addWidget(position_);
-    addButton(u"suivante"_s, u"▶"_s, u"Page suivante (Page suiv.)"_s, &PreviewWindow::nextPage);
-    addButton(u"dernière"_s, u"▶|"_s, u"Dernière page (Fin)"_s, nullptr);
-    row->addSpacing(16);
-    addButton(u"réduire"_s, u"−"_s, u"Réduire (Ctrl+-)"_s, &PreviewWindow::zoomOut);
+    bar_->addWidget(position_);
+    addButton(u"suivante"_s, u"▶"_s, u"Page suivante (Page suiv.)"_s, [this] { nextPage(); });
+    addButton(u"dernière"_s, u"▶|"_s, u"Dernière page (Fin)"_s,
+              [this] { showPage(report_->pageCount() - 1); });
+    bar_->addSeparator();
+    addButton(u"réduire"_s, u"−"_s, u"Réduire (Ctrl+-)"_s, [this] { zoomOut(); });
     zoomLabel_ = new QLabel(bar_);
     zoomLabel_->setObjectName(u"zoom"_s);
     zoomLabel_->setMinimumWidth(50);
     zoomLabel_->setAlignment(Qt::AlignCenter);
-    row->addWidget(zoomLabel_);
-    addButton(u"agrandir"_s, u"+"_s, u"Agrandir (Ctrl++)"_s, &PreviewWindow::zoomIn);
-    addButton(u"pleine_largeur"_s, u"Pleine &largeur"_s, u"Ajuster à la largeur de la fenêtre"_s,
-              &PreviewWindow::fitWidth);
-    row->addSpacing(16);
-    addButton(u"imprimer"_s, u"&Imprimer..."_s, u"Imprimer (Ctrl+P)"_s, &PreviewWindow::print);
-    addButton(u"enregistrer"_s, u"Enregistrer en &PDF..."_s, u"Enregistrer en PDF (Ctrl+S)"_s,
-              static_cast<void (PreviewWindow::*)()>(&PreviewWindow::saveAsPdf));
-    row->addStretch(1);
-    addButton(u"fermer"_s, u"&Fermer"_s, u"Fermer l'aperçu (Échap)"_s, nullptr);
-    relier(bar_->findChild<QToolButton*>(u"première"_s), &QToolButton::clicked, this,
-           [this] { showPage(0); });
-    relier(bar_->findChild<QToolButton*>(u"dernière"_s), &QToolButton::clicked, this,
-           [this] { showPage(report_->pageCount() - 1); });
-    relier(bar_->findChild<QToolButton*>(u"fermer"_s), &QToolButton::clicked, this,
-           [this] { closeWindow(); });
+    bar_->addWidget(zoomLabel_);
+    addButton(u"agrandir"_s, u"+"_s, u"Agrandir (Ctrl++)"_s, [this] { zoomIn(); });
+    addButton(u"pleine_largeur"_s, u"Largeur"_s, u"Ajuster à la largeur de la fenêtre (Ctrl+0)"_s,
+              [this] { fitWidth(); });
+    bar_->addSeparator();
+    addButton(u"imprimer"_s, u"Imprimer..."_s, u"Imprimer (Ctrl+P)"_s, [this] { print(); });
+    addButton(u"enregistrer"_s, u"PDF..."_s, u"Enregistrer en PDF (Ctrl+S)"_s, [this] { saveAsPdf(); });
+    bar_->addSeparator();
+    addButton(u"fermer"_s, u"Fermer"_s, u"Fermer l'aperçu (Échap)"_s, [this] { closeWindow(); });
 
     scroll_ = new QScrollArea(this);
     scroll_->setObjectName(u"défilement"_s);
@@ -145,16 +140,11 @@ PreviewWindow::PreviewWindow(std::shared_ptr<const RenderedReport> report, QWidg
 PreviewWindow::~PreviewWindow() = default;
 
 void PreviewWindow::addButton(const QString& name, const QString& text, const QString& tip,
-                              void (PreviewWindow::*action)()) {
-    auto* b = new QToolButton(bar_);
-    b->setObjectName(name);
-    b->setText(text);
-    b->setToolTip(tip);
-    b->setAutoRaise(true);
-    b->setFocusPolicy(Qt::NoFocus);
-    bar_->layout()->addWidget(b);
-    if (action != nullptr)
-        relier(b, &QToolButton::clicked, this, action);
+                              std::function<void()> action) {
+    QAction* a = bar_->addAction(text);
+    a->setObjectName(name);
+    a->setToolTip(tip);
+    relier(a, &QAction::triggered, this, std::move(action));
 }
 
 const ReportPage& PreviewWindow::page() const {
@@ -190,7 +180,10 @@ void PreviewWindow::zoomOut() {
 
 void PreviewWindow::fitWidth() {
     fitting_ = true;
-    const double room = scroll_->viewport()->width() - 2 * gutter - 4;
+    // The room the page has once the vertical scroll bar, which a page taller than the window brings, is
+    // there.
+    const double room = scroll_->width() - 2 * scroll_->frameWidth() -
+                        scroll_->verticalScrollBar()->sizeHint().width() - 2 * gutter - 2;
     const double paper = view_->paperPixels(1.0).width();
     if (room > 50 && paper > 0)
         setZoom(room / paper);
@@ -211,10 +204,12 @@ void PreviewWindow::showEvent(QShowEvent* event) {
 void PreviewWindow::update_() {
     position_->setText(u"Page %1 / %2"_s.arg(current_ + 1).arg(report_->pageCount()));
     zoomLabel_->setText(u"%1 %"_s.arg(std::lround(zoom_ * 100)));
-    bar_->findChild<QToolButton*>(u"précédente"_s)->setEnabled(current_ > 0);
-    bar_->findChild<QToolButton*>(u"première"_s)->setEnabled(current_ > 0);
-    bar_->findChild<QToolButton*>(u"suivante"_s)->setEnabled(current_ + 1 < report_->pageCount());
-    bar_->findChild<QToolButton*>(u"dernière"_s)->setEnabled(current_ + 1 < report_->pageCount());
+    for (QAction* a : bar_->actions()) {
+        if (a->objectName() == u"précédente" || a->objectName() == u"première")
+            a->setEnabled(current_ > 0);
+        else if (a->objectName() == u"suivante" || a->objectName() == u"dernière")
+            a->setEnabled(current_ + 1 < report_->pageCount());
+    }
     view_->update();
 }
 

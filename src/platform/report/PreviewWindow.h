@@ -3,13 +3,14 @@
 #include "platform/report/RenderedReport.h"
 
 #include <QWidget>
+#include <functional>
 #include <memory>
 #include <optional>
 
 class QLabel;
 class QPrinter;
 class QScrollArea;
-class QToolButton;
+class QToolBar;
 
 // A report on screen, one page at a time: page through (PgUp, PgDn, Home, End), zoom (Ctrl++, Ctrl+-,
 // fit the width), print through the system's dialog (Ctrl+P), save as PDF (Ctrl+S), close (Esc).
@@ -50,7 +51,7 @@ protected:
 private:
     class PageView;
     void addButton(const QString& name, const QString& text, const QString& tip,
-                   void (PreviewWindow::*action)());
+                   std::function<void()> action);
     void update_();
 
     std::shared_ptr<const RenderedReport> report_;
@@ -62,5 +63,5 @@ private:
     PageView* view_ = nullptr;
     QLabel* position_ = nullptr;
     QLabel* zoomLabel_ = nullptr;
-    QWidget* bar_ = nullptr;
+    QToolBar* bar_ = nullptr;
 };
