@@ -65,10 +65,10 @@ Bytes font(bool bold) {
 }
 
 // A cell format. A style format stands for itself; a cell format takes the Normal style as parent.
-Bytes xf(int fontIndex, int format, bool style, bool wrapTop = false) {
+Bytes xf(int fontIndex, int format, bool style) {
     Bytes b;
     b.u16(fontIndex).u16(format).u16(style ? 0xFFF5 : 0x0001);
-    b.u8(wrapTop ? 0x20 : 0x20).u8(0).u8(0).u8(style ? 0 : 0xF8);
+    b.u8(0x20).u8(0).u8(0).u8(style ? 0 : 0xF8); // aligned at the bottom, as the default style
     b.u32(0).u32(0).u16(0x20C0);
     return b;
 }
@@ -206,8 +206,13 @@ QByteArray workbook(const ReportSheet& sheet) {
     strings.write(globals);
     record(globals, 0x000A, Bytes());
 
+    // The sheet: its index of rows right after its start, pointing at the default column width.
     Bytes worksheet;
     record(worksheet, 0x0809, bof(0x0010));
+    const qsizetype indexAt = worksheet.size() + 4;
+    record(worksheet, 0x020B, Bytes().u32(0).u32(0).u32(static_cast<quint32>(sheet.rows.size())).u32(0));
+    const qsizetype defaultWidthAt = worksheet.size();
+    record(worksheet, 0x0055, Bytes().u16(8));
     for (size_t c = 0; c < columns; ++c)
         record(worksheet, 0x007D,
                Bytes()
@@ -229,9 +234,11 @@ QByteArray workbook(const ReportSheet& sheet) {
     record(worksheet, 0x000A, Bytes());
 
     QByteArray book = globals.data();
-    qToLittleEndian(static_cast<quint32>(book.size()), book.data() + sheetPositionAt);
-    book += worksheet.data();
-    return book;
+    const auto sheetStart = static_cast<quint32>(book.size());
+    qToLittleEndian(sheetStart, book.data() + sheetPositionAt);
+    QByteArray sheetBytes = worksheet.data();
+    qToLittleEndian(static_cast<quint32>(sheetStart + defaultWidthAt), sheetBytes.data() + indexAt + 12);
+    return book + sheetBytes;
 }
 
 // The container's numbers: sectors of 512 bytes, and the marks of its allocation table.
