@@ -9,6 +9,7 @@ packages=(
     libsqlite3-dev libicu-dev libx11-dev
     libgtest-dev libgmock-dev googletest libbenchmark-dev sqlite3
     fonts-dejavu-core xvfb xauth
+    poppler-utils unrtf python3-xlrd
 )
 
 missing=()

@@ -1,7 +1,8 @@
-// norvane-prepare DOSSIER: writes basevide.mdz and, unless it is already there, exemple.mdb with 200
-// fictional pupils (a dozen with a drawn portrait in DOSSIER/photos) into the work folder. norvane-prepare
-// --modele FICHIER: writes the template alone.
+// norvane-prepare DOSSIER: writes basevide.mdz, the report layouts that are not there yet and, unless it
+// is already there, exemple.mdb with 200 fictional pupils (a dozen with a drawn portrait in DOSSIER/photos)
+// into the work folder. norvane-prepare --modele FICHIER: writes the template alone.
 #include "generator/Demonstration.h"
+#include "generator/MisesEnPage.h"
 #include "generator/Portraits.h"
 #include "platform/dao/BaseBuilder.h"
 #include "platform/dao/Database.h"
@@ -58,6 +59,10 @@ int main(int argc, char** argv) {
             throw VbError(76);
         const QString modèle = dossier.filePath(u"basevide.mdz"_s);
         create_base(modèle, scripts_modèle());
+        bool mises_en_page_écrites = true;
+        écrire_mises_en_page(dossier.path(), &mises_en_page_écrites);
+        if (!mises_en_page_écrites)
+            throw VbError(75);
         const QString exemple = dossier.filePath(u"exemple.mdb"_s);
         if (!QFile::exists(exemple))
             écrire_exemple(modèle, exemple);

@@ -4,8 +4,10 @@
 #include "people/feuille_famille.h"
 #include "platform/forms/EtiquetteElidee.h"
 #include "platform/forms/TouchesAcces.h"
+#include "platform/report/ReportJob.h"
 #include "platform/ui/ErrorBoxes.h"
 #include "platform/ui/Relier.h"
+#include "reports/feuille_traitements.h"
 #include "shell/commandes.h"
 #include "shell/feuille_options.h"
 #include "shell/options.h"
@@ -172,12 +174,13 @@ template <class F> void montrer_avec_le_focus() {
 const ÉcranAprèsOuverture écrans_après_ouverture[] = {
     {&feuille_options::Check1, montrer_avec_le_focus<feuille_famille>},
     {&feuille_options::Check2, montrer_avec_le_focus<feuille_élève>},
-    {&feuille_options::Check4, nullptr}, // feuille_traitements
+    {&feuille_options::Check4, montrer_avec_le_focus<feuille_traitements>},
 };
 
 } // namespace
 
-MDIForm1::MDIForm1() : Feuille(u"MDIForm1"_s, Genre::haut_niveau) {
+MDIForm1::MDIForm1()
+    : Feuille(u"MDIForm1"_s, Genre::haut_niveau), CrystalReport1_(std::make_unique<ReportJob>()) {
     setWindowTitle(u"Norvane - version 2"_s);
     fenêtre = new QMainWindow(this);
     fenêtre->setWindowFlags(Qt::Widget);

@@ -8,6 +8,7 @@
 #include <memory>
 
 class QAction;
+class ReportJob;
 class QLabel;
 class QMainWindow;
 class QMdiArea;
@@ -36,6 +37,7 @@ public:
     void désactiver_menus();
     void activer_menus() override;
     void montrer_écrans_après_ouverture() override;
+    ReportJob& CrystalReport1() override { return *CrystalReport1_; }
 
     void Form_Load() override; // MDIForm_Load
     void Form_QueryUnload(int& cancel) override;
@@ -56,6 +58,7 @@ public:
     std::unique_ptr<QFile> fichier_passerelle_resté_ouvert;
 
 private:
+    std::unique_ptr<ReportJob> CrystalReport1_;
     void construire_menus();
     void construire_barre_d_état();
     void mettre_à_jour_l_heure();

@@ -22,6 +22,7 @@
 #include "reference/feuille_situations_familiales.h"
 #include "reference/feuille_villes.h"
 #include "reports/feuille_documents.h"
+#include "reports/feuille_traitements.h"
 #include "shell/MDIForm1.h"
 #include "shell/feuille_copyright.h"
 #include "shell/regle_de_preparation.h"
@@ -29,6 +30,13 @@
 #include "store/ouvrir_table.h"
 
 namespace {
+
+// Shows a screen, loading it first if need be, and brings it to the front.
+template <class F> void montrer_devant(MDIForm1&) {
+    F& écran = feuilles().get<F>();
+    écran.Show();
+    écran.ZOrder();
+}
 
 // A command of the main window itself.
 Commande propre(void (MDIForm1::*handler)()) {
@@ -46,7 +54,7 @@ const std::vector<LigneDeCommande>& carte_des_commandes() {
         {"menufichierindex2", propre(&MDIForm1::menufichierindex2_Click)},
         {"menuenfantsindex2", préparer<feuille_famille>(&ouvrir_table_familles, &étapes_en_plus_familles)},
         {"menuenfantsindex1", préparer<feuille_élève>(&ouvrir_table_élèves, &étapes_en_plus_élèves)},
-        {"menuexploitationindex3", {}}, // feuille_traitements
+        {"menuexploitationindex3", montrer_devant<feuille_traitements>},
         {"menuexploitationindex4", {}}, // spreadsheet export
         {"menuparamètresindex1", préparer<feuille_inspection>(ouvrir_table_inspection)},
         {"menuparamètresindex2", préparer<feuille_école>(ouvrir_table_école)},

@@ -22,6 +22,7 @@
 #include "reference/feuille_situations_familiales.h"
 #include "reference/feuille_villes.h"
 #include "reports/feuille_documents.h"
+#include "reports/feuille_traitements.h"
 #include "shell/MDIForm1.h"
 #include "shell/feuille_patientez.h"
 
@@ -37,6 +38,8 @@ void faire_connaître_les_écrans() {
     registre.faireConnaître<feuille_équipe>(u"feuille_équipe"_s);
     registre.faireConnaître<feuille_école>(u"feuille_école"_s);
     registre.faireConnaître<feuille_inspection>(u"feuille_inspection"_s);
+    // The treatments screen, whose fields restrict the reports and the spreadsheet export.
+    registre.faireConnaître<feuille_traitements>(u"feuille_traitements"_s);
     // The screens of the ouvrir_table_<table> family.
     registre.faireConnaître<feuille_documents>(u"feuille_documents"_s);
     registre.faireConnaître<feuille_paramètres>(u"feuille_paramètres"_s);

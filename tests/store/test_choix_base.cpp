@@ -303,7 +303,7 @@ TEST_F(ChoixDeLaBase, LaBoîteDuCodeClignoteEtMasqueLaSaisie) {
 // its two other data sources stay as the screen stores them.
 TEST_F(ChoixDeLaBase, LOptionDesÉlèvesMontreLÉcranDesÉlèvesSurLaBaseOuverte) {
     const QString base = copie_du_modèle(folder);
-    préparer_options("1\r\n1\r\n1\r\n1\r\n" + ligne_de_base(base));
+    préparer_options("1\r\n1\r\n1\r\n0\r\n" + ligne_de_base(base));
     démarrer_par_clic();
     EXPECT_TRUE(ui().boxes().empty());
     EXPECT_TRUE(menus_de_données_actifs());

@@ -1,0 +1,608 @@
+#include "platform/report/Composer.h"
+
+#include "platform/report/ReportData.h"
+#include "platform/report/ReportErrors.h"
+#include "platform/report/Template.h"
+
+#include <QDate>
+#include <QFont>
+#include <QFontMetricsF>
+#include <QImage>
+#include <algorithm>
+#include <map>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double mm_per_point = 25.4 / 72.0;
+const QColor heading_fill(0xe4, 0xe9, 0xf0);
+const QColor stripe_fill(0xf4, 0xf6, 0xf9);
+
+// Every text of a layout, so that the fields they use are read with the rows.
+QStringList fieldsOf(const Layout& l) {
+    QStringList texts{l.groupHeader, l.groupFooter};
+    for (const QString& t : l.header)
+        texts << t;
+    for (const QString& t : l.footer)
+        texts << t;
+    for (const LayoutColumn& c : l.columns)
+        texts << c.content;
+    texts << l.labelLines;
+    for (const SheetElement& e : l.elements)
+        texts << e.content;
+    QStringList fields;
+    for (const QString& t : texts)
+        fields << Template::fieldsOf(t);
+    for (const SortKey& k : l.sort)
+        fields << k.field;
+    fields.removeDuplicates();
+    return fields;
+}
+
+// What every kind shares: the rows, the page's frame, its header and footer.
+class Composed : public RenderedReport {
+public:
+    Composed(const Layout& layout, std::shared_ptr<ReportData> data, std::map<QString, QString> formulas,
+             QString today)
+        : layout_(layout), data_(std::move(data)), formulas_(std::move(formulas)), today_(std::move(today)) {
+        title = layout.title;
+        pageLayout = layout.pageLayout();
+        paper_ = pageLayout.fullRect(QPageLayout::Millimeter);
+        content_ = paper_.marginsRemoved(layout.margins);
+        for (int i = 0; i < 3; ++i) {
+            header_[i] = compile(layout.header[i]);
+            footer_[i] = compile(layout.footer[i]);
+        }
+        const double band = lineHeight(layout.fontSize - 1) + 2;
+        const bool hasHeader = std::any_of(std::begin(header_), std::end(header_),
+                                           [](const Template& t) { return !t.isEmpty(); });
+        const bool hasFooter = std::any_of(std::begin(footer_), std::end(footer_),
+                                           [](const Template& t) { return !t.isEmpty(); });
+        body_ = content_.adjusted(0, hasHeader ? band + 2 : 0, 0, hasFooter ? -(band + 2) : 0);
+    }
+
+protected:
+    Template compile(const QString& text) const {
+        return Template(text, *data_, formulas_, layout_.title, today_);
+    }
+
+    FontSpec font(double size = 0, bool bold = false, bool italic = false) const {
+        return {layout_.fontFamilies, size > 0 ? size : layout_.fontSize, bold, italic};
+    }
+    static double lineHeight(double points) { return points * mm_per_point * 1.45; }
+
+    static TextElement text(const QRectF& rect, const QString& s, const FontSpec& f,
+                            Qt::Alignment align = Qt::AlignLeft) {
+        return {rect, s, f, align | Qt::AlignVCenter, false};
+    }
+
+    void addBands(ReportPage& page, int index, int row = -1) const {
+        const Template::Counters counters{index + 1, pageCount(), 0, 0, data_->rowCount()};
+        const double h = lineHeight(layout_.fontSize - 1);
+        const Qt::Alignment aligns[3] = {Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight};
+        const bool header = body_.top() > content_.top(), footer = body_.bottom() < content_.bottom();
+        for (int i = 0; i < 3; ++i) {
+            if (header && !header_[i].isEmpty())
+                page.elements.push_back(text(QRectF(content_.left(), content_.top(), content_.width(), h),
+                                             header_[i].render(row, counters),
+                                             font(layout_.fontSize - 1, i == 0), aligns[i]));
+            if (footer && !footer_[i].isEmpty())
+                page.elements.push_back(
+                    text(QRectF(content_.left(), content_.bottom() - h, content_.width(), h),
+                         footer_[i].render(row, counters), font(layout_.fontSize - 1), aligns[i]));
+        }
+        if (header)
+            page.elements.push_back(LineElement{
+                QLineF(content_.left(), content_.top() + h + 1, content_.right(), content_.top() + h + 1),
+                0.3});
+        if (footer)
+            page.elements.push_back(LineElement{QLineF(content_.left(), content_.bottom() - h - 1,
+                                                       content_.right(), content_.bottom() - h - 1),
+                                                0.3});
+    }
+
+    Layout layout_;
+    std::shared_ptr<ReportData> data_;
+    std::map<QString, QString> formulas_;
+    QString today_;
+    Template header_[3], footer_[3];
+    QRectF paper_, content_, body_;
+};
+
+// A table of rows, grouped or not: the group's heading, the columns' headings, the rows, the group's
+// footer. A group that goes on over a page shows its heading again, marked "(suite)".
+class ListReport : public Composed {
+public:
+    ListReport(const Layout& layout, std::shared_ptr<ReportData> data, std::map<QString, QString> formulas,
+               QString today)
+        : Composed(layout, std::move(data), std::move(formulas), std::move(today)) {
+        groupHeader_ = compile(layout.groupHeader);
+        groupFooter_ = compile(layout.groupFooter);
+        double total = 0;
+        for (const LayoutColumn& c : layout.columns) {
+            cells_.push_back(compile(c.content));
+            total += c.width;
+        }
+        // The widths are shares of the page's width.
+        double x = body_.left();
+        for (const LayoutColumn& c : layout.columns) {
+            const double w =
+                total > 0 ? c.width * body_.width() / total : body_.width() / layout.columns.size();
+            columnX_.push_back({x, w});
+            x += w;
+        }
+        row_ = layout.rowHeight;
+        groupHeight_ = groupHeader_.isEmpty() ? 0 : lineHeight(layout.fontSize + 2) + 3;
+        footHeight_ = groupFooter_.isEmpty() ? 0 : row_ + 2;
+        makeBlocks();
+        paginate();
+    }
+
+    int pageCount() const override { return std::max<int>(1, static_cast<int>(pages_.size())); }
+
+    ReportPage page(int index) const override {
+        ReportPage page;
+        addBands(page, index, blocks_.empty() ? -1 : blocks_[pages_[index]].row);
+        if (blocks_.empty())
+            return page;
+        const size_t first = pages_[index];
+        const size_t last = index + 1 < static_cast<int>(pages_.size()) ? pages_[index + 1] : blocks_.size();
+        double y = body_.top();
+        if (blocks_[first].kind != Block::Head)
+            y = drawHead(page, blocks_[first], y, true);
+        for (size_t i = first; i < last; ++i) {
+            const Block& b = blocks_[i];
+            if (b.kind == Block::Head)
+                y = drawHead(page, b, y + (i == first ? 0 : groupGap()), false);
+            else if (b.kind == Block::Row)
+                y = drawRow(page, b, y);
+            else
+                y = drawFoot(page, b, y);
+        }
+        return page;
+    }
+
+    ReportSheet sheet() const override {
+        ReportSheet s{layout_.title, {}};
+        std::vector<QVariant> headings;
+        if (!groupHeader_.isEmpty())
+            headings.push_back(u"Groupe"_s);
+        for (const LayoutColumn& c : layout_.columns)
+            headings.push_back(c.heading);
+        s.rows.push_back(headings);
+        for (const Block& b : blocks_) {
+            if (b.kind != Block::Row)
+                continue;
+            std::vector<QVariant> cells;
+            const Template::Counters counters = countersOf(b);
+            if (!groupHeader_.isEmpty())
+                cells.push_back(groupHeader_.render(b.row, counters));
+            for (const Template& t : cells_)
+                cells.push_back(cell(t, b.row, counters));
+            s.rows.push_back(std::move(cells));
+        }
+        return s;
+    }
+
+private:
+    struct Block {
+        enum Kind { Head, Row, Foot } kind;
+        int row;
+        int number; // in the group
+        int count;  // rows of the group
+    };
+
+    double groupGap() const { return groupHeight_ > 0 ? 4 : 0; }
+    double headHeight() const { return groupHeight_ + row_; }
+
+    Template::Counters countersOf(const Block& b) const {
+        return {0, 0, b.number, b.count, data_->rowCount()};
+    }
+
+    QVariant cell(const Template& t, int row, const Template::Counters& counters) const {
+        const QString shown = t.render(row, counters);
+        if (t.isSoleNumber())
+            return QVariant(qlonglong(shown.toLongLong()));
+        const int column = t.soleColumn();
+        if (column >= 0 && data_->typeOf(column) == FieldType::Date && !shown.isEmpty())
+            return QDate::fromString(shown, u"dd/MM/yyyy"_s);
+        return shown;
+    }
+
+    void makeBlocks() {
+        const int group = layout_.group.isEmpty() ? -1 : data_->columnOf(layout_.group);
+        const int n = data_->rowCount();
+        int start = 0;
+        while (start < n) {
+            int end = start + 1;
+            if (group >= 0)
+                while (end < n && data_->value(end, group) == data_->value(start, group))
+                    ++end;
+            else
+                end = n;
+            const int count = end - start;
+            blocks_.push_back({Block::Head, start, 0, count});
+            for (int r = start; r < end; ++r)
+                blocks_.push_back({Block::Row, r, r - start + 1, count});
+            if (footHeight_ > 0)
+                blocks_.push_back({Block::Foot, end - 1, count, count});
+            start = end;
+        }
+    }
+
+    void paginate() {
+        double y = body_.top();
+        bool empty = true;
+        for (size_t i = 0; i < blocks_.size(); ++i) {
+            const Block& b = blocks_[i];
+            double need = b.kind == Block::Head  ? headHeight() + row_ + (empty ? 0 : groupGap())
+                          : b.kind == Block::Row ? row_
+                                                 : footHeight_;
+            const bool breakHere = b.kind == Block::Head && layout_.pageBreakPerGroup && i > 0;
+            if (pages_.empty() || breakHere || (!empty && y + need > body_.bottom() + 0.01)) {
+                pages_.push_back(i);
+                y = body_.top() + (b.kind == Block::Head ? 0 : headHeight());
+                empty = true;
+                need = b.kind == Block::Head ? headHeight() : need;
+            }
+            y += b.kind == Block::Head ? headHeight() + (empty ? 0 : groupGap()) : need;
+            empty = false;
+        }
+    }
+
+    double drawHead(ReportPage& page, const Block& b, double y, bool continued) const {
+        if (groupHeight_ > 0) {
+            QString heading = groupHeader_.render(b.row, countersOf(b));
+            if (continued)
+                heading += u" (suite)"_s;
+            page.elements.push_back(text(QRectF(body_.left(), y, body_.width(), groupHeight_ - 1), heading,
+                                         font(layout_.fontSize + 2, true)));
+            y += groupHeight_;
+        }
+        page.elements.push_back(BoxElement{QRectF(body_.left(), y, body_.width(), row_), 0, heading_fill});
+        for (size_t c = 0; c < columnX_.size(); ++c)
+            page.elements.push_back(
+                text(cellRect(c, y), layout_.columns[c].heading, font(0, true), layout_.columns[c].align));
+        page.elements.push_back(LineElement{QLineF(body_.left(), y + row_, body_.right(), y + row_), 0.3});
+        return y + row_;
+    }
+
+    double drawRow(ReportPage& page, const Block& b, double y) const {
+        if (b.number % 2 == 0)
+            page.elements.push_back(BoxElement{QRectF(body_.left(), y, body_.width(), row_), 0, stripe_fill});
+        const Template::Counters counters = countersOf(b);
+        for (size_t c = 0; c < columnX_.size(); ++c)
+            page.elements.push_back(
+                text(cellRect(c, y), cells_[c].render(b.row, counters), font(), layout_.columns[c].align));
+        return y + row_;
+    }
+
+    double drawFoot(ReportPage& page, const Block& b, double y) const {
+        page.elements.push_back(LineElement{QLineF(body_.left(), y, body_.right(), y), 0.3});
+        page.elements.push_back(text(QRectF(body_.left(), y + 1, body_.width() - 1.5, row_),
+                                     groupFooter_.render(b.row, countersOf(b)), font(0, false, true),
+                                     Qt::AlignRight));
+        return y + footHeight_;
+    }
+
+    QRectF cellRect(size_t c, double y) const {
+        const double pad = 1.5;
+        return QRectF(columnX_[c].first + pad, y, columnX_[c].second - 2 * pad, row_);
+    }
+
+    Template groupHeader_, groupFooter_;
+    std::vector<Template> cells_;
+    std::vector<std::pair<double, double>> columnX_;
+    double row_ = 6, groupHeight_ = 0, footHeight_ = 0;
+    std::vector<Block> blocks_;
+    std::vector<size_t> pages_; // first block of each page
+};
+
+// The selected rows counted by the values of one field: a table of counts and shares, and a chart.
+class StatisticReport : public Composed {
+public:
+    StatisticReport(const Layout& layout, std::shared_ptr<ReportData> data,
+                    std::map<QString, QString> formulas, QString today)
+        : Composed(layout, std::move(data), std::move(formulas), std::move(today)) {
+        const int column = data_->columnOf(layout.countField);
+        std::map<QString, int> index;
+        int empty = 0;
+        for (int r = 0; r < data_->rowCount(); ++r) {
+            const QString& v = data_->value(r, column);
+            if (v.isEmpty()) {
+                ++empty;
+                continue;
+            }
+            const auto [it, added] = index.try_emplace(v, static_cast<int>(counts_.size()));
+            if (added)
+                counts_.push_back({v, 0});
+            ++counts_[it->second].second;
+        }
+        if (empty > 0)
+            counts_.push_back({layout.emptyValue, empty});
+        total_ = data_->rowCount();
+    }
+
+    const std::vector<std::pair<QString, int>>& counts() const { return counts_; }
+
+    int pageCount() const override { return 1 + static_cast<int>(overflowPages()); }
+
+    ReportPage page(int index) const override {
+        ReportPage page;
+        addBands(page, index);
+        double y = body_.top();
+        if (index == 0) {
+            page.elements.push_back(text(QRectF(body_.left(), y, body_.width(), 10), layout_.title,
+                                         font(layout_.fontSize + 6, true), Qt::AlignHCenter));
+            y += 11;
+            page.elements.push_back(text(QRectF(body_.left(), y, body_.width(), 6),
+                                         u"Élèves retenus : %1"_s.arg(total_), font(0, false, true),
+                                         Qt::AlignHCenter));
+            y += 10;
+        }
+        const auto [first, last] = rowsOf(index);
+        y = drawTable(page, y, first, last, last == static_cast<int>(counts_.size()));
+        if (index == pageCount() - 1 && layout_.chart != Layout::Chart::None && total_ > 0) {
+            ChartElement chart;
+            chart.pie = layout_.chart == Layout::Chart::Pie;
+            chart.font = font();
+            chart.title = QString(); // the page has the title above it
+            for (const auto& [label, n] : counts_) {
+                chart.categories << label;
+                chart.values.push_back(n);
+            }
+            const double top = y + 8;
+            chart.rect = QRectF(body_.left(), top, body_.width(),
+                                std::max(60.0, std::min(120.0, body_.bottom() - top)));
+            page.elements.push_back(chart);
+        }
+        return page;
+    }
+
+    ReportSheet sheet() const override {
+        ReportSheet s{layout_.title, {}};
+        s.rows.push_back({layout_.countHeading, u"Nombre"_s, u"Part (%)"_s});
+        for (const auto& [label, n] : counts_)
+            s.rows.push_back({label, qlonglong(n), share(n)});
+        s.rows.push_back({u"Total"_s, qlonglong(total_), total_ > 0 ? 100.0 : 0.0});
+        return s;
+    }
+
+private:
+    double share(int n) const { return total_ > 0 ? std::round(1000.0 * n / total_) / 10.0 : 0.0; }
+    double tableWidth() const { return std::min(body_.width(), 140.0); }
+    // Rows of counts a page holds; the first page keeps room for its title and the chart its last.
+    int rowsOnFirstPage() const {
+        return std::max(1, static_cast<int>((body_.height() - 21 - 2 * row_ - 70) / row_));
+    }
+    int rowsOnOtherPages() const {
+        return std::max(1, static_cast<int>((body_.height() - 2 * row_ - 70) / row_));
+    }
+    size_t overflowPages() const {
+        const int rest = static_cast<int>(counts_.size()) - rowsOnFirstPage();
+        return rest <= 0 ? 0 : (rest + rowsOnOtherPages() - 1) / rowsOnOtherPages();
+    }
+    std::pair<int, int> rowsOf(int index) const {
+        const int n = static_cast<int>(counts_.size());
+        if (index == 0)
+            return {0, std::min(n, rowsOnFirstPage())};
+        const int first = rowsOnFirstPage() + (index - 1) * rowsOnOtherPages();
+        return {std::min(n, first), std::min(n, first + rowsOnOtherPages())};
+    }
+
+    double drawTable(ReportPage& page, double y, int first, int last, bool withTotal) const {
+        const double w = tableWidth(), left = body_.left() + (body_.width() - w) / 2;
+        const double widths[3] = {w * 0.56, w * 0.22, w * 0.22};
+        const Qt::Alignment aligns[3] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignRight};
+        auto line = [&](const QString(&cells)[3], bool bold, const QColor& fill) {
+            if (fill != Qt::transparent)
+                page.elements.push_back(BoxElement{QRectF(left, y, w, row_), 0, fill});
+            double x = left;
+            for (int c = 0; c < 3; ++c) {
+                page.elements.push_back(
+                    text(QRectF(x + 2, y, widths[c] - 4, row_), cells[c], font(0, bold), aligns[c]));
+                x += widths[c];
+            }
+            y += row_;
+        };
+        const QString headings[3] = {layout_.countHeading, u"Nombre"_s, u"Part"_s};
+        const double top = y;
+        line(headings, true, heading_fill);
+        for (int i = first; i < last; ++i) {
+            const QString cells[3] = {counts_[i].first, QString::number(counts_[i].second),
+                                      percent(counts_[i].second)};
+            line(cells, false, i % 2 ? stripe_fill : QColor(Qt::transparent));
+        }
+        if (withTotal) {
+            page.elements.push_back(LineElement{QLineF(left, y, left + w, y), 0.3});
+            const QString cells[3] = {u"Total"_s, QString::number(total_),
+                                      total_ > 0 ? u"100 %"_s : u"0 %"_s};
+            line(cells, true, Qt::transparent);
+        }
+        page.elements.push_back(BoxElement{QRectF(left, top, w, y - top), 0.3});
+        return y;
+    }
+
+    QString percent(int n) const { return QLocale(QLocale::French).toString(share(n), 'f', 1) + u" %"_s; }
+
+    std::vector<std::pair<QString, int>> counts_;
+    int total_ = 0;
+    double row_ = 7;
+};
+
+// An A4 sheet of address labels, placed as the label paper has them, one label a row.
+class LabelReport : public Composed {
+public:
+    LabelReport(const Layout& layout, std::shared_ptr<ReportData> data, std::map<QString, QString> formulas,
+                QString today)
+        : Composed(layout, std::move(data), std::move(formulas), std::move(today)) {
+        for (const QString& l : layout.labelLines)
+            lines_.push_back(compile(l));
+    }
+
+    int perPage() const { return layout_.labelColumns * layout_.labelRows; }
+    int pageCount() const override { return std::max(1, (data_->rowCount() + perPage() - 1) / perPage()); }
+
+    ReportPage page(int index) const override {
+        ReportPage page;
+        const int first = index * perPage(), last = std::min(data_->rowCount(), first + perPage());
+        const double h = lineHeight(layout_.fontSize);
+        for (int row = first; row < last; ++row) {
+            const int slot = row - first;
+            const QRectF label(content_.left() + (slot % layout_.labelColumns) * layout_.labelWidth,
+                               content_.top() + (slot / layout_.labelColumns) * layout_.labelHeight,
+                               layout_.labelWidth, layout_.labelHeight);
+            const QRectF inside = label.adjusted(layout_.labelPadding, layout_.labelPadding,
+                                                 -layout_.labelPadding, -layout_.labelPadding);
+            const QStringList texts = linesOf(row);
+            double y = inside.top() + std::max(0.0, (inside.height() - h * texts.size()) / 2);
+            for (int i = 0; i < texts.size(); ++i, y += h)
+                page.elements.push_back(
+                    text(QRectF(inside.left(), y, inside.width(), h), texts[i], font(0, i == 0)));
+        }
+        return page;
+    }
+
+    ReportSheet sheet() const override {
+        ReportSheet s{layout_.title, {}};
+        std::vector<QVariant> headings;
+        for (int i = 0; i < lines_.size(); ++i)
+            headings.push_back(u"Ligne %1"_s.arg(i + 1));
+        s.rows.push_back(headings);
+        for (int row = 0; row < data_->rowCount(); ++row) {
+            std::vector<QVariant> cells;
+            for (const QString& t : linesOf(row))
+                cells.push_back(t);
+            s.rows.push_back(std::move(cells));
+        }
+        return s;
+    }
+
+private:
+    // A line left empty (no second address component) takes no room.
+    QStringList linesOf(int row) const {
+        QStringList texts;
+        for (const Template& t : lines_) {
+            const QString s = t.render(row).simplified();
+            if (!s.isEmpty())
+                texts << s;
+        }
+        return texts;
+    }
+
+    QList<Template> lines_;
+};
+
+// A sheet of placed texts, boxes and lines: one page a row, or a single page when it reads no table.
+class SheetReport : public Composed {
+public:
+    SheetReport(const Layout& layout, std::shared_ptr<ReportData> data, std::map<QString, QString> formulas,
+                QString today)
+        : Composed(layout, std::move(data), std::move(formulas), std::move(today)) {
+        for (const SheetElement& e : layout.elements)
+            contents_.push_back(compile(e.content));
+    }
+
+    int pageCount() const override { return layout_.table.isEmpty() ? 1 : std::max(1, data_->rowCount()); }
+
+    ReportPage page(int index) const override {
+        ReportPage page;
+        const int row = layout_.table.isEmpty() || data_->rowCount() == 0 ? -1 : index;
+        addBands(page, index, row);
+        const QPointF origin = body_.topLeft();
+        for (size_t i = 0; i < layout_.elements.size(); ++i) {
+            const SheetElement& e = layout_.elements[i];
+            switch (e.kind) {
+            case SheetElement::Kind::Text: {
+                const FontSpec f = font(e.style.size, e.style.bold, e.style.italic);
+                page.elements.push_back(TextElement{
+                    e.rect.translated(origin), contents_[i].render(row), f,
+                    e.style.align | (e.style.wrap ? Qt::AlignTop : Qt::AlignVCenter), e.style.wrap});
+                break;
+            }
+            case SheetElement::Kind::Box:
+                page.elements.push_back(BoxElement{e.rect.translated(origin), 0.3});
+                break;
+            case SheetElement::Kind::Line:
+                page.elements.push_back(LineElement{e.line.translated(origin), 0.3});
+                break;
+            case SheetElement::Kind::Field:
+                addField(page, e, contents_[i].render(row), origin);
+                break;
+            }
+        }
+        return page;
+    }
+
+    ReportSheet sheet() const override {
+        ReportSheet s{layout_.title, {}};
+        for (int p = 0; p < pageCount(); ++p) {
+            const int row = layout_.table.isEmpty() || data_->rowCount() == 0 ? -1 : p;
+            for (size_t i = 0; i < layout_.elements.size(); ++i) {
+                const SheetElement& e = layout_.elements[i];
+                if (e.kind == SheetElement::Kind::Field)
+                    s.rows.push_back({e.caption, contents_[i].render(row)});
+                else if (e.kind == SheetElement::Kind::Text)
+                    s.rows.push_back({contents_[i].render(row)});
+            }
+        }
+        return s;
+    }
+
+private:
+    // A caption, then the value on a dotted line, or the dotted line alone to be filled by hand.
+    void addField(ReportPage& page, const SheetElement& e, const QString& value, QPointF origin) const {
+        const double h = lineHeight(layout_.fontSize) + 1.5;
+        const QRectF r = QRectF(e.rect.left(), e.rect.top(), e.rect.width(), h).translated(origin);
+        const FontSpec f = font();
+        const double captionWidth = textWidth(f, e.caption + u" :"_s) + 2;
+        page.elements.push_back(text(QRectF(r.left(), r.top(), captionWidth, h), e.caption + u" :"_s, f));
+        const double baseline = r.bottom() - 1;
+        page.elements.push_back(
+            LineElement{QLineF(r.left() + captionWidth, baseline, r.right(), baseline), 0.2, true});
+        if (!value.isEmpty())
+            page.elements.push_back(
+                text(QRectF(r.left() + captionWidth + 1, r.top(), r.width() - captionWidth - 1, h - 1.2),
+                     value, font(0, true)));
+    }
+
+    std::vector<Template> contents_;
+};
+
+} // namespace
+
+double textWidth(const FontSpec& spec, const QString& text) {
+    // A device of ten dots a millimetre.
+    static const QImage device = [] {
+        QImage image(1, 1, QImage::Format_RGB32);
+        image.setDotsPerMeterX(10000);
+        image.setDotsPerMeterY(10000);
+        return image;
+    }();
+    QFont f;
+    f.setFamilies(spec.families);
+    f.setPointSizeF(spec.size);
+    f.setBold(spec.bold);
+    f.setItalic(spec.italic);
+    return QFontMetricsF(f, &device).horizontalAdvance(text) / 10.0;
+}
+
+std::unique_ptr<RenderedReport> composeReport(const Layout& layout, const QString& databasePath,
+                                              const QString& selection,
+                                              const std::map<QString, QString>& formulas,
+                                              const QString& today) {
+    auto data =
+        std::make_shared<ReportData>(ReportData::load(layout, databasePath, selection, fieldsOf(layout)));
+    switch (layout.kind) {
+    case Layout::Kind::List:
+        return std::make_unique<ListReport>(layout, data, formulas, today);
+    case Layout::Kind::Statistic:
+        return std::make_unique<StatisticReport>(layout, data, formulas, today);
+    case Layout::Kind::Labels:
+        return std::make_unique<LabelReport>(layout, data, formulas, today);
+    case Layout::Kind::Sheet:
+        break;
+    }
+    return std::make_unique<SheetReport>(layout, data, formulas, today);
+}
