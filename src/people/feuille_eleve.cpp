@@ -180,6 +180,7 @@ void feuille_élève::brancher_handlers() {
     QObject::connect(Command15, &QPushButton::clicked, this, [this] { Command15_Click(); });
     relier(chemin_photo, &QLineEdit::textChanged, this, [this] { chemin_photo_Change(); });
     relier(Command14, &QPushButton::clicked, this, [this] { Command14_Click(); });
+    relier(documents_suite, &QPushButton::clicked, this, [this] { documents_suite_Click(); });
     surDblClick(photo, [this] { Command14_Click(); });
     QObject::connect(Command6, &QPushButton::clicked, this, [this] { Command6_Click(); });
     brancher_consultations(*this);

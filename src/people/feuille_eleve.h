@@ -2,6 +2,7 @@
 
 #include "platform/forms/FeuilleFiche.h"
 #include "platform/forms/FieldRows.h"
+#include "reports/lettre.h"
 
 #include <array>
 #include <span>
@@ -139,6 +140,11 @@ public:
     // The family's address becomes the pupil's residence.
     void Command16_Click();
     void Command15_Click();
+    // "Imprimer le document sélectionné": the letter of the template picked in the list for this pupil,
+    // previewed, or printed straight when Check1 is ticked.
+    void documents_suite_Click();
+    // The pupil's part of a letter, as the screen shows it.
+    ÉlèveDeLaLettre élève_de_la_lettre() const;
     // The photo of the record, reloaded at each change of its path: by a move or by the picker.
     void chemin_photo_Change();
     // "photo" and a double click on the picture: the picker, not modal.

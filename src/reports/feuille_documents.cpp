@@ -2,8 +2,16 @@
 
 #include "platform/forms/DataControl.h"
 #include "platform/forms/Placement.h"
+#include "platform/report/ReportJob.h"
+#include "platform/ui/ErrorBoxes.h"
+#include "reports/etat.h"
+#include "reports/lettre.h"
+#include "store/Module1.h"
 
+#include <QCheckBox>
 #include <QGridLayout>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
@@ -95,5 +103,45 @@ void feuille_documents::construire() {
                       Qt::AlignRight);
 }
 
-// The preview of the template with sample values through the report job; inert on this screen.
-void feuille_documents::Command2_Click() {}
+ModèleDeLettre feuille_documents::modèle() const {
+    ModèleDeLettre m;
+    m.titre = titre->text();
+    m.destinataire = destinataire->text();
+    const QPlainTextEdit* paragraphes[] = {paragraphe1, paragraphe2, paragraphe3,
+                                           paragraphe4, paragraphe5, paragraphe6};
+    for (std::size_t i = 0; i < m.paragraphes.size(); ++i)
+        m.paragraphes[i] = paragraphes[i]->toPlainText();
+    m.politesse = politesse->text();
+    m.post_scriptum = post_scriptum->text();
+    m.coordonnées_élève = Check1->isChecked();
+    m.coordonnées_directeur = Check3->isChecked();
+    m.signature = Check4->isChecked();
+    m.date = Check5->isChecked();
+    return m;
+}
+
+// Needs no pupil, family or school: the sample values stand in for them.
+void feuille_documents::Command2_Click() {
+    avec_piège(
+        ErrorBoxKind::données,
+        [this] {
+            ReportJob& job = CrystalReport1();
+            job.ReportFileName = module1().chemin_application + u"document.rpt"_s;
+            job.DataFiles(0) = module1().base_en_cours;
+            // Back on the row last written, which carries a pending edit into its row; a screen where
+            // nothing was written yet stays where it is rather than failing on the missing row.
+            DataRecordset& rs = datPrimaryRS->Recordset();
+            QByteArray dernière;
+            en_silence([&] { dernière = rs.LastModified(); });
+            if (!dernière.isEmpty())
+                rs.setBookmark(dernière);
+            const auto formules = formules_de_l_aperçu(modèle(), module1().horloge().aujourdhui());
+            for (int i = 0; i < static_cast<int>(formules.size()); ++i)
+                job.Formulas(i) = formules[i];
+            job.SelectionFormula = u"{documents.intitulé_bouton} = \""_s + intitulé->text() + u"\""_s;
+            job.Destination = ReportJob::toWindow;
+            job.WindowState = ReportJob::maximised;
+            job.setAction(1);
+        },
+        [] { module1().interaction().setMousePointer(vbDefault); });
+}

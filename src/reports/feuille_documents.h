@@ -5,6 +5,8 @@
 
 // The letter templates: one row of `documents` a template, its free text and the five check boxes
 // that say which blocks surround the letter.
+struct ModèleDeLettre;
+
 class feuille_documents : public FeuilleFiche {
     Q_OBJECT
 public:
@@ -31,8 +33,11 @@ public:
     QCheckBox* Check5 = nullptr;
     QPushButton* Command2 = nullptr;
 
-    // "V&oir": the preview of the template with sample values.
+    // "V&oir": the preview of the template with sample values, on the row last written; a failure shows
+    // the data error box.
     void Command2_Click();
+    // The template as the screen shows it, edits not yet saved included.
+    ModèleDeLettre modèle() const;
 
 private:
     void construire();

@@ -9,6 +9,9 @@
 #include <gtest/gtest.h>
 #include <memory>
 
+// A text as a failed expectation shows it: readable, not as code units.
+void PrintTo(const QString& text, std::ostream* os);
+
 // A test's texts, written as UTF-8 literals.
 inline QString u(const char* utf8) {
     return QString::fromUtf8(utf8);

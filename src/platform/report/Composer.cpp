@@ -511,6 +511,8 @@ public:
         const int row = layout_.table.isEmpty() || data_->rowCount() == 0 ? -1 : index;
         addBands(page, index, row);
         const QPointF origin = body_.topLeft();
+        QRectF chain; // where the next flowing text of the current chain goes
+        bool chainStarted = false;
         for (size_t i = 0; i < layout_.elements.size(); ++i) {
             const SheetElement& e = layout_.elements[i];
             switch (e.kind) {
@@ -530,6 +532,13 @@ public:
             case SheetElement::Kind::Field:
                 addField(page, e, contents_[i].render(row), origin);
                 break;
+            case SheetElement::Kind::FlowStart:
+                chain = e.rect;
+                chainStarted = false;
+                break;
+            case SheetElement::Kind::Flow:
+                addFlow(page, e, contents_[i].render(row), origin, chain, chainStarted);
+                break;
             }
         }
         return page;
@@ -543,7 +552,7 @@ public:
                 const SheetElement& e = layout_.elements[i];
                 if (e.kind == SheetElement::Kind::Field)
                     s.rows.push_back({e.caption, contents_[i].render(row)});
-                else if (e.kind == SheetElement::Kind::Text)
+                else if (e.kind == SheetElement::Kind::Text || e.kind == SheetElement::Kind::Flow)
                     s.rows.push_back({contents_[i].render(row)});
             }
         }
@@ -551,6 +560,23 @@ public:
     }
 
 private:
+    // A flowing text below the previous one of its chain, wrapped to the chain's width and as tall as
+    // its lines; an empty one leaves neither a line nor a gap.
+    void addFlow(ReportPage& page, const SheetElement& e, const QString& value, QPointF origin, QRectF& chain,
+                 bool& started) const {
+        if (value.isEmpty())
+            return;
+        if (started)
+            chain.moveTop(chain.top() + e.spaceAbove);
+        const FontSpec f = font(e.style.size, e.style.bold, e.style.italic);
+        const double height = textHeight(f, value, chain.width()) + 0.5;
+        const QRectF r(chain.left(), chain.top(), chain.width(), height);
+        page.elements.push_back(
+            TextElement{r.translated(origin), value, f, e.style.align | Qt::AlignTop, true});
+        chain.moveTop(r.bottom());
+        started = true;
+    }
+
     // A caption, then the value on a dotted line, or the dotted line alone to be filled by hand.
     void addField(ReportPage& page, const SheetElement& e, const QString& value, QPointF origin) const {
         const double h = lineHeight(layout_.fontSize) + 1.5;
@@ -572,8 +598,10 @@ private:
 
 } // namespace
 
-double textWidth(const FontSpec& spec, const QString& text) {
-    // A device of ten dots a millimetre.
+namespace {
+
+// A device of ten dots a millimetre, on which texts are measured in tenths of a millimetre.
+QFontMetricsF metrics(const FontSpec& spec) {
     static const QImage device = [] {
         QImage image(1, 1, QImage::Format_RGB32);
         image.setDotsPerMeterX(10000);
@@ -585,7 +613,18 @@ double textWidth(const FontSpec& spec, const QString& text) {
     f.setPointSizeF(spec.size);
     f.setBold(spec.bold);
     f.setItalic(spec.italic);
-    return QFontMetricsF(f, &device).horizontalAdvance(text) / 10.0;
+    return QFontMetricsF(f, &device);
+}
+
+} // namespace
+
+double textHeight(const FontSpec& spec, const QString& text, double width) {
+    return metrics(spec).boundingRect(QRectF(0, 0, width * 10, 100000), Qt::TextWordWrap, text).height() /
+           10.0;
+}
+
+double textWidth(const FontSpec& spec, const QString& text) {
+    return metrics(spec).horizontalAdvance(text) / 10.0;
 }
 
 std::unique_ptr<RenderedReport> composeReport(const Layout& layout, const QString& databasePath,

@@ -16,3 +16,5 @@ std::unique_ptr<RenderedReport> composeReport(const Layout& layout, const QStrin
 
 // The width a text takes on paper in that font, in millimetres.
 double textWidth(const FontSpec& font, const QString& text);
+// The height of a text wrapped to a width, in millimetres; line breaks kept.
+double textHeight(const FontSpec& font, const QString& text, double width);

@@ -48,8 +48,13 @@ void PrinterDestination::deliver(std::shared_ptr<const RenderedReport> report) {
 
 void printReport(const RenderedReport& report, QPrinter& printer, int copies) {
     printer.setDocName(report.title);
+    // The pages are drawn from the paper's corner, their margins in their elements: a printer that
+    // kept the layout's margins would shift every page by them and cut its right side.
+    QPageLayout paper = report.pageLayout;
+    paper.setMinimumMargins(QMarginsF());
+    paper.setMargins(QMarginsF());
+    printer.setPageLayout(paper);
     printer.setFullPage(true);
-    printer.setPageLayout(report.pageLayout);
     printer.setCopyCount(copies);
     const int passes = printer.supportsMultipleCopies() ? 1 : copies;
     QPainter painter;

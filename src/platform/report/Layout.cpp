@@ -248,6 +248,14 @@ void apply(Layout& l, const QString& section, const QString& key, const QString&
             const std::vector<double> v = numbers(value, 4);
             e.kind = SheetElement::Kind::Line;
             e.line = QLineF(v[0], v[1], v[2], v[3]);
+        } else if (key == u"départ") {
+            const std::vector<double> v = numbers(value, 3);
+            e.kind = SheetElement::Kind::FlowStart;
+            e.rect = QRectF(v[0], v[1], v[2], 0);
+        } else if (key == u"suite") {
+            const QStringList p = pieces(value, 3, 3);
+            e = {SheetElement::Kind::Flow, {}, {}, style(p[1]), {}, p[2]};
+            e.spaceAbove = number(p[0]);
         } else if (key == u"champ") {
             const QStringList p = pieces(value, 2, 3);
             const std::vector<double> v = numbers(p[0], 3);

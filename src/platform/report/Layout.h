@@ -29,13 +29,16 @@ struct LayoutColumn {
 
 // A drawn element of a record sheet, placed from the top-left corner of the area inside the margins.
 struct SheetElement {
-    enum class Kind { Text, Box, Line, Field };
+    // Flow: a text that stands below the previous one of its chain, or at the chain's start, and that
+    // takes no room at all when it is empty; FlowStart opens a chain at a place and a width.
+    enum class Kind { Text, Box, Line, Field, FlowStart, Flow };
     Kind kind = Kind::Text;
     QRectF rect; // Text, Box, Field (a field's height is its line's)
     QLineF line; // Line
     TextStyle style;
-    QString caption; // Field: printed before the line to fill
-    QString content; // Text, Field: a text with {fields}
+    QString caption;       // Field: printed before the line to fill
+    QString content;       // Text, Field: a text with {fields}
+    double spaceAbove = 0; // Flow: the gap above it when a text of its chain stands above
 };
 
 struct SortKey {
