@@ -1,6 +1,7 @@
 #include "platform/files/Files.h"
 
 #include "platform/dao/FileLock.h"
+#include "platform/dao/SideFile.h"
 #include "platform/errors/VbError.h"
 
 #include <QDir>
@@ -10,8 +11,8 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -100,7 +101,6 @@ public:
     Descripteur(const Descripteur&) = delete;
     Descripteur& operator=(const Descripteur&) = delete;
     int fd() const { return fd_; }
-    int libérer() { return std::exchange(fd_, -1); }
 
 private:
     int fd_;
@@ -134,18 +134,9 @@ void copier_contenu(int source, int cible, const QString& chemin_cible) {
     }
 }
 
-// A new empty file beside `cible`, made with the ordinary permissions of a new file (not those of the
-// source: a copy of a read-only template must be a base the user can write).
-std::pair<QByteArray, int> fichier_à_côté(const QString& cible) {
-    const QString base = QFileInfo(cible).absolutePath() + u"/.copie-%1-%2"_s;
-    for (int essai = 0;; ++essai) {
-        const QByteArray nom = natif(base.arg(::getpid()).arg(essai));
-        const int fd = ::open(nom.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-        if (fd >= 0)
-            return {nom, fd};
-        if (errno != EEXIST)
-            échouer(errno, cible);
-    }
+// The failure of a step of the copy that the system reported by its errno.
+[[noreturn]] void échouer_sur(const std::system_error& erreur, const QString& chemin) {
+    échouer(erreur.code().value(), chemin);
 }
 
 } // namespace
@@ -193,7 +184,9 @@ void FileCopy(const QString& source, const QString& cible) {
     const struct stat st_source = état_de(source);
     if (S_ISDIR(st_source.st_mode))
         throw VbError(75);
-    if (fichier_verrouillé(source))
+    // Held for the whole copy, so that nobody opens the base and writes to it half-way through.
+    dao::FileLock à_soi;
+    if (à_soi.acquire(source, dao::FileLock::Mode::Exclusive) == dao::FileLock::Result::InUse)
         throw VbError(70);
     if (!dossier_existe(cible))
         throw VbError(76);
@@ -204,19 +197,15 @@ void FileCopy(const QString& source, const QString& cible) {
     const Descripteur entrée(::open(natif(source).constData(), O_RDONLY | O_CLOEXEC));
     if (entrée.fd() < 0)
         échouer(errno, source);
-    const auto [modèle, fd] = fichier_à_côté(cible);
-    Descripteur sortie(fd);
+    // Made with the ordinary permissions of a new file, not those of the source: a copy of a read-only
+    // template must be a base the user can write.
     try {
-        copier_contenu(entrée.fd(), sortie.fd(), cible);
-        if (::fsync(sortie.fd()) != 0)
-            échouer(errno, cible);
-        if (::close(sortie.libérer()) != 0)
-            échouer(errno, cible);
-        if (::rename(modèle.constData(), natif(cible).constData()) != 0)
-            échouer(errno, cible);
-    } catch (...) {
-        ::unlink(modèle.constData());
-        throw;
+        dao::SideFile::removeLeftovers(cible);
+        dao::SideFile copie(cible);
+        copier_contenu(entrée.fd(), copie.descriptor(), cible);
+        copie.commit(dao::SideFile::Replace::yes);
+    } catch (const std::system_error& erreur) {
+        échouer_sur(erreur, cible);
     }
 }
 

@@ -2,6 +2,7 @@
 #include "platform/dao/StoreTestSupport.h"
 
 #include "platform/dao/FileLock.h"
+#include "platform/dao/SideFile.h"
 #include "platform/files/Files.h"
 
 #include <QCryptographicHash>
@@ -224,6 +225,22 @@ TEST(Sharing, ABaseAnotherProgramHoldsAtOpeningIsLockedNotDamaged) {
     EXPECT_EQ(raised_by([&] { Database::open(base.path()); }).description(), error_text(3260));
     EXPECT_EQ(digest(base.path()), before);
     sqlite3_close(other);
+}
+
+// The cleaning of leftovers at the start of a write spares the copy another running writer is making.
+TEST(Compaction, TheCleaningOfLeftoversSparesACopyInProgress) {
+    TemplateBase base;
+    const QString target = base.file("copie.mdb");
+    dao::SideFile inProgress(target);
+    QFile(base.file(".copie.mdb.1-0.norvane-tmp")).open(QIODevice::WriteOnly); // a killed writer's
+    CompactDatabase(base.path(), base.file("autre.mdb"));
+    EXPECT_TRUE(QFile::exists(base.file(".copie.mdb.1-0.norvane-tmp"))); // another target's
+    dao::SideFile::removeLeftovers(target);
+    EXPECT_FALSE(QFile::exists(base.file(".copie.mdb.1-0.norvane-tmp")));
+    ASSERT_TRUE(QFile::exists(inProgress.path()));
+    inProgress.commit(dao::SideFile::Replace::no);
+    EXPECT_TRUE(QFile::exists(target));
+    EXPECT_EQ(QDir(base.folder()).entryList(QDir::Files | QDir::Hidden).filter(".norvane-tmp"), QStringList());
 }
 
 } // namespace
