@@ -9,9 +9,11 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <cerrno>
+#include <chrono>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <system_error>
+#include <thread>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -139,6 +141,20 @@ void copier_contenu(int source, int cible, const QString& chemin_cible) {
     échouer(erreur.code().value(), chemin);
 }
 
+// The source is held for the whole copy, so that nobody opens the base and writes to it half-way
+// through. Another copy of the same file, in a running copy of the program, holds it for a moment and
+// is waited for; a base open in a screen is refused after that moment.
+dao::FileLock tenir_pour_copier(const QString& source) {
+    using namespace std::chrono_literals;
+    dao::FileLock verrou;
+    for (auto attente = 0ms; attente < 1s; attente += 10ms) {
+        if (verrou.acquire(source, dao::FileLock::Mode::Exclusive) != dao::FileLock::Result::InUse)
+            return verrou;
+        std::this_thread::sleep_for(10ms);
+    }
+    throw VbError(70);
+}
+
 } // namespace
 
 QString Dir(const QString& chemin) {
@@ -184,10 +200,7 @@ void FileCopy(const QString& source, const QString& cible) {
     const struct stat st_source = état_de(source);
     if (S_ISDIR(st_source.st_mode))
         throw VbError(75);
-    // Held for the whole copy, so that nobody opens the base and writes to it half-way through.
-    dao::FileLock à_soi;
-    if (à_soi.acquire(source, dao::FileLock::Mode::Exclusive) == dao::FileLock::Result::InUse)
-        throw VbError(70);
+    const dao::FileLock à_soi = tenir_pour_copier(source);
     if (!dossier_existe(cible))
         throw VbError(76);
     struct stat st_cible {};
