@@ -2,11 +2,13 @@
 
 #include "platform/forms/DataControl.h"
 #include "platform/forms/EtiquetteElidee.h"
+#include "platform/forms/FieldRows.h"
 #include "platform/forms/ListesFichiers.h"
 #include "platform/forms/Placement.h"
 #include "platform/ui/ErrorBoxes.h"
 #include "platform/ui/Relier.h"
 #include "store/Module1.h"
+#include "store/mise_en_page.h"
 #include "store/ouverture_base.h"
 #include "store/ouvrir_table.h"
 
@@ -20,31 +22,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-QPushButton* bouton(QWidget* parent, const char* nom, const char* légende, const char* infobulle) {
-    auto* b = new QPushButton(QString::fromUtf8(légende), parent);
-    b->setObjectName(QString::fromUtf8(nom));
-    b->setToolTip(QString::fromUtf8(infobulle));
-    return b;
-}
-
-QLabel* titre(const char* texte, QWidget* parent) {
-    auto* l = new QLabel(QString::fromUtf8(texte), parent);
-    QFont police = l->font();
-    police.setBold(true);
-    l->setFont(police);
-    return l;
-}
-
-template <class W> W* nommé(W* contrôle, const char* nom, const char* infobulle) {
-    contrôle->setObjectName(QString::fromUtf8(nom));
-    contrôle->setToolTip(QString::fromUtf8(infobulle));
-    return contrôle;
-}
-
-} // namespace
-
 feuille_choix_base::feuille_choix_base() : Feuille(u"feuille_choix_base"_s) {
     setWindowTitle(u"Sélection de la base de travail"_s);
     auto* grille = new QGridLayout(this);
@@ -52,23 +29,23 @@ feuille_choix_base::feuille_choix_base() : Feuille(u"feuille_choix_base"_s) {
     grille->setHorizontalSpacing(14);
     grille->setVerticalSpacing(4);
 
-    grille->addWidget(titre("Lecteurs", this), 0, 0);
+    grille->addWidget(légende_de_liste("Lecteurs", this), 0, 0);
     Drive1 = nommé(new DriveListBox(this), "Drive1",
                    "Sélectionnez le lecteur sur lequel se trouve la base de données");
     grille->addWidget(Drive1, 1, 0);
-    grille->addWidget(titre("Dossiers", this), 2, 0);
+    grille->addWidget(légende_de_liste("Dossiers", this), 2, 0);
     Dir1 = nommé(new DirListBox(this), "Dir1", "Sélectionnez le dossier dans l'arborescence");
     Dir1->setMinimumSize(240, 200);
     grille->addWidget(Dir1, 3, 0);
 
-    grille->addWidget(titre("Bases de données", this), 0, 1);
+    grille->addWidget(légende_de_liste("Bases de données", this), 0, 1);
     File1 = nommé(new FileListBox(this), "File1",
                   "Sélectionnez la base de données sur laquelle vous souhaitez travailler");
     File1->setPattern(u"*.mdb"_s);
     File1->setMinimumSize(220, 200);
     grille->addWidget(File1, 1, 1, 3, 1);
 
-    grille->addWidget(titre("Base de données sélectionnée", this), 4, 0, 1, 2);
+    grille->addWidget(légende_de_liste("Base de données sélectionnée", this), 4, 0, 1, 2);
     Label4 = new ÉtiquetteÉlidée(this);
     Label4->setObjectName(u"Label4"_s);
     Label4->setFrameStyle(QFrame::Panel | QFrame::Sunken);
@@ -79,33 +56,34 @@ feuille_choix_base::feuille_choix_base() : Feuille(u"feuille_choix_base"_s) {
     auto* boutons = new QVBoxLayout;
     boutons->setSpacing(6);
     cmdMettreàjour =
-        bouton(this, "cmdMettreàjour", "&Ouvrir", "Cliquez pour ouvrir la base de données sélectionnée");
+        namedButton(this, "cmdMettreàjour", "&Ouvrir", "Cliquez pour ouvrir la base de données sélectionnée");
     cmdMettreàjour->setDefault(true);
-    cmdFermer = bouton(this, "cmdFermer", "&Annuler", "Cliquez pour annuler");
+    cmdFermer = namedButton(this, "cmdFermer", "&Annuler", "Cliquez pour annuler");
     boutons->addWidget(cmdMettreàjour);
     boutons->addWidget(cmdFermer);
     boutons->addSpacing(12);
     auto* fichiers = new QGroupBox(u"Fichiers"_s, this);
     auto* colonne = new QVBoxLayout(fichiers);
-    cmdAjouter = bouton(fichiers, "cmdAjouter", "&Dupliquer",
-                        "Cliquez pour dupliquer une base de données existante sous un autre nom (la base est "
-                        "intégralement dupliquée)");
-    cmdSupprimer = bouton(fichiers, "cmdSupprimer", "&Supprimer",
-                          "Cliquez pour supprimer définitivement la base de données sélectionnée");
-    Command2 =
-        bouton(fichiers, "Command2", "&Compacter", "Cliquez pour compacter la base de données sélectionnée");
-    Command3 = bouton(fichiers, "Command3", "C&réer",
-                      "Cliquez pour créer une nouvelle base de données totalement vide");
+    cmdAjouter =
+        namedButton(fichiers, "cmdAjouter", "&Dupliquer",
+                    "Cliquez pour dupliquer une base de données existante sous un autre nom (la base est "
+                    "intégralement dupliquée)");
+    cmdSupprimer = namedButton(fichiers, "cmdSupprimer", "&Supprimer",
+                               "Cliquez pour supprimer définitivement la base de données sélectionnée");
+    Command2 = namedButton(fichiers, "Command2", "&Compacter",
+                           "Cliquez pour compacter la base de données sélectionnée");
+    Command3 = namedButton(fichiers, "Command3", "C&réer",
+                           "Cliquez pour créer une nouvelle base de données totalement vide");
     Command6 =
-        bouton(fichiers, "Command6", "Re&nommer", "Cliquez pour renommer une base de données existante");
-    Command4 =
-        bouton(fichiers, "Command4", "Sau&vegarder",
-               "Cliquez pour sauvegarder la base de données sélectionnée dans un autre dossier OU sur un "
-               "autre support");
-    Command5 =
-        bouton(fichiers, "Command5", "&Restaurer",
-               "Cliquez pour restaurer une base de données sauvegardée à partir d'un un autre dossier OU "
-               "d'un autre support");
+        namedButton(fichiers, "Command6", "Re&nommer", "Cliquez pour renommer une base de données existante");
+    Command4 = namedButton(
+        fichiers, "Command4", "Sau&vegarder",
+        "Cliquez pour sauvegarder la base de données sélectionnée dans un autre dossier OU sur un "
+        "autre support");
+    Command5 = namedButton(
+        fichiers, "Command5", "&Restaurer",
+        "Cliquez pour restaurer une base de données sauvegardée à partir d'un un autre dossier OU "
+        "d'un autre support");
     for (QPushButton* b : {cmdAjouter, cmdSupprimer, Command2, Command3, Command6, Command4, Command5})
         colonne->addWidget(b);
     boutons->addWidget(fichiers);
@@ -130,6 +108,13 @@ feuille_choix_base::feuille_choix_base() : Feuille(u"feuille_choix_base"_s) {
     relier(File1, &FileListBox::DblClick, this, &feuille_choix_base::File1_DblClick);
     relier(cmdMettreàjour, &QPushButton::clicked, this, &feuille_choix_base::cmdMettreàjour_Click);
     relier(cmdFermer, &QPushButton::clicked, this, &feuille_choix_base::cmdFermer_Click);
+    relier(cmdAjouter, &QPushButton::clicked, this, &feuille_choix_base::cmdAjouter_Click);
+    relier(cmdSupprimer, &QPushButton::clicked, this, &feuille_choix_base::cmdSupprimer_Click);
+    relier(Command2, &QPushButton::clicked, this, &feuille_choix_base::Command2_Click);
+    relier(Command3, &QPushButton::clicked, this, &feuille_choix_base::Command3_Click);
+    relier(Command6, &QPushButton::clicked, this, &feuille_choix_base::Command6_Click);
+    relier(Command4, &QPushButton::clicked, this, &feuille_choix_base::Command4_Click);
+    relier(Command5, &QPushButton::clicked, this, &feuille_choix_base::Command5_Click);
 }
 
 void feuille_choix_base::Form_Load() {

@@ -23,7 +23,7 @@ public:
     QLabel* Label4 = nullptr;
     QPushButton* cmdMettreàjour = nullptr; // "&Ouvrir"
     QPushButton* cmdFermer = nullptr;      // "&Annuler"
-    // The file commands on bases, with their own handlers elsewhere.
+    // The file commands on bases (feuille_choix_base_fichiers.cpp).
     QPushButton* cmdAjouter = nullptr; // "&Dupliquer"
     QPushButton* cmdSupprimer = nullptr;
     QPushButton* Command2 = nullptr; // "&Compacter"
@@ -45,6 +45,19 @@ public:
     void cmdMettreàjour_Click();
     void cmdFermer_Click();
 
+    void cmdAjouter_Click();   // duplicate
+    void cmdSupprimer_Click(); // delete
+    void Command2_Click();     // compact
+    void Command3_Click();     // create
+    void Command6_Click();     // rename
+    void Command4_Click();     // back up, on feuille_chemin
+    void Command5_Click();     // restore, on feuille_chemin
+
+    // The folder shown, where the commands work.
+    QString dossier_bases() const;
+
 private:
     QString chemin_sélectionné() const;
+    // The path of `nom_saisi` in the folder shown.
+    QString cible(const QString& nom_saisi) const;
 };

@@ -3,12 +3,16 @@
 #include "platform/dao/Connection.h"
 #include "platform/dao/JetSql.h"
 #include "platform/dao/Recordset.h"
+#include "platform/dao/SideFile.h"
 #include "platform/errors/VbError.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QStringList>
+#include <cerrno>
+#include <optional>
+#include <system_error>
 #include <sqlite3.h>
 
 using namespace Qt::StringLiterals;
@@ -92,30 +96,52 @@ QStringList Database::tableNames() const {
     return connection().tableNames();
 }
 
+namespace {
+
+// The engine's number for a failure of the file system while a copy is put in place.
+[[noreturn]] void fail_placing(const std::system_error& error, const QString& target) {
+    switch (error.code().value()) {
+    case EEXIST:
+        throw VbError(3204);
+    case ENOSPC:
+    case EDQUOT:
+        throw VbError(3026);
+    case ENOENT:
+    case ENOTDIR:
+        dao::fail_with_path(3044, target);
+    default:
+        throw VbError(3043);
+    }
+}
+
+} // namespace
+
 void CompactDatabase(const QString& source, const QString& target) {
     const QFileInfo targetInfo(target);
     if (target.trimmed().isEmpty() || !targetInfo.absoluteDir().exists())
         dao::fail_with_path(3044, target);
     if (targetInfo.exists())
         throw VbError(3204);
-    if (QFileInfo(source).absoluteFilePath() == targetInfo.absoluteFilePath())
-        throw VbError(3204);
 
     auto connection = dao::Connection::open(source, dao::Connection::Access::Exclusive);
+    std::optional<dao::SideFile> copy;
     try {
-        // The source is only read, so a power cut can cost the new copy but never the base; the copy is
-        // then written without waiting for the disk at every page.
-        connection->run(u"PRAGMA synchronous = OFF"_s);
-        dao::Statement vacuum = connection->prepare(u"VACUUM INTO ?"_s);
-        vacuum.bind(1, QDir::toNativeSeparators(targetInfo.absoluteFilePath()));
-        while (vacuum.step()) {
-        }
-    } catch (...) {
-        connection->close();
-        QFile::remove(target); // never leave half a copy that looks like a base
-        throw;
+        dao::SideFile::removeLeftovers(target);
+        copy.emplace(target);
+    } catch (const std::system_error& error) {
+        fail_placing(error, target);
     }
-    connection->close();
+    // The copy is flushed once, whole, before it takes its name, rather than page by page.
+    connection->run(u"PRAGMA synchronous = OFF"_s);
+    dao::Statement vacuum = connection->prepare(u"VACUUM INTO ?"_s);
+    vacuum.bind(1, copy->path());
+    while (vacuum.step()) {
+    }
+    try {
+        copy->commit(dao::SideFile::Replace::no);
+    } catch (const std::system_error& error) {
+        fail_placing(error, target);
+    }
 }
 
 QString engineVersion() {

@@ -60,8 +60,10 @@ private:
 };
 
 // Writes a new, complete and compacted copy of source at target. Fails with 3024 if source is missing,
-// 3343 if it is no database, 3044 if target's folder does not exist, 3204 if target exists, and 3045
-// ("already in use") if anybody, in this program or another, holds source open.
+// 3343 if it is no database, 3044 if target's folder does not exist, 3204 if target exists, 3026 when
+// the disk is full, and 3045 ("already in use") if anybody, in this program or another, holds source
+// open. The copy is made beside the target and named only once it is whole on the disk (dao::SideFile):
+// an interruption never leaves a torn base under the target's name.
 void CompactDatabase(const QString& source, const QString& target);
 
 // The storage engine under the program, with its version as the library reports it at run time.

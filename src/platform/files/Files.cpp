@@ -1,6 +1,7 @@
 #include "platform/files/Files.h"
 
 #include "platform/dao/FileLock.h"
+#include "platform/dao/SideFile.h"
 #include "platform/errors/VbError.h"
 
 #include <QDir>
@@ -8,10 +9,12 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <cerrno>
+#include <chrono>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <system_error>
+#include <thread>
 #include <unistd.h>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -100,7 +103,6 @@ public:
     Descripteur(const Descripteur&) = delete;
     Descripteur& operator=(const Descripteur&) = delete;
     int fd() const { return fd_; }
-    int libérer() { return std::exchange(fd_, -1); }
 
 private:
     int fd_;
@@ -134,18 +136,23 @@ void copier_contenu(int source, int cible, const QString& chemin_cible) {
     }
 }
 
-// A new empty file beside `cible`, made with the ordinary permissions of a new file (not those of the
-// source: a copy of a read-only template must be a base the user can write).
-std::pair<QByteArray, int> fichier_à_côté(const QString& cible) {
-    const QString base = QFileInfo(cible).absolutePath() + u"/.copie-%1-%2"_s;
-    for (int essai = 0;; ++essai) {
-        const QByteArray nom = natif(base.arg(::getpid()).arg(essai));
-        const int fd = ::open(nom.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-        if (fd >= 0)
-            return {nom, fd};
-        if (errno != EEXIST)
-            échouer(errno, cible);
+// The failure of a step of the copy that the system reported by its errno.
+[[noreturn]] void échouer_sur(const std::system_error& erreur, const QString& chemin) {
+    échouer(erreur.code().value(), chemin);
+}
+
+// The source is held for the whole copy, so that nobody opens the base and writes to it half-way
+// through. Another copy of the same file, in a running copy of the program, holds it for a moment and
+// is waited for; a base open in a screen is refused after that moment.
+dao::FileLock tenir_pour_copier(const QString& source) {
+    using namespace std::chrono_literals;
+    dao::FileLock verrou;
+    for (auto attente = 0ms; attente < 1s; attente += 10ms) {
+        if (verrou.acquire(source, dao::FileLock::Mode::Exclusive) != dao::FileLock::Result::InUse)
+            return verrou;
+        std::this_thread::sleep_for(10ms);
     }
+    throw VbError(70);
 }
 
 } // namespace
@@ -193,8 +200,7 @@ void FileCopy(const QString& source, const QString& cible) {
     const struct stat st_source = état_de(source);
     if (S_ISDIR(st_source.st_mode))
         throw VbError(75);
-    if (fichier_verrouillé(source))
-        throw VbError(70);
+    const dao::FileLock à_soi = tenir_pour_copier(source);
     if (!dossier_existe(cible))
         throw VbError(76);
     struct stat st_cible {};
@@ -204,19 +210,15 @@ void FileCopy(const QString& source, const QString& cible) {
     const Descripteur entrée(::open(natif(source).constData(), O_RDONLY | O_CLOEXEC));
     if (entrée.fd() < 0)
         échouer(errno, source);
-    const auto [modèle, fd] = fichier_à_côté(cible);
-    Descripteur sortie(fd);
+    // Made with the ordinary permissions of a new file, not those of the source: a copy of a read-only
+    // template must be a base the user can write.
     try {
-        copier_contenu(entrée.fd(), sortie.fd(), cible);
-        if (::fsync(sortie.fd()) != 0)
-            échouer(errno, cible);
-        if (::close(sortie.libérer()) != 0)
-            échouer(errno, cible);
-        if (::rename(modèle.constData(), natif(cible).constData()) != 0)
-            échouer(errno, cible);
-    } catch (...) {
-        ::unlink(modèle.constData());
-        throw;
+        dao::SideFile::removeLeftovers(cible);
+        dao::SideFile copie(cible);
+        copier_contenu(entrée.fd(), copie.descriptor(), cible);
+        copie.commit(dao::SideFile::Replace::yes);
+    } catch (const std::system_error& erreur) {
+        échouer_sur(erreur, cible);
     }
 }
 

@@ -14,8 +14,10 @@ QString Dir(const QString& chemin);
 // Deletes a file. A read-only file is refused with 75, as on the system the users know.
 void Kill(const QString& chemin);
 
-// Copies a file over whatever the target holds. The copy is written aside and put in place at the
-// end, so a failure never leaves a half-written target.
+// Copies a file over whatever the target holds. The copy is written aside, flushed to the disk and put
+// in place at the end (dao::SideFile), so a failure, a kill or a power cut never leaves a half-written
+// target; the copy that such an interruption left aside goes at the next copy to the same target. The
+// source is held for the copy: nobody opens it to write meanwhile, and a source in use is refused (70).
 void FileCopy(const QString& source, const QString& cible);
 
 // Makes one folder; its parent must exist. 75 when the name is taken.

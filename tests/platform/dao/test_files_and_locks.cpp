@@ -2,6 +2,7 @@
 #include "platform/dao/StoreTestSupport.h"
 
 #include "platform/dao/FileLock.h"
+#include "platform/dao/SideFile.h"
 #include "platform/files/Files.h"
 
 #include <QCryptographicHash>
@@ -236,6 +237,17 @@ TEST(Sharing, ABaseAnotherProgramHoldsAtOpeningIsLockedNotDamaged) {
     EXPECT_EQ(raised_by([&] { Database::open(base.path()); }).description(), error_text(3260));
     EXPECT_EQ(digest(base.path()), before);
     sqlite3_close(other);
+}
+
+// The cleaning of leftovers at the start of a write spares the copy another running writer is making.
+TEST(Compaction, TheCleaningOfLeftoversSparesACopyInProgress) {
+    TemplateBase base;
+    dao::SideFile inProgress(base.file("copie.mdb"));
+    const QString killed = base.file(".copie.mdb.1-0.norvane-tmp");
+    QFile(killed).open(QIODevice::WriteOnly);
+    CompactDatabase(base.path(), base.file("copie.mdb"));
+    EXPECT_FALSE(QFile::exists(killed));
+    EXPECT_TRUE(QFile::exists(inProgress.path()));
 }
 
 } // namespace

@@ -10,6 +10,7 @@
 #include <linux/fs.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 namespace {
@@ -163,6 +164,19 @@ TEST_F(Files, FileCopyOverAHeldOrReadOnlyTargetIsRefusedAndTheTargetStays) {
     EXPECT_EQ(error_of([&] { FileCopy(source, readOnly); }), 75);
     EXPECT_EQ(contentOf(target), "ancien");
     EXPECT_EQ(contentOf(readOnly), "ancien");
+}
+
+// Two running copies of the program may copy one template at once: the second waits for the first.
+TEST_F(Files, FileCopyWaitsForAnotherCopyOfTheSameSource) {
+    const QString source = folder.write("basevide.mdz", "modèle");
+    dao::FileLock copying;
+    ASSERT_EQ(copying.acquire(source, dao::FileLock::Mode::Exclusive), dao::FileLock::Result::Held);
+    std::thread other([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+        copying.release();
+    });
+    EXPECT_EQ(error_of([&] { FileCopy(source, f("nouvelle.mdb")); }), 0);
+    other.join();
 }
 
 TEST_F(Files, MkDirMakesOneFolderAndRmDirRemovesOnlyAnEmptyOne) {
