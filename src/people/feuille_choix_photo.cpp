@@ -7,6 +7,7 @@
 #include "platform/ui/ErrorBoxes.h"
 #include "platform/ui/Relier.h"
 #include "store/Module1.h"
+#include "store/mise_en_page.h"
 
 #include <QDir>
 #include <QGridLayout>
@@ -17,49 +18,30 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-template <class W> W* nommé(W* contrôle, const char* nom, const char* aide = nullptr) {
-    contrôle->setObjectName(QString::fromUtf8(nom));
-    if (aide)
-        contrôle->setToolTip(QString::fromUtf8(aide));
-    return contrôle;
-}
-
-QLabel* titre(const char* texte, QWidget* parent) {
-    auto* l = new QLabel(QString::fromUtf8(texte), parent);
-    QFont police = l->font();
-    police.setBold(true);
-    l->setFont(police);
-    return l;
-}
-
-} // namespace
-
 // The labels and help texts that speak of databases are the chooser's, kept here as they are.
 feuille_choix_photo::feuille_choix_photo() : Feuille(u"feuille_choix_photo"_s) {
     setWindowTitle(u"Sélection de la photo de l'enfant"_s);
     auto* grille = new QGridLayout(this);
-    grille->addWidget(titre("Lecteurs", this), 0, 0);
+    grille->addWidget(légende_de_liste("Lecteurs", this), 0, 0);
     Drive1 = nommé(new DriveListBox(this), "Drive1",
                    "Sélectionnez le lecteur sur lequel se trouve la base de données");
     grille->addWidget(Drive1, 1, 0);
-    grille->addWidget(titre("Dossiers", this), 2, 0);
+    grille->addWidget(légende_de_liste("Dossiers", this), 2, 0);
     Dir1 = nommé(new DirListBox(this), "Dir1", "Sélectionnez le dossier dans l'arborescence");
     Dir1->setMinimumSize(220, 180);
     grille->addWidget(Dir1, 3, 0);
-    grille->addWidget(titre("Bases de données", this), 0, 1);
+    grille->addWidget(légende_de_liste("Bases de données", this), 0, 1);
     File1 = nommé(new FileListBox(this), "File1",
                   "Sélectionnez la base de données sur laquelle vous souhaitez travailler");
     File1->setPattern(u"*.jpg ; *.gif ; *.bmp"_s);
     File1->setMinimumSize(200, 180);
     grille->addWidget(File1, 1, 1, 3, 1);
-    apercu = nommé(new QLabel(this), "apercu");
+    apercu = nommé(new QLabel(this), "apercu", "");
     apercu->setFrameShape(QFrame::Box);
     apercu->setFixedSize(en_pixels(1215) + 40, en_pixels(1575) + 50);
     grille->addWidget(apercu, 1, 2, 3, 1, Qt::AlignTop);
-    grille->addWidget(titre("Chemin de la photo sélectionnée", this), 4, 0, 1, 3);
-    Label4 = nommé(new QLabel(this), "Label4");
+    grille->addWidget(légende_de_liste("Chemin de la photo sélectionnée", this), 4, 0, 1, 3);
+    Label4 = nommé(new QLabel(this), "Label4", "");
     Label4->setFrameStyle(QFrame::Panel | QFrame::Sunken);
     Label4->setMinimumHeight(24);
     grille->addWidget(Label4, 5, 0, 1, 3);
