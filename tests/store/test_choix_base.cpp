@@ -12,8 +12,6 @@
 #include "shell/options.h"
 #include "store/feuille_login.h"
 #include "store/ouverture_base.h"
-#include "support/BaseDirecte.h"
-#include "support/TemplateBase.h"
 
 #include <QCheckBox>
 #include <QDir>
@@ -143,32 +141,21 @@ TEST_F(ChoixDeLaBase, UnClicSurUnFichierEnFaitDéjàLaBaseEnCours) {
     EXPECT_EQ(module1().base_en_cours, QDir::toNativeSeparators(base));
 }
 
-TEST_F(ChoixDeLaBase, UnDoubleClicOuvreLaBaseDExempleQuiNAPasDeCode) {
-    const QString base = copie_du_modèle(folder);
+// The wait notice's hourglass comes and goes.
+TEST_F(ChoixDeLaBase, UneBaseSansCodeSOuvreAuDoubleClicSansRienDemanderNiAutreÉcran) {
+    const QString base = créer_base_de_test(folder.file("ecole.mdb"));
     feuille_choix_base& écran = démarrer_sur_le_choix();
-    ASSERT_TRUE(écran.File1->cliquer("travail.mdb"));
+    ASSERT_TRUE(écran.File1->cliquer("ecole.mdb"));
     EXPECT_EQ(écran.accès_actuel->text(), "");
     emit écran.File1->DblClick();
     processDeletions();
-    EXPECT_FALSE(choix_à_l_écran());
+    EXPECT_EQ(choix(), nullptr);
     EXPECT_EQ(mdi()->Panel1(), barre_pour(base));
     EXPECT_TRUE(menus_de_données_actifs());
-    EXPECT_TRUE(ui().boxes().empty());
-}
-
-TEST_F(ChoixDeLaBase, UneBaseSansCodeSOuvreSansRienDemanderEtSansAutreÉcran) {
-    const QString base = créer_base_de_test(folder.file("ecole.mdb"), QString());
-    feuille_choix_base& écran = démarrer_sur_le_choix();
-    écran.File1->cliquer("ecole.mdb");
-    ouvrir(écran);
     EXPECT_TRUE(ui().modals().empty());
     EXPECT_TRUE(ui().boxes().empty());
-    EXPECT_EQ(mdi()->Panel1(), barre_pour(base));
-    EXPECT_EQ(choix(), nullptr);
     EXPECT_EQ(feuilles().siChargée<feuille_patientez>(), nullptr);
-    // The wait notice's hourglass came and went.
-    const auto& pointeurs = ui().pointerHistory();
-    EXPECT_NE(std::find(pointeurs.begin(), pointeurs.end(), vbHourglass), pointeurs.end());
+    EXPECT_NE(std::ranges::find(ui().pointerHistory(), vbHourglass), ui().pointerHistory().end());
     EXPECT_EQ(ui().mousePointer(), vbDefault);
 }
 
@@ -199,21 +186,11 @@ TEST_F(ChoixDeLaBase, UnFichierIllisibleAprèsUnFichierÀCodeNeDemandeAucunCode)
     EXPECT_EQ(mdi()->Panel1(), barre_pour(abîmée));
 }
 
-TEST_F(ChoixDeLaBase, LeBonCodeOuvreLaBase) {
-    const QString base = créer_base_de_test(folder.file("ecole.mdb"), u"Secret"_s);
-    feuille_choix_base& écran = démarrer_sur_le_choix();
-    écran.File1->cliquer("ecole.mdb");
-    taper_le_code("Secret");
-    ouvrir(écran);
-    EXPECT_EQ(ui().modals(), (std::vector<QString>{"feuille_login"}));
-    EXPECT_TRUE(ui().boxes().empty());
-    EXPECT_EQ(mdi()->Panel1(), barre_pour(base));
-    EXPECT_TRUE(menus_de_données_actifs());
-}
+// The right code opens the base; any other, or Annuler, leaves the chooser and the menus as they were
+// but keeps the refused base as the current one.
+class CodeDAccès : public ChoixDeLaBase, public ::testing::WithParamInterface<const char*> {};
 
-class CodeRefusé : public ChoixDeLaBase, public ::testing::WithParamInterface<const char*> {};
-
-TEST_P(CodeRefusé, LaisseLeChoixEtLesMenusMaisGardeLaBaseRefusée) {
+TEST_P(CodeDAccès, SeulLeBonOuvreLaBase) {
     const QString base = créer_base_de_test(folder.file("ecole.mdb"), u"Secret"_s);
     feuille_choix_base& écran = démarrer_sur_le_choix();
     écran.File1->cliquer("ecole.mdb");
@@ -222,6 +199,13 @@ TEST_P(CodeRefusé, LaisseLeChoixEtLesMenusMaisGardeLaBaseRefusée) {
         annuler_le_code();
     else
         taper_le_code(tapé);
+    if (tapé == "Secret") {
+        ouvrir(écran);
+        EXPECT_EQ(ui().modals(), (std::vector<QString>{"feuille_login"}));
+        EXPECT_EQ(mdi()->Panel1(), barre_pour(base));
+        EXPECT_TRUE(menus_de_données_actifs());
+        return;
+    }
     ui().expectMsgBox(vbOK);
     ouvrir(écran);
     EXPECT_EQ(ui().boxes(), std::vector{Box::titled(message_code, vbOKOnly + vbExclamation)});
@@ -232,7 +216,8 @@ TEST_P(CodeRefusé, LaisseLeChoixEtLesMenusMaisGardeLaBaseRefusée) {
     EXPECT_EQ(module1().base_en_cours, QDir::toNativeSeparators(base));
 }
 
-INSTANTIATE_TEST_SUITE_P(Codes, CodeRefusé, ::testing::Values("secret", "Secret ", "", "(annuler)"));
+INSTANTIATE_TEST_SUITE_P(Codes, CodeDAccès,
+                         ::testing::Values("Secret", "secret", "Secret ", "", "(annuler)"));
 
 TEST_F(ChoixDeLaBase, UnCodeRefuséQuandUneBaseEstOuverteLaisseSesMenusQuiVontSurLeFichierRefusé) {
     créer_base_de_test(folder.file("a.mdb"), QString(), "CREATE TABLE sexe (détails VARCHAR(8));");
@@ -320,9 +305,8 @@ TEST_F(ChoixDeLaBase, LOptionDesÉlèvesMontreLÉcranDesÉlèvesSurLaBaseOuverte
 }
 
 TEST_F(ChoixDeLaBase, UnÉcranDesÉlèvesDéjàOuvertResteSurSonFichierÀLOuvertureDUneAutreBase) {
-    const QString première = folder.file("a.mdb");
-    ASSERT_TRUE(QFile::copy(template_path(), première));
-    ASSERT_TRUE(QFile::copy(template_path(), folder.file("b.mdb")));
+    const QString première = copie_du_modèle(folder, "a.mdb");
+    copie_du_modèle(folder, "b.mdb");
     préparer_options("0\r\n1\r\n1\r\n0\r\n" + ligne_de_base(première));
     démarrer_par_clic();
     ASSERT_NE(feuilles().siChargée<feuille_élève>(), nullptr);

@@ -6,7 +6,6 @@
 #include "reference/feuille_sexe.h"
 #include "store/ouverture_base.h"
 #include "store/ouvrir_table.h"
-#include "support/TemplateBase.h"
 
 #include <QDir>
 #include <QLineEdit>
@@ -32,8 +31,7 @@ TEST_F(PointageDesSources, UnÉchecEstPasséSousSilenceEtLesÉtapesSuivantesOntL
 // The family names its screens without including them: each procedure loads, hidden, the screen of its
 // table (feuille_sexe for sexe, feuille_élève for élèves) and points it at the base in use.
 TEST_F(PointageDesSources, ChaqueProcédureChargeParSonNomLÉcranDeSaTable) {
-    const TemplateBase base;
-    module1().base_en_cours = base.path();
+    module1().base_en_cours = copie_du_modèle(folder);
     for (void (*ouvrir)() :
          {ouvrir_table_documents, ouvrir_table_adresses, ouvrir_table_assertions, ouvrir_table_assurances,
           ouvrir_table_csp, ouvrir_table_genres, ouvrir_table_hôpitaux, ouvrir_table_langues_vivantes,

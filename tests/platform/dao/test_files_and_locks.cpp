@@ -25,57 +25,64 @@ QStringList files_in(const QString& folder) {
     return QDir(folder).entryList(QDir::Files, QDir::Name);
 }
 
-TEST(OpeningFiles, AMissingFileIs3024AndAMissingFolder3044) {
-    TemplateBase base;
-    EXPECT_EQ(error_of([&] { Database::open(base.file("absent.mdb")); }), 3024);
-    EXPECT_EQ(error_of([&] { Database::open(base.file("absent/base.mdb")); }), 3044);
+// A fresh copy of the template in a folder of its own, not opened.
+class FileTest : public ::testing::Test {
+protected:
+    WorkFolder dossier;
+    const QString base = copie_du_modèle(dossier);
+};
+using OpeningFiles = FileTest;
+using Sharing = FileTest;
+using Compaction = FileTest;
+
+TEST_F(OpeningFiles, AMissingFileIs3024AndAMissingFolder3044) {
+    EXPECT_EQ(error_of([&] { Database::open(dossier.file("absent.mdb")); }), 3024);
+    EXPECT_EQ(error_of([&] { Database::open(dossier.file("absent/base.mdb")); }), 3044);
     EXPECT_EQ(error_of([&] { Database::open(""); }), 3024);
-    const QString description = raised_by([&] { Database::open(base.file("absent.mdb")); }).description();
+    const QString description = raised_by([&] { Database::open(dossier.file("absent.mdb")); }).description();
     EXPECT_TRUE(description.contains("absent.mdb")) << description.toStdString();
 }
 
-TEST(OpeningFiles, WhatIsNoBaseIs3343AndStaysUntouched) {
-    TemplateBase base;
+TEST_F(OpeningFiles, WhatIsNoBaseIs3343AndStaysUntouched) {
     QByteArray noise(64 * 1024, '\0');
     QRandomGenerator generator(42);
     for (char& c : noise)
         c = static_cast<char>(generator.bounded(256));
-    const QString path = base.file("abîmée.mdb");
+    const QString path = dossier.file("abîmée.mdb");
     QFile f(path);
     ASSERT_TRUE(f.open(QIODevice::WriteOnly) && f.write(noise) == noise.size());
     f.close();
-    QFile(base.file("vide.mdb")).open(QIODevice::WriteOnly);
-    QDir(base.folder()).mkdir("dossier.mdb");
-    ASSERT_EQ(mkfifo(QFile::encodeName(base.file("tube.mdb")).constData(), 0600), 0);
-    const QStringList before = files_in(base.folder());
+    QFile(dossier.file("vide.mdb")).open(QIODevice::WriteOnly);
+    QDir(dossier.path()).mkdir("dossier.mdb");
+    ASSERT_EQ(mkfifo(QFile::encodeName(dossier.file("tube.mdb")).constData(), 0600), 0);
+    const QStringList before = files_in(dossier.path());
     alarm(60); // waiting on the FIFO for a writer would hold the test for ever: end it instead
     for (const char* name : {"abîmée.mdb", "vide.mdb", "dossier.mdb", "tube.mdb"})
-        EXPECT_EQ(error_of([&] { Database::open(base.file(name)); }), 3343) << name;
+        EXPECT_EQ(error_of([&] { Database::open(dossier.file(name)); }), 3343) << name;
     alarm(0);
     EXPECT_EQ(digest(path), QCryptographicHash::hash(noise, QCryptographicHash::Sha256));
-    EXPECT_EQ(files_in(base.folder()), before);
+    EXPECT_EQ(files_in(dossier.path()), before);
     EXPECT_FALSE(fichier_verrouillé(path));
 
-    QFile body(base.path());
+    QFile body(base);
     ASSERT_TRUE(body.open(QIODevice::ReadWrite));
     body.seek(100);
     body.write(QByteArray(8000, '\x5a')); // the first pages, table list included
     body.close();
-    EXPECT_EQ(error_of([&] { Database::open(base.path())->OpenRecordset("élèves"); }), 3343);
+    EXPECT_EQ(error_of([&] { Database::open(base)->OpenRecordset("élèves"); }), 3343);
 }
 
-TEST(OpeningFiles, AnyExtensionOpens) {
-    TemplateBase base("modèle.mdz");
-    auto db = Database::open(base.path());
+TEST_F(OpeningFiles, AnyExtensionOpens) {
+    const QString modèle = copie_du_modèle(dossier, "modèle.mdz");
+    auto db = Database::open(modèle);
     EXPECT_EQ(db->tableNames().size(), 21);
-    EXPECT_EQ(db->path(), base.path());
+    EXPECT_EQ(db->path(), modèle);
 }
 
-TEST(Sharing, SeveralDatabasesOnOneFileWorkSideBySideAndLeaveNoLockFile) {
-    TemplateBase base;
-    const QStringList before = files_in(base.folder());
-    auto first = Database::open(base.path());
-    auto second = Database::open(base.path());
+TEST_F(Sharing, SeveralDatabasesOnOneFileWorkSideBySideAndLeaveNoLockFile) {
+    const QStringList before = files_in(dossier.path());
+    auto first = Database::open(base);
+    auto second = Database::open(base);
     auto rs = first->OpenRecordset("familles");
     rs->AddNew();
     rs->setField("ville_responsable", "Bron");
@@ -92,30 +99,28 @@ TEST(Sharing, SeveralDatabasesOnOneFileWorkSideBySideAndLeaveNoLockFile) {
     seen.reset();
     first.reset();
     second.reset();
-    EXPECT_EQ(files_in(base.folder()), before);
+    EXPECT_EQ(files_in(dossier.path()), before);
 }
 
-TEST(Sharing, AnOpenDatabaseBlocksCompactionKillAndCopyUntilClosed) {
-    TemplateBase base;
-    auto db = Database::open(base.path());
-    EXPECT_TRUE(fichier_verrouillé(base.path()));
-    EXPECT_EQ(error_of([&] { CompactDatabase(base.path(), base.file("compacte.mdb")); }), 3045);
-    EXPECT_FALSE(QFile::exists(base.file("compacte.mdb")));
-    EXPECT_EQ(error_of([&] { Kill(base.path()); }), 70);
-    EXPECT_EQ(error_of([&] { FileCopy(base.path(), base.file("copie.mdb")); }), 70);
-    EXPECT_TRUE(QFile::exists(base.path()));
+TEST_F(Sharing, AnOpenDatabaseBlocksCompactionKillAndCopyUntilClosed) {
+    auto db = Database::open(base);
+    EXPECT_TRUE(fichier_verrouillé(base));
+    EXPECT_EQ(error_of([&] { CompactDatabase(base, dossier.file("compacte.mdb")); }), 3045);
+    EXPECT_FALSE(QFile::exists(dossier.file("compacte.mdb")));
+    EXPECT_EQ(error_of([&] { Kill(base); }), 70);
+    EXPECT_EQ(error_of([&] { FileCopy(base, dossier.file("copie.mdb")); }), 70);
+    EXPECT_TRUE(QFile::exists(base));
 
-    auto second = Database::open(base.path());
+    auto second = Database::open(base);
     db->Close();
-    EXPECT_TRUE(fichier_verrouillé(base.path())); // the second still holds it
+    EXPECT_TRUE(fichier_verrouillé(base)); // the second still holds it
     second.reset();
-    EXPECT_FALSE(fichier_verrouillé(base.path()));
-    EXPECT_EQ(error_of([&] { CompactDatabase(base.path(), base.file("compacte.mdb")); }), 0);
-    EXPECT_EQ(error_of([&] { Kill(base.path()); }), 0);
+    EXPECT_FALSE(fichier_verrouillé(base));
+    EXPECT_EQ(error_of([&] { CompactDatabase(base, dossier.file("compacte.mdb")); }), 0);
+    EXPECT_EQ(error_of([&] { Kill(base); }), 0);
 }
 
-TEST(Sharing, AnotherRunningCopyHoldsTheFileToo) {
-    TemplateBase base;
+TEST_F(Sharing, AnotherRunningCopyHoldsTheFileToo) {
     int ready[2], release[2];
     ASSERT_EQ(pipe(ready), 0);
     ASSERT_EQ(pipe(release), 0);
@@ -124,7 +129,7 @@ TEST(Sharing, AnotherRunningCopyHoldsTheFileToo) {
     if (child == 0) {
         char c = 0;
         try {
-            auto db = Database::open(base.path());
+            auto db = Database::open(base);
             (void)!write(ready[1], "o", 1);
             (void)!read(release[0], &c, 1);
         } catch (...) {
@@ -135,24 +140,23 @@ TEST(Sharing, AnotherRunningCopyHoldsTheFileToo) {
     char state = 0;
     ASSERT_EQ(read(ready[0], &state, 1), 1);
     EXPECT_EQ(state, 'o');
-    EXPECT_TRUE(fichier_verrouillé(base.path()));
-    EXPECT_EQ(error_of([&] { CompactDatabase(base.path(), base.file("compacte.mdb")); }), 3045);
-    EXPECT_EQ(error_of([&] { Kill(base.path()); }), 70);
-    auto mine = Database::open(base.path()); // sharing with the other copy is fine
+    EXPECT_TRUE(fichier_verrouillé(base));
+    EXPECT_EQ(error_of([&] { CompactDatabase(base, dossier.file("compacte.mdb")); }), 3045);
+    EXPECT_EQ(error_of([&] { Kill(base); }), 70);
+    auto mine = Database::open(base); // sharing with the other copy is fine
     EXPECT_EQ(mine->OpenRecordset("niveaux")->RecordCount(), 12);
     (void)!write(release[1], "r", 1);
     int status = 0;
     waitpid(child, &status, 0);
     mine->Close();
-    EXPECT_FALSE(fichier_verrouillé(base.path()));
+    EXPECT_FALSE(fichier_verrouillé(base));
     for (int fd : {ready[0], ready[1], release[0], release[1]})
         close(fd);
 }
 
-TEST(Compaction, MakesACompleteValidCopyNoLargerThanTheSource) {
-    TemplateBase base;
+TEST_F(Compaction, MakesACompleteValidCopyNoLargerThanTheSource) {
     {
-        auto db = Database::open(base.path());
+        auto db = Database::open(base);
         auto rs = db->OpenRecordset("adresses");
         for (int i = 0; i < 300; ++i) {
             rs->AddNew();
@@ -161,10 +165,10 @@ TEST(Compaction, MakesACompleteValidCopyNoLargerThanTheSource) {
         }
         db->Execute("DELETE * FROM adresses WHERE détails LIKE \"*1*\"");
     }
-    const QString target = base.file("compacte.mdb");
-    CompactDatabase(base.path(), target);
-    EXPECT_LE(QFileInfo(target).size(), QFileInfo(base.path()).size());
-    auto source = Database::open(base.path());
+    const QString target = dossier.file("compacte.mdb");
+    CompactDatabase(base, target);
+    EXPECT_LE(QFileInfo(target).size(), QFileInfo(base).size());
+    auto source = Database::open(base);
     auto copy = Database::open(target);
     EXPECT_EQ(copy->tableNames(), source->tableNames());
     for (const QString& table : source->tableNames())
@@ -175,36 +179,33 @@ TEST(Compaction, MakesACompleteValidCopyNoLargerThanTheSource) {
     EXPECT_EQ(rs->field("détails").toString(), "rue numéro 0");
 }
 
-TEST(Compaction, RefusesAnExistingTargetAMissingSourceAndANonBase) {
-    TemplateBase base;
-    const QString target = base.copy("existe.mdb");
+TEST_F(Compaction, RefusesAnExistingTargetAMissingSourceAndANonBase) {
+    const QString target = copie_du_modèle(dossier, "existe.mdb");
     const QByteArray before = digest(target);
-    EXPECT_EQ(error_of([&] { CompactDatabase(base.path(), target); }), 3204);
+    EXPECT_EQ(error_of([&] { CompactDatabase(base, target); }), 3204);
     EXPECT_EQ(digest(target), before);
-    EXPECT_EQ(error_of([&] { CompactDatabase(base.path(), base.path()); }), 3204);
-    EXPECT_EQ(error_of([&] { CompactDatabase(base.file("absent.mdb"), base.file("c.mdb")); }), 3024);
-    EXPECT_EQ(error_of([&] { CompactDatabase(base.path(), base.file("absent/c.mdb")); }), 3044);
-    QFile noise(base.file("bruit.mdb"));
+    EXPECT_EQ(error_of([&] { CompactDatabase(base, base); }), 3204);
+    EXPECT_EQ(error_of([&] { CompactDatabase(dossier.file("absent.mdb"), dossier.file("c.mdb")); }), 3024);
+    EXPECT_EQ(error_of([&] { CompactDatabase(base, dossier.file("absent/c.mdb")); }), 3044);
+    QFile noise(dossier.file("bruit.mdb"));
     noise.open(QIODevice::WriteOnly);
     noise.write(QByteArray(4096, 'z'));
     noise.close();
-    EXPECT_EQ(error_of([&] { CompactDatabase(base.file("bruit.mdb"), base.file("c.mdb")); }), 3343);
-    EXPECT_FALSE(QFile::exists(base.file("c.mdb")));
+    EXPECT_EQ(error_of([&] { CompactDatabase(dossier.file("bruit.mdb"), dossier.file("c.mdb")); }), 3343);
+    EXPECT_FALSE(QFile::exists(dossier.file("c.mdb")));
 }
 
-TEST(Sharing, WhileAFileIsHeldForCompactionNobodyOpensIt) {
-    TemplateBase base;
+TEST_F(Sharing, WhileAFileIsHeldForCompactionNobodyOpensIt) {
     dao::FileLock compaction;
-    ASSERT_EQ(compaction.acquire(base.path(), dao::FileLock::Mode::Exclusive), dao::FileLock::Result::Held);
-    EXPECT_EQ(error_of([&] { Database::open(base.path()); }), 3051);
+    ASSERT_EQ(compaction.acquire(base, dao::FileLock::Mode::Exclusive), dao::FileLock::Result::Held);
+    EXPECT_EQ(error_of([&] { Database::open(base); }), 3051);
     compaction.release();
-    EXPECT_EQ(error_of([&] { Database::open(base.path()); }), 0);
+    EXPECT_EQ(error_of([&] { Database::open(base); }), 0);
 }
 
-TEST(Sharing, AWriterWaitsForAnotherThenGivesUpWithTheLockedError) {
-    TemplateBase base;
-    auto first = Database::open(base.path());
-    auto second = Database::open(base.path());
+TEST_F(Sharing, AWriterWaitsForAnotherThenGivesUpWithTheLockedError) {
+    auto first = Database::open(base);
+    auto second = Database::open(base);
     first->BeginTrans();
     first->Execute("DELETE * FROM sexe");
     EXPECT_EQ(second->OpenRecordset("sexe")->RecordCount(), 2); // readers still see the last commit
@@ -215,14 +216,13 @@ TEST(Sharing, AWriterWaitsForAnotherThenGivesUpWithTheLockedError) {
 }
 
 // A file that another program is writing is busy, not damaged, and the attempt leaves it as it was.
-TEST(Sharing, ABaseAnotherProgramHoldsAtOpeningIsLockedNotDamaged) {
-    TemplateBase base;
+TEST_F(Sharing, ABaseAnotherProgramHoldsAtOpeningIsLockedNotDamaged) {
     sqlite3* other = nullptr;
-    sqlite3_open(QFile::encodeName(base.path()).constData(), &other);
+    sqlite3_open(QFile::encodeName(base).constData(), &other);
     ASSERT_EQ(sqlite3_exec(other, "BEGIN EXCLUSIVE; DELETE FROM sexe", nullptr, nullptr, nullptr), SQLITE_OK);
-    const QByteArray before = digest(base.path());
-    EXPECT_EQ(raised_by([&] { Database::open(base.path()); }).description(), error_text(3260));
-    EXPECT_EQ(digest(base.path()), before);
+    const QByteArray before = digest(base);
+    EXPECT_EQ(raised_by([&] { Database::open(base); }).description(), error_text(3260));
+    EXPECT_EQ(digest(base), before);
     sqlite3_close(other);
 }
 

@@ -19,7 +19,6 @@ TEST(JetLike, WildcardsClassesCaseAndAccents) {
     const Like cas[] = {
         // * and ?
         {u"Dupont", u"Dup*", true},
-        {u"Dupont", u"*", true},
         {u"", u"*", true},
         {u"Dupont", u"D?p?nt", true},
         {u"Dupont", u"D?pont?", false},
@@ -31,7 +30,6 @@ TEST(JetLike, WildcardsClassesCaseAndAccents) {
         {u"CEx", u"CE#", false},
         {u"b", u"[abc]", true},
         {u"d", u"[abc]", false},
-        {u"m", u"[a-z]", true},
         {u"M", u"[a-z]", true},
         {u"5", u"[a-z]", false},
         {u"5", u"[!a-z]", true},
@@ -41,7 +39,6 @@ TEST(JetLike, WildcardsClassesCaseAndAccents) {
         {u"Martin", u"[L-N]*", true},
         // case and accents ignored, over all of Unicode
         {u"Élodie", u"élodie", true},
-        {u"élodie", u"ÉLODIE", true},
         {u"Hélène", u"helene", true},
         {u"ÇA", u"ça", true},
         {u"Œuvre", u"oeuvre", true},
@@ -49,7 +46,6 @@ TEST(JetLike, WildcardsClassesCaseAndAccents) {
         {u"Straße", u"STRASSE", true},
         {u"Ébrard", u"[e]*", true},
         {u"Ștefănescu", u"stef*", true},
-        {u"Trần", u"tran", true},
         {u"Phạm", u"pham", true},
         {u"d’Artagnan", u"d'artagnan", true},
         // ? is one character as the reader sees it, however it is written
@@ -72,29 +68,19 @@ TEST(JetLike, WildcardsClassesCaseAndAccents) {
 
 class FrenchOrder : public StoreTest {};
 
-TEST_F(FrenchOrder, AccentedNamesSortBesideTheirLetter) {
-    for (const char* name :
-         {"Eric", "Zoé", "émile", "Emile", "Édith", "Eve", "Ève", "Abel", "Œdipe", "Oscar", "Ode"})
+// Accents, case and other alphabets sort beside their letter; the first name decides between surnames
+// that differ in case only.
+TEST_F(FrenchOrder, NamesSortBesideTheirLettersWhateverTheirAccentsCaseOrAlphabet) {
+    for (const char* name : {"Eric", "Zoé", "émile", "Emile", "Édith", "Ève", "Abel", "Œdipe", "Oscar", "Ode",
+                             "Trần", "Ștefănescu", "Dè", "Dé", "Travers", "Tran", "d’Artagnan", "Stein"})
         addPupil("", name);
     EXPECT_EQ(values("SELECT * FROM élèves ORDER BY nom_élève ASC, prénom_élève ASC", "nom_élève"),
-              (QStringList{"Abel", "Édith", "Emile", "émile", "Eric", "Eve", "Ève", "Ode", "Œdipe", "Oscar",
-                           "Zoé"}));
-}
-
-TEST_F(FrenchOrder, NamesOfEveryAlphabetSortBesideTheirLetters) {
-    for (const char* name : {"Zola", "Trần", "Ștefănescu", "Dè", "Dupont", "Dé", "Travers", "Sturm", "Tran",
-                             "d’Artagnan", "Stein"})
-        addPupil("", name);
-    EXPECT_EQ(values("SELECT * FROM élèves ORDER BY nom_élève ASC, prénom_élève ASC", "nom_élève"),
-              (QStringList{"d’Artagnan", "Dé", "Dè", "Dupont", "Ștefănescu", "Stein", "Sturm", "Tran", "Trần",
-                           "Travers", "Zola"}));
-}
-
-TEST_F(FrenchOrder, CaseOfTheSurnameDoesNotHideTheFirstNameOrder) {
-    addPupil("", "DUPONT", "Léa");
-    addPupil("", "Dupont", "Adam");
-    addPupil("", "dupont", "Zoé");
-    addPupil("", "Dupont", "Adam");
+              (QStringList{"Abel", "d’Artagnan", "Dé", "Dè", "Édith", "Emile", "émile", "Eric", "Ève", "Ode",
+                           "Œdipe", "Oscar", "Ștefănescu", "Stein", "Tran", "Trần", "Travers", "Zoé"}));
+    db->Execute("DELETE * FROM élèves");
+    for (const auto& [nom, prénom] :
+         {std::pair{"DUPONT", "Léa"}, {"Dupont", "Adam"}, {"dupont", "Zoé"}, {"Dupont", "Adam"}})
+        addPupil("", nom, prénom);
     EXPECT_EQ(values("SELECT * FROM élèves ORDER BY nom_élève ASC, prénom_élève ASC", "prénom_élève"),
               (QStringList{"Adam", "Adam", "Léa", "Zoé"}));
     EXPECT_EQ(values("SELECT * FROM élèves ORDER BY nom_élève DESC, prénom_élève DESC", "prénom_élève"),
@@ -110,7 +96,7 @@ TEST_F(FrenchOrder, EqualValuesKeepTheOrderTheyWereWrittenIn) {
     EXPECT_EQ(values("SELECT * FROM élèves ORDER BY ville_résidence DESC", "matricule"),
               (QStringList{"000005", "000003", "000001", "000006", "000004", "000002"}));
     db->Close();
-    db = Database::open(base.path());
+    db = Database::open(chemin);
     EXPECT_EQ(values("SELECT * FROM élèves ORDER BY ville_résidence ASC", "matricule"), first);
 }
 
@@ -144,8 +130,8 @@ TEST_F(FrenchOrder, IndexesOfAnotherOrderAreRebuiltAtOpening) {
     addPupil("000002", "Abel");
     addPupil("000003", "Zola");
     db->Close();
-    index_under_another_order(base.path());
-    db = Database::open(base.path());
+    index_under_another_order(chemin);
+    db = Database::open(chemin);
     const char* alphabetical = "SELECT * FROM élèves ORDER BY nom_élève ASC, prénom_élève ASC";
     EXPECT_EQ(values(alphabetical, "nom_élève"), (QStringList{"Abel", "Bernard", "Zola"}));
     auto rs = db->OpenRecordset(alphabetical);
@@ -157,18 +143,11 @@ TEST_F(FrenchOrder, IndexesOfAnotherOrderAreRebuiltAtOpening) {
     EXPECT_EQ(values(alphabetical, "matricule"), (QStringList{"000002", "000001"}));
 }
 
-TEST_F(FrenchOrder, CaseOnlyBreaksTiesLowerCaseFirst) {
-    for (const char* ville : {"BRON", "Bron", "bron", "Brignais"})
+TEST_F(FrenchOrder, CaseOnlyBreaksTiesLowerCaseFirstAndDigitsSortAsText) {
+    for (const char* ville : {"BRON", "Bron", "bron", "Brignais", "10", "9", "2"})
         add("élèves", {{"ville_résidence", ville}});
     EXPECT_EQ(values("SELECT * FROM élèves ORDER BY ville_résidence ASC", "ville_résidence"),
-              (QStringList{"Brignais", "bron", "Bron", "BRON"}));
-}
-
-TEST_F(FrenchOrder, DigitsSortAsTextSoTenComesBeforeNine) {
-    for (const char* classe : {"9", "10", "2"})
-        add("élèves", {{"référence_classe_élève", classe}});
-    EXPECT_EQ(values("SELECT * FROM élèves ORDER BY référence_classe_élève ASC", "référence_classe_élève"),
-              (QStringList{"10", "2", "9"}));
+              (QStringList{"10", "2", "9", "Brignais", "bron", "Bron", "BRON"}));
 }
 
 TEST_F(FrenchOrder, EqualityInAQueryIgnoresCaseAndAccents) {

@@ -2,6 +2,7 @@
 #include "platform/dao/StoreTestSupport.h"
 
 #include "generator/Demonstration.h"
+#include "support/Donnees.h"
 
 namespace {
 
@@ -15,79 +16,38 @@ protected:
     }
 };
 
-TEST_F(Template, HasTheTwentyOneTables) {
-    QStringList tables = db->tableNames();
+TEST_F(Template, HasTheTwentyOneTablesAndTheColumnsTheScreensRelyOn) {
+    QStringList tables = db->tableNames(),
+                attendues = QString("adresses assertions assurances csp documents école "
+                                    "équipe familles genres hôpitaux inspection "
+                                    "langues_vivantes médecins nationalités niveaux "
+                                    "paramètres passe sexe situations_familiales villes "
+                                    "élèves")
+                                .split(' ');
     tables.sort();
-    QStringList expected = template_tables();
-    expected.sort();
-    EXPECT_EQ(tables, expected);
-}
-
-TEST_F(Template, KeepsTheOddColumnNamesToTheLetter) {
-    EXPECT_EQ(column("inspection", "genre_inpecteur").type, FieldType::Text);
-    EXPECT_EQ(column("élèves", "champ_paramétable1").type, FieldType::Text);
-    EXPECT_EQ(column("paramètres", "intitulé_champ_paramétrable1").type, FieldType::Text);
-    EXPECT_EQ(column("élèves", "ainé").type, FieldType::Boolean);
-    EXPECT_EQ(column("élèves", "saisine_ccpe_élève").type, FieldType::Text);
-    EXPECT_EQ(column("équipe", "adresse2_enseignant").type, FieldType::Text);
+    attendues.sort();
+    EXPECT_EQ(tables, attendues);
     EXPECT_EQ(db->OpenRecordset("élèves")->fields().size(), 60u);
     EXPECT_EQ(db->OpenRecordset("familles")->fields().size(), 44u);
     EXPECT_EQ(db->OpenRecordset("paramètres")->fields().size(), 20u);
     EXPECT_EQ(db->OpenRecordset("documents")->fields().size(), 16u);
-}
-
-TEST_F(Template, ColumnsHoldAtLeastTheirEntryLimits) {
-    const std::vector<std::tuple<const char*, const char*, int>> limits = {
-        {"élèves", "cycle_classe_élève", 1},
-        {"élèves", "code_nationalité_élève", 5},
-        {"élèves", "sexe_élève", 8},
-        {"élèves", "matricule", 10},
-        {"élèves", "participation_usep", 20},
-        {"élèves", "nom_élève", 30},
-        {"élèves", "lieu_naissance_élève", 50},
-        {"élèves", "chemin_photo", 254},
-        {"familles", "csp_conjoint", 2},
-        {"familles", "communication_données", 3},
-        {"familles", "référence_famille", 10},
-        {"familles", "ville_médecin_traitant", 30},
-        {"familles", "adresse_hôpital_préférentiel", 50},
-        {"école", "politesse_directeur", 30},
-        {"inspection", "titre_inspecteur", 50},
-        {"équipe", "référence_classe_enseignant", 5},
-        {"documents", "intitulé_bouton", 30},
-        {"documents", "post_scriptum", 254},
-        {"paramètres", "intitulé_champ_paramétrable10", 20},
-        {"paramètres", "infobulle_champ_paramétrable3", 50},
-        {"passe", "passe", 10}};
-    for (const auto& [table, name, limit] : limits) {
-        SCOPED_TRACE(std::string(table) + "." + name);
-        const FieldInfo f = column(table, name);
-        EXPECT_EQ(f.type, FieldType::Text);
-        EXPECT_GE(f.size, limit);
-        auto rs = db->OpenRecordset(table);
+    const std::map<QString, FieldType> types = {{"Text", FieldType::Text},
+                                                {"Memo", FieldType::Memo},
+                                                {"Boolean", FieldType::Boolean},
+                                                {"Date", FieldType::Date}};
+    for (const QStringList& c : table_de_données("modele_colonnes.tsv")) {
+        SCOPED_TRACE((c[0] + u'.' + c[1]).toStdString());
+        const FieldInfo f = column(c[0], c[1]);
+        EXPECT_EQ(f.type, types.at(c[2]));
+        if (c[3].isEmpty())
+            continue;
+        EXPECT_GE(f.size, c[3].toInt());
+        auto rs = db->OpenRecordset(c[0]);
         rs->AddNew();
-        EXPECT_EQ(error_of([&] { rs->setField(name, QString(limit, u'é')); }), 0);
+        EXPECT_EQ(error_of([&] { rs->setField(c[1], QString(c[3].toInt(), u'é')); }), 0);
     }
-    for (const char* memo : {"observations_générales", "observations_médicales", "champ_paramétable5",
-                             "champ_paramétable9", "champ_paramétable10", "référence_famille"})
-        EXPECT_EQ(column("élèves", memo).type, FieldType::Memo) << memo;
-    EXPECT_EQ(column("familles", "observations_assurance").type, FieldType::Memo);
-    for (const char* date : {"date_naissance_élève", "date_inscription_élève", "date_radiation_élève"})
-        EXPECT_EQ(column("élèves", date).type, FieldType::Date) << date;
-}
-
-TEST_F(Template, LookupValuesFitTheBoxesTheyFeed) {
-    EXPECT_LE(column("sexe", "détails").size, column("élèves", "sexe_élève").size);
-    EXPECT_LE(column("niveaux", "cycle").size, column("équipe", "cycle_classe_enseignant").size);
-    EXPECT_LE(column("niveaux", "code").size, column("équipe", "niveau_classe_enseignant").size);
-    EXPECT_LE(column("csp", "code").size, column("familles", "csp_responsable_légal").size);
-    EXPECT_LE(column("assertions", "détails").size, column("familles", "communication_données").size);
-    EXPECT_LE(column("nationalités", "code").size, column("élèves", "code_nationalité_élève").size);
-    EXPECT_LE(column("nationalités", "détails").size, column("élèves", "nationalité_élève").size);
-    EXPECT_LE(column("genres", "détails").size, column("familles", "genre_conjoint").size);
-    EXPECT_LE(column("langues_vivantes", "détails").size, column("élèves", "langue_vivante_élève").size);
-    EXPECT_LE(column("médecins", "ville").size, column("familles", "ville_médecin_traitant").size);
-    EXPECT_LE(column("villes", "code_postal").size, column("école", "code_postal_école").size);
+    for (const QStringList& c : table_de_données("modele_consultations.tsv"))
+        EXPECT_LE(column(c[0], c[1]).size, column(c[2], c[3]).size) << c.join(u' ').toStdString();
 }
 
 TEST_F(Template, LookupTablesCarryUsefulFrenchRows) {
@@ -128,9 +88,9 @@ TEST_F(Template, ThreeLetterTemplatesAndAnEmptyAccessCode) {
         EXPECT_EQ(db->OpenRecordset(empty)->RecordCount(), 0) << empty;
 }
 
-TEST(Demonstration, FillsFamiliesAndPupilsThatBelongTogether) {
-    TemplateBase base;
-    auto db = Database::open(base.path());
+using Demonstration = StoreTest;
+
+TEST_F(Demonstration, FillsFamiliesAndPupilsThatBelongTogether) {
     remplir_démonstration(*db, Démonstration{200, 3});
     auto pupils = db->OpenRecordset("SELECT * FROM élèves ORDER BY matricule ASC");
     EXPECT_EQ(pupils->RecordCount(), 200);
@@ -167,9 +127,7 @@ QSet<QString> rows_of(Database& db, const QString& sql, const QStringList& colum
     return out;
 }
 
-TEST(Demonstration, NamesOnlyRowsOfTheLookups) {
-    TemplateBase base;
-    auto db = Database::open(base.path());
+TEST_F(Demonstration, NamesOnlyRowsOfTheLookups) {
     remplir_démonstration(*db, Démonstration{60, 5});
     const auto expect_rows_of = [&](const QString& records, const QStringList& fields, const QString& lookup,
                                     const QStringList& columns) {
@@ -199,10 +157,10 @@ TEST(Demonstration, NamesOnlyRowsOfTheLookups) {
                    "hôpitaux", practice);
 }
 
-TEST(Demonstration, TheSameSeedGivesTheSameSchool) {
+TEST(DemonstrationSeed, TheSameSeedGivesTheSameSchool) {
     auto names = [](quint32 seed) {
-        TemplateBase base;
-        auto db = Database::open(base.path());
+        WorkFolder dossier;
+        auto db = Database::open(copie_du_modèle(dossier));
         remplir_démonstration(*db, Démonstration{40, seed});
         QStringList out;
         auto rs = db->OpenRecordset("SELECT * FROM élèves ORDER BY matricule ASC");
