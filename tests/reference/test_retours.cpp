@@ -2,13 +2,12 @@
 // is part of the program and whose lookup is a grid screen, the caller's button opens the lookup, a
 // pick lands in the caller's fields in the table's order, the lookup closes, the focus and the tab
 // follow, and the caller's row carries the values into the file.
-#include "Consultations.h"
-
 #include "platform/forms/DBGrid.h"
 #include "platform/forms/DataControl.h"
 #include "store/Module1.h"
 #include "support/Donnees.h"
 #include "support/PiloteEcran.h"
+#include "support/Programme.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -34,10 +33,6 @@ struct Cas {
     QString focus; // empty for none
 };
 
-void PrintTo(const Cas& c, std::ostream* os) {
-    *os << (c.consultation + u' ' + QString::number(c.origine_appel) + u' ' + c.bouton).toStdString();
-}
-
 // The calling screens built so far: their menu command and their table.
 struct Appelant {
     const char* nom;
@@ -54,6 +49,10 @@ const Appelant* appelant_nommé(const QString& nom) {
         if (nom == u(a.nom))
             return &a;
     return nullptr;
+}
+
+void PrintTo(const Cas& c, std::ostream* os) {
+    *os << (c.consultation + u' ' + QString::number(c.origine_appel) + u' ' + c.bouton).toStdString();
 }
 
 std::vector<Cas> cas_jouables() {
@@ -93,7 +92,13 @@ int page_de(QTabWidget& onglets, QWidget& w) {
     return -1;
 }
 
-class RetourDUnChoix : public ConsultationsTest, public ::testing::WithParamInterface<Cas> {};
+class RetourDUnChoix : public ProgrammeSurModèle, public ::testing::WithParamInterface<Cas> {
+protected:
+    void SetUp() override {
+        ProgrammeSurModèle::SetUp();
+        remplir_consultations();
+    }
+};
 
 TEST_P(RetourDUnChoix, LandsInTheCallersFieldsInOrderClosesTheLookupAndSetsFocusAndTab) {
     const Cas& r = GetParam();
@@ -145,15 +150,13 @@ TEST_P(RetourDUnChoix, LandsInTheCallersFieldsInOrderClosesTheLookupAndSetsFocus
         auto* champ_focus = appelant.findChild<QLineEdit*>(r.focus);
         ASSERT_NE(champ_focus, nullptr);
         EXPECT_EQ(QApplication::focusWidget(), champ_focus);
-        if (onglets) {
+        if (onglets)
             EXPECT_EQ(onglets->currentIndex(), page_de(*onglets, *champ_focus));
-        }
     } else {
         // The focus comes back to the caller where the user left it: on the button pressed.
         EXPECT_EQ(QApplication::focusWidget(), bouton);
-        if (onglets) {
+        if (onglets)
             EXPECT_EQ(onglets->currentIndex(), page_avant);
-        }
     }
     EXPECT_TRUE(ui().boxes().empty());
 

@@ -5,31 +5,37 @@
 #include "support/BaseDirecte.h"
 #include "support/Fixtures.h"
 
-#include <QString>
-#include <QStringList>
 #include <memory>
 
 class DBGrid;
 class feuille_élève;
 class feuille_équipe;
 
-// The program started on a copy of the template, with its main window up and a few rows in the
-// lookup tables the template leaves empty, one pupil and one teacher.
-class ConsultationsTest : public WorkFolderTest {
+// The program on a fresh copy of the template (no pupil, no teacher, the template's lookups and
+// letters), its main window up.
+class ProgrammeSurModèle : public WorkFolderTest {
 protected:
     void SetUp() override;
     void TearDown() override;
 
     // A menu command, as the user picks it.
     void menu(const char* nom);
-    feuille_élève& ouvrir_élève();
+    // "Gestion du fichier des &Elèves"; `activer` also brings its window in front and active.
+    feuille_élève& ouvrir_élève(bool activer = false);
     feuille_équipe& ouvrir_équipe();
     // A screen by its name, loaded or nullptr.
     static FeuilleFiche* chargée(const QString& nom);
 
+    // The file, behind the program's back.
+    void sql(const char* jet) const { exécuter_par_le_moteur(base, u(jet)); }
     QStringList fichier(const char* table, const char* colonne) const {
         return colonne_du_fichier(base, u(table), u(colonne));
     }
+    void ajouter_élève(const QString& matricule, const QString& nom = {}, const QString& prénom = {},
+                       const QString& référence = {}) const;
+    // Two towns in place of the template's thousands and a few rows in the lookup tables it leaves
+    // empty, so that a grid row names a known value; one pupil and one teacher.
+    void remplir_consultations() const;
 
     QString base;
     std::unique_ptr<MDIForm1> mdi;

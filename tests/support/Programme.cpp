@@ -1,0 +1,113 @@
+#include "support/Programme.h"
+
+#include "people/feuille_eleve.h"
+#include "platform/forms/DataControl.h"
+#include "platform/forms/DBGrid.h"
+#include "reference/feuille_equipe.h"
+#include "shell/commandes.h"
+#include "store/Module1.h"
+#include "support/PiloteEcran.h"
+
+#include <QApplication>
+#include <QTest>
+#include <stdexcept>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+template <class F> F& chargée_ou_échec(const char* quoi) {
+    auto* f = module1().feuilles().siChargée<F>();
+    if (!f)
+        throw std::runtime_error(quoi);
+    return *f;
+}
+
+QPoint centre(DBGrid& grille, int ligne, int colonne) {
+    return grille.visualRect(grille.model()->index(ligne, colonne)).center();
+}
+
+} // namespace
+
+void ProgrammeSurModèle::SetUp() {
+    WorkFolderTest::SetUp();
+    base = copie_du_modèle(folder);
+    module1().base_en_cours = base;
+    mdi = std::make_unique<MDIForm1>();
+    mdi->show();
+    QApplication::setActiveWindow(mdi.get());
+}
+
+void ProgrammeSurModèle::TearDown() {
+    WorkFolderTest::TearDown();
+    mdi.reset();
+}
+
+void ProgrammeSurModèle::menu(const char* nom) {
+    exécuter_commande(*mdi, u(nom));
+}
+
+feuille_élève& ProgrammeSurModèle::ouvrir_élève(bool activer) {
+    menu("menuenfantsindex1");
+    auto& f = chargée_ou_échec<feuille_élève>("la fiche élève ne s'est pas ouverte");
+    if (activer)
+        montrer_active(f);
+    return f;
+}
+
+feuille_équipe& ProgrammeSurModèle::ouvrir_équipe() {
+    menu("menuparamètresindex3");
+    return chargée_ou_échec<feuille_équipe>("la fiche enseignant ne s'est pas ouverte");
+}
+
+FeuilleFiche* ProgrammeSurModèle::chargée(const QString& nom) {
+    for (Feuille* f : module1().feuilles().chargées())
+        if (f->objectName() == nom)
+            return dynamic_cast<FeuilleFiche*>(f);
+    return nullptr;
+}
+
+void ProgrammeSurModèle::ajouter_élève(const QString& matricule, const QString& nom, const QString& prénom,
+                                       const QString& référence) const {
+    auto texte = [](const QString& v) {
+        return v.isNull() ? u"NULL"_s : u'\'' + QString(v).replace(u'\'', u"''"_s) + u'\'';
+    };
+    exécuter_par_le_moteur(
+        base,
+        u"INSERT INTO élèves (matricule, nom_élève, prénom_élève, référence_famille) "
+        u"VALUES (%1, %2, %3, %4)"_s.arg(texte(matricule), texte(nom), texte(prénom), texte(référence)));
+}
+
+void ProgrammeSurModèle::remplir_consultations() const {
+    for (const char* jet : {
+             "DELETE * FROM villes",
+             "INSERT INTO adresses (détails) VALUES (\"rue des Écoles\")",
+             "INSERT INTO adresses (détails) VALUES (\"allée des Tilleuls\")",
+             "INSERT INTO assurances (détails) VALUES (\"Mutuelle des Écoles\")",
+             "INSERT INTO assurances (détails) VALUES (\"Assurance du Val\")",
+             "INSERT INTO villes (code_postal, détails) VALUES (\"31000\", \"Toulouse\")",
+             "INSERT INTO villes (code_postal, détails) VALUES (\"81100\", \"Castres\")",
+             "INSERT INTO hôpitaux (nom, téléphone, adresse, ville) VALUES (\"Purpan\", \"0561000001\", "
+             "\"place du Docteur Baylac\", \"Toulouse\")",
+             "INSERT INTO hôpitaux (nom, téléphone, adresse, ville) VALUES (\"Rangueil\", \"0561000002\", "
+             "\"avenue Jean Poulhès\", \"Toulouse\")",
+             "INSERT INTO médecins (nom, téléphone, adresse, ville) VALUES (\"Dr Aubert\", \"0563000001\", "
+             "\"rue Villegoudou\", \"Castres\")",
+             "INSERT INTO médecins (nom, téléphone, adresse, ville) VALUES (\"Dr Bru\", \"0563000002\", "
+             "\"rue Sabatier\", \"Castres\")",
+             "INSERT INTO élèves (matricule, nom_élève, prénom_élève) VALUES (\"000001\", \"MARTIN\", "
+             "\"Léa\")",
+             "INSERT INTO équipe (nom_enseignant, référence_classe_enseignant, niveau_classe_enseignant, "
+             "cycle_classe_enseignant) VALUES (\"DURAND\", \"12\", \"CE1\", \"2\")",
+         })
+        sql(jet);
+}
+
+void cliquer_cellule(DBGrid& grille, int ligne, int colonne) {
+    QTest::mouseClick(grille.viewport(), Qt::LeftButton, {}, centre(grille, ligne, colonne));
+}
+
+void double_cliquer_cellule(DBGrid& grille, int ligne, int colonne) {
+    cliquer_cellule(grille, ligne, colonne);
+    QTest::mouseDClick(grille.viewport(), Qt::LeftButton, {}, centre(grille, ligne, colonne));
+}
