@@ -59,35 +59,29 @@ protected:
 
 } // namespace
 
-TEST_F(Files, DirNamesAFileWithItsAccentsAndCommasReadOnlyOrNot) {
-    EXPECT_EQ(Dir(folder.write("options.ini", "0\r\n")), "options.ini");
-    EXPECT_EQ(Dir(folder.write("école, année 2024.mdb", "x")), "école, année 2024.mdb");
-    const QString readOnly = folder.write("lecture.mdb", "x");
-    makeReadOnly(readOnly);
-    EXPECT_EQ(Dir(readOnly), "lecture.mdb");
-}
-
-TEST_F(Files, DirIsEmptyForWhatIsNotThereFoldersAndHiddenFiles) {
-    const QString hidden = folder.write(".cachée.mdb", "x");
-    for (const QString& path :
-         {f("absent.mdb"), f("nulle_part/absent.mdb"), QString(), mkdir("sous_dossier"), hidden, f("*.mdb")})
-        EXPECT_EQ(Dir(path), QString()) << path.toStdString();
-}
-
-TEST_F(Files, DirWithWildcardsGivesTheFirstMatchInNameOrder) {
-    for (const char* name : {"b.mdb", "a.mdb", "c.txt"})
+// Dir names a file, accents, commas and read-only included, or the first match of its wildcards in name
+// order; it is empty for what is not there, folders and hidden files. Brackets are no wildcards.
+TEST_F(Files, DirNamesAFileOrTheFirstMatchInNameOrder) {
+    mkdir("seul");
+    for (const char* name : {"école, année 2024.mdb", "b.mdb", "a.mdb", "c.txt", ".cachée.mdb", "[a].xls",
+                             "seul/sans_extension"})
         folder.write(name, "x");
-    EXPECT_EQ(Dir(f("*.mdb")), "a.mdb");
-    EXPECT_EQ(Dir(f("?.txt")), "c.txt");
-    EXPECT_EQ(Dir(f("*.rpt")), QString());
-}
-
-TEST_F(Files, StarDotStarIsEveryFileAndBracketsAreNoWildcards) {
-    folder.write("sans_extension", "x");
-    EXPECT_EQ(Dir(f("*.*")), "sans_extension");
-    folder.write("[a].mdb", "x");
-    EXPECT_EQ(Dir(f("[a]*")), "[a].mdb");
-    EXPECT_EQ(Dir(f("a*")), QString());
+    makeReadOnly(f("b.mdb"));
+    mkdir("sous_dossier");
+    const std::pair<QString, const char*> cas[] = {{f("école, année 2024.mdb"), "école, année 2024.mdb"},
+                                                   {f("b.mdb"), "b.mdb"},
+                                                   {f("*.mdb"), "a.mdb"},
+                                                   {f("?.txt"), "c.txt"},
+                                                   {f("*.rpt"), ""},
+                                                   {f("[a]*"), "[a].xls"},
+                                                   {f("seul/*.*"), "sans_extension"},
+                                                   {f("absent.mdb"), ""},
+                                                   {f("nulle_part/absent.mdb"), ""},
+                                                   {QString(), ""},
+                                                   {f("sous_dossier"), ""},
+                                                   {f(".cachée.mdb"), ""}};
+    for (const auto& [chemin, nom] : cas)
+        EXPECT_EQ(Dir(chemin), QString::fromUtf8(nom)) << chemin.toStdString();
 }
 
 TEST_F(Files, KillRemovesTheFileOrEveryWildcardMatch) {
