@@ -157,19 +157,4 @@ TEST_F(Demonstration, NamesOnlyRowsOfTheLookups) {
                    "hôpitaux", practice);
 }
 
-TEST(DemonstrationSeed, TheSameSeedGivesTheSameSchool) {
-    auto names = [](quint32 seed) {
-        WorkFolder dossier;
-        auto db = Database::open(copie_du_modèle(dossier));
-        remplir_démonstration(*db, Démonstration{40, seed});
-        QStringList out;
-        auto rs = db->OpenRecordset("SELECT * FROM élèves ORDER BY matricule ASC");
-        for (; !rs->isEOF(); rs->MoveNext())
-            out << rs->field("prénom_élève").toString() + rs->field("date_naissance_élève").toString();
-        return out;
-    };
-    EXPECT_EQ(names(11), names(11));
-    EXPECT_NE(names(11), names(12));
-}
-
 } // namespace
