@@ -229,15 +229,6 @@ TEST_F(FicheEleveSurBase, ATemplateGoneFromTheFileOpensANewOne) {
     EXPECT_EQ(fichier("documents", "intitulé_bouton"), QStringList{u("Autre")});
 }
 
-TEST_F(FicheEleveSurBase, EditingATemplateWhenNoneIsLeftReportsTheMissingRecord) {
-    feuille_élève& f = ouvrir_sur_modèles("('Seul', '')");
-    sql("DELETE FROM documents");
-    ui().expectMsgBox(vbOK);
-    cliquer(f, u("Command6"));
-    EXPECT_TRUE(ui().lastBox().text.startsWith(erreur_3021));
-    EXPECT_FALSE(module1().feuilles().get<feuille_documents>().isVisible());
-}
-
 TEST_F(FicheEleveSurBase, TheTemplateListIsOnlyRead) {
     feuille_élève& f = ouvrir_sur_modèles("('Seul', '')");
     montrer_active(f);

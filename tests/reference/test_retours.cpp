@@ -74,17 +74,6 @@ std::vector<Cas> cas_jouables() {
     return cas;
 }
 
-std::string nom_du_cas(const ::testing::TestParamInfo<Cas>& info) {
-    // Test names take ASCII letters only: the accents are dropped from their letters.
-    const QString nom =
-        info.param.consultation + u'_' + QString::number(info.param.origine_appel) + u'_' + info.param.bouton;
-    std::string propre;
-    for (const QChar c : nom.normalized(QString::NormalizationForm_D))
-        if ((c.isLetterOrNumber() && c.unicode() < 128) || c == u'_')
-            propre += static_cast<char>(c.unicode());
-    return propre;
-}
-
 int page_de(QTabWidget& onglets, QWidget& w) {
     for (int page = 0; page < onglets.count(); ++page)
         if (onglets.widget(page)->isAncestorOf(&w))
@@ -167,6 +156,6 @@ TEST_P(RetourDUnChoix, LandsInTheCallersFieldsInOrderClosesTheLookupAndSetsFocus
             << r.cibles[i].colonne_fichier.toStdString();
 }
 
-INSTANTIATE_TEST_SUITE_P(TableDesRetours, RetourDUnChoix, ::testing::ValuesIn(cas_jouables()), nom_du_cas);
+INSTANTIATE_TEST_SUITE_P(TableDesRetours, RetourDUnChoix, ::testing::ValuesIn(cas_jouables()));
 
 } // namespace

@@ -37,36 +37,25 @@ protected:
     }
 };
 
-// The whole tree as the user reads it: level, control name, caption ("-" a separator).
-struct Entrée {
-    int niveau;
-    QString nom, légende;
-    bool operator==(const Entrée&) const = default;
-};
-
-void PrintTo(const Entrée& e, std::ostream* os) {
-    *os << e.niveau << " " << e.nom.toStdString() << " \"" << e.légende.toStdString() << "\"";
-}
-
-void parcourir(const QMenu* menu, int niveau, std::vector<Entrée>& entrées) {
+// The whole tree as the user reads it, one line an entry: level, control name, caption ("-" a separator).
+void parcourir(const QMenu* menu, int niveau, QStringList& lues) {
     for (const QAction* a : menu->actions()) {
-        entrées.push_back({niveau, a->objectName(), a->isSeparator() ? u"-"_s : a->text()});
+        lues << u"%1\t%2\t%3"_s.arg(niveau).arg(a->objectName(), a->isSeparator() ? u"-"_s : a->text());
         if (a->menu() != nullptr)
-            parcourir(a->menu(), niveau + 1, entrées);
+            parcourir(a->menu(), niveau + 1, lues);
     }
 }
 
 TEST_F(FenêtrePrincipale, LÉtiquetteEtLArbreDesMenusÀLaLettre) {
     MDIForm1& fenêtre = démarrer();
     EXPECT_EQ(fenêtre.windowTitle(), "Norvane - version 2");
-    std::vector<Entrée> lues;
+    QStringList lues, attendues;
     for (const QAction* a : fenêtre.fenêtre->menuBar()->actions()) {
-        lues.push_back({0, a->objectName(), a->text()});
+        lues << u"0\t%1\t%2"_s.arg(a->objectName(), a->text());
         parcourir(a->menu(), 1, lues);
     }
-    std::vector<Entrée> attendues;
     for (const QStringList& e : table_de_données(u"menus.tsv"_s))
-        attendues.push_back({e[0].toInt(), e[1], e[2]});
+        attendues << e.join(u'\t');
     EXPECT_EQ(lues, attendues);
 }
 
