@@ -40,16 +40,6 @@ TEST_F(Values, ADateColumnHoldingAnotherTextShowsItAsItStands) {
     EXPECT_EQ(values("SELECT * FROM élèves", "date_naissance_élève"), textes);
 }
 
-TEST_F(Values, DateOrderIsChronologicalNotTextual) {
-    for (const char* date : {"15/01/2018", "02/12/2017", "30/06/2018", "01/01/2019"})
-        add("élèves", {{"date_naissance_élève", date}});
-    EXPECT_EQ(values("SELECT * FROM élèves ORDER BY date_naissance_élève ASC", "date_naissance_élève"),
-              (QStringList{"02/12/2017", "15/01/2018", "30/06/2018", "01/01/2019"}));
-    EXPECT_EQ(
-        values("SELECT * FROM élèves ORDER BY date_naissance_élève DESC", "date_naissance_élève").first(),
-        "01/01/2019");
-}
-
 TEST_F(Values, ATextThatIsNoDateIsRefusedAndTheBufferKeepsItsValue) {
     pupils->AddNew();
     pupils->setField("date_naissance_élève", "12/05/2018");

@@ -79,13 +79,4 @@ TEST_F(ParNom, TheFocusCannotGoToAHiddenScreenNorToADisabledField) {
     EXPECT_EQ(error_of([&] { SetFocus(*f.devant); }), 5) << "a disabled field";
 }
 
-TEST_F(ParNom, TheFocusBringsTheFieldsPageForward) {
-    auto& f = module1().feuilles().get<écran_nommé>();
-    montrer_active(f);
-    ASSERT_EQ(f.onglets->currentIndex(), 0);
-    SetFocus(*f.derrière);
-    EXPECT_EQ(f.onglets->currentIndex(), 1);
-    EXPECT_EQ(QApplication::focusWidget(), f.derrière);
-}
-
 } // namespace

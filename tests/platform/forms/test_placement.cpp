@@ -101,19 +101,3 @@ TEST(Colours, StoredWithBlueInTheHighByteAndShownBehindALabel) {
     fixer_BackColor(label, 0x80FFFF);
     EXPECT_TRUE(label.autoFillBackground()) << "without it a label's back colour does not show";
 }
-
-TEST(BlinkingTimer, RunsAtItsIntervalUnderItsNameAndGoesWithItsScreen) {
-    auto label = std::make_unique<QLabel>();
-    int ticks = 0;
-    QPointer<QTimer> timer = minuterie_clignotante(*label, 600, [&] { ++ticks; });
-    ASSERT_FALSE(timer.isNull());
-    EXPECT_EQ(timer->objectName(), u"Timer1"_s);
-    EXPECT_EQ(timer->interval(), 600);
-    EXPECT_TRUE(timer->isActive());
-    EXPECT_EQ(label->findChild<QTimer*>(u"Timer1"_s), timer.data());
-    QMetaObject::invokeMethod(timer.data(), "timeout");
-    QMetaObject::invokeMethod(timer.data(), "timeout");
-    EXPECT_EQ(ticks, 2);
-    label.reset();
-    EXPECT_TRUE(timer.isNull());
-}
