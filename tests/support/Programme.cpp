@@ -1,11 +1,12 @@
 #include "support/Programme.h"
 
 #include "people/feuille_eleve.h"
-#include "platform/forms/DataControl.h"
 #include "platform/forms/DBGrid.h"
+#include "platform/forms/DataControl.h"
 #include "reference/feuille_equipe.h"
 #include "shell/commandes.h"
 #include "store/Module1.h"
+#include "support/Donnees.h"
 #include "support/PiloteEcran.h"
 
 #include <QApplication>
@@ -79,28 +80,8 @@ void ProgrammeSurModèle::ajouter_élève(const QString& matricule, const QStrin
 }
 
 void ProgrammeSurModèle::remplir_consultations() const {
-    for (const char* jet : {
-             "DELETE * FROM villes",
-             "INSERT INTO adresses (détails) VALUES (\"rue des Écoles\")",
-             "INSERT INTO adresses (détails) VALUES (\"allée des Tilleuls\")",
-             "INSERT INTO assurances (détails) VALUES (\"Mutuelle des Écoles\")",
-             "INSERT INTO assurances (détails) VALUES (\"Assurance du Val\")",
-             "INSERT INTO villes (code_postal, détails) VALUES (\"31000\", \"Toulouse\")",
-             "INSERT INTO villes (code_postal, détails) VALUES (\"81100\", \"Castres\")",
-             "INSERT INTO hôpitaux (nom, téléphone, adresse, ville) VALUES (\"Purpan\", \"0561000001\", "
-             "\"place du Docteur Baylac\", \"Toulouse\")",
-             "INSERT INTO hôpitaux (nom, téléphone, adresse, ville) VALUES (\"Rangueil\", \"0561000002\", "
-             "\"avenue Jean Poulhès\", \"Toulouse\")",
-             "INSERT INTO médecins (nom, téléphone, adresse, ville) VALUES (\"Dr Aubert\", \"0563000001\", "
-             "\"rue Villegoudou\", \"Castres\")",
-             "INSERT INTO médecins (nom, téléphone, adresse, ville) VALUES (\"Dr Bru\", \"0563000002\", "
-             "\"rue Sabatier\", \"Castres\")",
-             "INSERT INTO élèves (matricule, nom_élève, prénom_élève) VALUES (\"000001\", \"MARTIN\", "
-             "\"Léa\")",
-             "INSERT INTO équipe (nom_enseignant, référence_classe_enseignant, niveau_classe_enseignant, "
-             "cycle_classe_enseignant) VALUES (\"DURAND\", \"12\", \"CE1\", \"2\")",
-         })
-        sql(jet);
+    for (const QStringList& instruction : table_de_données(u"consultations_lignes.tsv"_s))
+        exécuter_par_le_moteur(base, instruction[0]);
 }
 
 void cliquer_cellule(DBGrid& grille, int ligne, int colonne) {

@@ -33,8 +33,8 @@ protected:
     }
     void ajouter_élève(const QString& matricule, const QString& nom = {}, const QString& prénom = {},
                        const QString& référence = {}) const;
-    // Two towns in place of the template's thousands and a few rows in the lookup tables it leaves
-    // empty, so that a grid row names a known value; one pupil and one teacher.
+    // The rows of tests/data/consultations_lignes.tsv: a few known values in the lookups, one pupil and
+    // one teacher.
     void remplir_consultations() const;
 
     QString base;
