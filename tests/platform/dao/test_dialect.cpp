@@ -2,6 +2,7 @@
 #include "platform/dao/StoreTestSupport.h"
 
 #include "platform/dao/JetSql.h"
+#include "support/Donnees.h"
 
 namespace {
 
@@ -10,26 +11,8 @@ using dao::translate_statement;
 
 // Statements as the program writes them and as the engine receives them.
 TEST(Dialect, JetTextIsTranslatedWordForWord) {
-    const std::pair<const char*, const char*> cas[] = {
-        // double-quoted text is a string, never a column
-        {"SELECT * FROM sexe WHERE détails LIKE \"nom_élève\"",
-         "SELECT * FROM sexe WHERE détails LIKE 'nom_élève'"},
-        {"SELECT * FROM a WHERE b = \"il dit \"\"oui\"\"\"", "SELECT * FROM a WHERE b = 'il dit \"oui\"'"},
-        {"SELECT * FROM a WHERE b = \"l'école\"", "SELECT * FROM a WHERE b = 'l''école'"},
-        // brackets name tables and columns
-        {"select * from [école]", "select * from \"école\""},
-        {"SELECT [nom de \"x\"] FROM t", "SELECT \"nom de \"\"x\"\"\" FROM t"},
-        // DELETE * FROM, and booleans
-        {"DELETE * FROM élèves", "DELETE FROM élèves"},
-        {"delete élèves.* from élèves", "delete from élèves"},
-        {"UPDATE élèves SET ainé = True WHERE ainé = false", "UPDATE élèves SET ainé = 1 WHERE ainé = 0"},
-        // #dates# and & concatenation
-        {"SELECT * FROM t WHERE d < #9/1/2015#", "SELECT * FROM t WHERE d < '2015-09-01'"},
-        {"SELECT a & \"x\" FROM t", "SELECT a || 'x' FROM t"},
-        {"DELETE * FROM villes;", "DELETE FROM villes"},
-    };
-    for (const auto& [jet, moteur] : cas)
-        EXPECT_EQ(translate_statement(jet), moteur);
+    for (const QStringList& c : table_de_données("jet_traductions.tsv"))
+        EXPECT_EQ(translate_statement(c[0]), c[1]);
 }
 
 TEST(Dialect, MalformedTextIsASyntaxError) {
