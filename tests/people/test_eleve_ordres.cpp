@@ -183,17 +183,6 @@ TEST_F(OrdresEleves, AnApostropheInTheAnswerIsReportedAtTheTopAndTheProgramGoesO
     EXPECT_EQ(élève_affiché(f), u("MARTIN Zoé"));
 }
 
-TEST_F(OrdresEleves, ASearchOnAnEmptySetIsReportedAtTheTop) {
-    feuille_élève& f = ouvrir();
-    // A query with no pupil, as a family without children leaves it.
-    f.datPrimaryRS->setRecordSource(u("SELECT * FROM élèves WHERE référence_famille = 'aucune'"));
-    f.datPrimaryRS->Refresh();
-    ui().expectInputBox(u("000001")).expectMsgBox();
-    cliquer(f, u("Command2"));
-    EXPECT_TRUE(une_boîte(ui(), texte_erreur(ErrorBoxKind::standard, VbError(3021))));
-    EXPECT_TRUE(module1().feuilles().isLoaded<feuille_élève>());
-}
-
 class AgeAfficheSurLaFiche : public ProgrammeSurModèle {
 protected:
     void SetUp() override {

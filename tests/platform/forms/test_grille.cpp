@@ -73,16 +73,6 @@ TEST_F(GrilleTest, shows_every_row_under_its_heading_and_an_empty_new_row_at_the
     EXPECT_FALSE(g.isRowHidden(g.newRow()));
 }
 
-TEST_F(GrilleTest, the_grid_and_the_navigator_follow_each_other) {
-    auto& f = ouvrir();
-    DBGrid& g = *f.grdDataGrid;
-    cliquer(*f.datPrimaryRS, "dernier");
-    EXPECT_EQ(g.currentIndex().row(), 2);
-    aller(g, 1, 1);
-    EXPECT_EQ(f.datPrimaryRS->Caption(), "Fiche: 2");
-    EXPECT_EQ(f.datPrimaryRS->Recordset().field("code").toString(), "B");
-}
-
 TEST_F(GrilleTest, col_and_text_read_the_current_cell_typed_text_included) {
     auto& f = ouvrir();
     DBGrid& g = *f.grdDataGrid;

@@ -31,45 +31,32 @@ TEST(ListesFichiers, ReprendreLeLecteurEnCoursNEstPasUnChangement) {
     EXPECT_EQ(changements.count(), 1);
 }
 
+// The file list follows its pattern whatever the case and shows no folder; a click, or a move of the
+// selection by the keyboard, is a Click.
 TEST(ListesFichiers, LaListeDesFichiersSuitSonMotifSansDistinguerLaCasseNiMontrerLesDossiers) {
     WorkFolder dossier;
-    dossier.write("b.MDB", "x");
-    dossier.write("a.mdb", "x");
-    dossier.write("basevide.mdz", "x");
-    dossier.write(".cachée.mdb", "x");
+    for (const char* nom : {"b.MDB", "a.mdb", "basevide.mdz", ".cachée.mdb"})
+        dossier.write(nom, "x");
     QDir(dossier.path()).mkdir("dossier.mdb");
     FileListBox fichiers;
     fichiers.setPattern("*.mdb");
     fichiers.setPath(dossier.path());
     EXPECT_EQ(textes(fichiers), (QStringList{"a.mdb", "b.MDB"}));
     EXPECT_EQ(fichiers.FileName(), "");
+    fichiers.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&fichiers));
     QSignalSpy clics(&fichiers, &FileListBox::Click);
-    EXPECT_TRUE(fichiers.cliquer("b.MDB"));
-    EXPECT_EQ(fichiers.FileName(), "b.MDB");
-    EXPECT_EQ(clics.count(), 1);
+    EXPECT_TRUE(fichiers.cliquer("a.mdb"));
     EXPECT_FALSE(fichiers.cliquer("absente.mdb"));
+    QTest::keyClick(&fichiers, Qt::Key_Down);
+    EXPECT_EQ(fichiers.FileName(), "b.MDB");
+    EXPECT_EQ(clics.count(), 2);
+    QTest::keyClick(&fichiers, Qt::Key_Down); // already the last: nothing moves
+    QTest::keyClick(&fichiers, Qt::Key_Shift);
+    EXPECT_EQ(clics.count(), 2);
     dossier.write("c.mdb", "x");
     fichiers.Refresh();
     EXPECT_EQ(textes(fichiers), (QStringList{"a.mdb", "b.MDB", "c.mdb"}));
-}
-
-TEST(ListesFichiers, DéplacerLaSélectionAuClavierEstUnClic) {
-    WorkFolder dossier;
-    dossier.write("a.mdb", "x");
-    dossier.write("b.mdb", "x");
-    FileListBox fichiers;
-    fichiers.setPattern("*.mdb");
-    fichiers.setPath(dossier.path());
-    fichiers.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&fichiers));
-    ASSERT_TRUE(fichiers.cliquer("a.mdb"));
-    QSignalSpy clics(&fichiers, &FileListBox::Click);
-    QTest::keyClick(&fichiers, Qt::Key_Down);
-    EXPECT_EQ(fichiers.FileName(), "b.mdb");
-    EXPECT_EQ(clics.count(), 1);
-    QTest::keyClick(&fichiers, Qt::Key_Down); // already the last: nothing moves
-    QTest::keyClick(&fichiers, Qt::Key_Shift);
-    EXPECT_EQ(clics.count(), 1);
 }
 
 TEST(ListesFichiers, LaListeDesDossiersMontreLaBrancheEtLesSousDossiersEtSeDéplaceAuDoubleClic) {
