@@ -15,6 +15,7 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
+#include <map>
 
 namespace {
 
@@ -34,22 +35,10 @@ struct Cas {
 };
 
 // The calling screens built so far: their menu command and their table.
-struct Appelant {
-    const char* nom;
-    const char* menu;
-    const char* table;
+const std::map<QString, std::pair<const char*, const char*>> appelants = {
+    {u("feuille_élève"), {"menuenfantsindex1", "élèves"}},
+    {u("feuille_équipe"), {"menuparamètresindex3", "équipe"}},
 };
-const Appelant appelants[] = {
-    {"feuille_élève", "menuenfantsindex1", "élèves"},
-    {"feuille_équipe", "menuparamètresindex3", "équipe"},
-};
-
-const Appelant* appelant_nommé(const QString& nom) {
-    for (const Appelant& a : appelants)
-        if (nom == u(a.nom))
-            return &a;
-    return nullptr;
-}
 
 void PrintTo(const Cas& c, std::ostream* os) {
     *os << (c.consultation + u' ' + QString::number(c.origine_appel) + u' ' + c.bouton).toStdString();
@@ -61,7 +50,7 @@ std::vector<Cas> cas_jouables() {
         à_grille << écran[1];
     std::vector<Cas> cas;
     for (const QStringList& r : table_de_données(u("retours.tsv"))) {
-        if (!à_grille.contains(r[0]) || !appelant_nommé(r[2]))
+        if (!à_grille.contains(r[0]) || !appelants.contains(r[2]))
             continue;
         std::vector<Cible> cibles;
         for (const QString& c : r[4].split(u' ')) {
@@ -91,8 +80,8 @@ protected:
 
 TEST_P(RetourDUnChoix, LandsInTheCallersFieldsInOrderClosesTheLookupAndSetsFocusAndTab) {
     const Cas& r = GetParam();
-    const Appelant& comment = *appelant_nommé(r.appelant);
-    menu(comment.menu);
+    const auto& [commande, table] = appelants.at(r.appelant);
+    menu(commande);
     ASSERT_NE(chargée(r.appelant), nullptr);
     Feuille& appelant = *chargée(r.appelant);
     auto* bouton = appelant.findChild<QPushButton*>(r.bouton);
@@ -151,8 +140,7 @@ TEST_P(RetourDUnChoix, LandsInTheCallersFieldsInOrderClosesTheLookupAndSetsFocus
 
     cliquer(appelant, u("cmdMettreàjour"));
     for (qsizetype i = 0; i < attendues.size(); ++i)
-        EXPECT_EQ(colonne_du_fichier(base, u(comment.table), r.cibles[i].colonne_fichier).value(0),
-                  attendues[i])
+        EXPECT_EQ(colonne_du_fichier(base, u(table), r.cibles[i].colonne_fichier).value(0), attendues[i])
             << r.cibles[i].colonne_fichier.toStdString();
 }
 

@@ -110,20 +110,3 @@ TEST_F(ErrorBoxes, UntrappedFailureInATimerSlotIsShownAndTheProgramGoesOn) {
     ASSERT_EQ(ui().boxes().size(), 2u);
     EXPECT_TRUE(ui().lastBox().text.startsWith(QString::fromUtf8("Le logiciel a rencontré l'erreur : 51")));
 }
-
-TEST_F(ErrorBoxes, UntrappedFailureInAClickHandlerIsShownAndTheButtonStillWorks) {
-    ui().expectMsgBox().expectMsgBox();
-    QPushButton button(u"&Valider"_s);
-    int clicks = 0;
-    QObject::connect(&button, &QPushButton::clicked, [&] {
-        ++clicks;
-        throw std::runtime_error("boom");
-    });
-    button.show();
-    QTest::mouseClick(&button, Qt::LeftButton);
-    QTest::mouseClick(&button, Qt::LeftButton);
-    EXPECT_EQ(clicks, 2);
-    ASSERT_EQ(ui().boxes().size(), 2u);
-    EXPECT_EQ(ui().lastBox().text,
-              QString::fromUtf8("Le logiciel a rencontré l'erreur : 51\n\nErreur interne"));
-}
