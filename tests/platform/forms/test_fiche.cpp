@@ -83,6 +83,10 @@ TEST_F(FicheTest, every_kind_of_bound_control_shows_the_current_row_and_writes_b
     EXPECT_EQ(f.naissance->text(), "25/12/2016");
     EXPECT_EQ(f.naissance_affichée->text(), "25/12/2016")
         << "a label showing the same column is no edit of its own";
+    f.libellé->setText("étiquette"); // a label the code writes is an edit of its own
+    EXPECT_TRUE(f.datPrimaryRS->DataChanged());
+    cliquer(f, "cmdMettreàjour");
+    EXPECT_EQ(colonne_du_fichier(base, "fiches", "libellé").first(), "étiquette");
     cliquer(*f.datPrimaryRS, "dernier");
     EXPECT_EQ(f.nom->text(), "Charlie");
     EXPECT_EQ(f.naissance->text(), "") << "an empty date shows as an empty box";

@@ -29,6 +29,9 @@ TEST(ListesFichiers, ReprendreLeLecteurEnCoursNEstPasUnChangement) {
     EXPECT_EQ(changements.count(), 1);
     emit lecteurs.activated(autre);
     EXPECT_EQ(changements.count(), 1);
+    const int lecteurs_connus = lecteurs.count();
+    lecteurs.setDrive(QDir::rootPath()); // a drive already listed is not listed twice
+    EXPECT_EQ(lecteurs.count(), lecteurs_connus);
 }
 
 // The file list follows its pattern whatever the case and shows no folder; a click, or a move of the
