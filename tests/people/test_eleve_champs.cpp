@@ -5,17 +5,12 @@
 #include "support/Fixtures.h"
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QStyle>
 #include <QStyleOptionComboBox>
-#include <QTabWidget>
 #include <QTimer>
-#include <gtest/gtest.h>
-#include <memory>
 
 using namespace Qt::StringLiterals;
 

@@ -2,16 +2,8 @@
 // sibling question, the captions of the configurable fields and the letter templates.
 #include "people/feuille_eleve.h"
 #include "platform/forms/DBGrid.h"
-#include "platform/forms/DataControl.h"
 #include "reports/feuille_documents.h"
-#include "store/Module1.h"
-#include "support/PiloteEcran.h"
 #include "support/Programme.h"
-
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QTabWidget>
 
 namespace {
 

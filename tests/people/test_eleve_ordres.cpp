@@ -1,21 +1,11 @@
 // The pupil screen's orders, its two jumps to one pupil and its age display, on a small school whose
 // names carry accents.
 #include "people/feuille_eleve.h"
-#include "platform/forms/DataControl.h"
 #include "platform/ui/ErrorBoxes.h"
-#include "store/Module1.h"
 #include "support/Donnees.h"
-#include "support/PiloteEcran.h"
 #include "support/Programme.h"
 
 #include <QAbstractItemView>
-#include <QApplication>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QTabWidget>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 

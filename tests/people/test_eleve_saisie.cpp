@@ -8,11 +8,8 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QTabBar>
-#include <QTabWidget>
 #include <QTest>
-#include <memory>
 
 using namespace Qt::StringLiterals;
 

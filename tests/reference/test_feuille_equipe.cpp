@@ -1,17 +1,8 @@
 // The teaching team: its record screen, and the class picker of the pupil screen.
 #include "people/feuille_eleve.h"
-#include "platform/forms/DataControl.h"
 #include "reference/feuille_equipe.h"
-#include "store/Module1.h"
 #include "support/Donnees.h"
-#include "support/PiloteEcran.h"
 #include "support/Programme.h"
-
-#include <QApplication>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTabWidget>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 

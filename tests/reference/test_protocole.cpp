@@ -2,22 +2,12 @@
 // an accept by an old origine_appel, a second lookup opened meanwhile, the keys, and genres.
 #include "people/feuille_eleve.h"
 #include "platform/forms/DBGrid.h"
-#include "platform/forms/DataControl.h"
 #include "platform/forms/Placement.h"
 #include "platform/ui/ErrorBoxes.h"
 #include "reference/feuille_equipe.h"
-#include "store/Module1.h"
 #include "support/Donnees.h"
-#include "support/PiloteEcran.h"
 #include "support/Programme.h"
-
-#include <QApplication>
-#include <QLineEdit>
-#include <QMdiArea>
 #include <QMdiSubWindow>
-#include <QPushButton>
-#include <QTabWidget>
-#include <QTest>
 
 namespace {
 

@@ -3,18 +3,10 @@
 // pick lands in the caller's fields in the table's order, the lookup closes, the focus and the tab
 // follow, and the caller's row carries the values into the file.
 #include "platform/forms/DBGrid.h"
-#include "platform/forms/DataControl.h"
-#include "store/Module1.h"
 #include "support/Donnees.h"
-#include "support/PiloteEcran.h"
 #include "support/Programme.h"
 
-#include <QApplication>
-#include <QLineEdit>
 #include <QMdiSubWindow>
-#include <QPushButton>
-#include <QTabWidget>
-#include <QTest>
 #include <map>
 
 namespace {

@@ -6,14 +6,7 @@
 #include "reports/feuille_documents.h"
 #include "store/Module1.h"
 #include "support/BaseDirecte.h"
-#include "support/Fixtures.h"
 #include "support/PiloteEcran.h"
-
-#include <QCheckBox>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 

@@ -7,6 +7,7 @@
 #include "store/feuille_choix_base.h"
 #include "support/BaseDirecte.h"
 #include "support/Fixtures.h"
+#include "support/PiloteEcran.h"
 
 #include <QAction>
 #include <QFile>

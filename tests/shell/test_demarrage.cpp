@@ -2,11 +2,8 @@
 
 #include "shell/feuille_options.h"
 
-#include <QCheckBox>
 #include <QDir>
-#include <QMdiArea>
 #include <QTimer>
-#include <QWindow>
 
 using namespace Qt::StringLiterals;
 

@@ -3,17 +3,12 @@
 #include "platform/forms/ListesFichiers.h"
 #include "shell/commandes.h"
 #include "support/Donnees.h"
-#include "support/PiloteEcran.h"
 
-#include <QApplication>
-#include <QLineEdit>
 #include <QMainWindow>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPushButton>
 #include <QStatusBar>
-#include <QTest>
 #include <QWindow>
 
 using namespace Qt::StringLiterals;

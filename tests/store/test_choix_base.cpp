@@ -13,12 +13,8 @@
 #include "store/feuille_login.h"
 #include "store/ouverture_base.h"
 
-#include <QCheckBox>
 #include <QDir>
-#include <QLineEdit>
-#include <QMdiArea>
 #include <QMdiSubWindow>
-#include <QPushButton>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;

@@ -7,9 +7,6 @@
 #include "store/ouverture_base.h"
 #include "store/ouvrir_table.h"
 
-#include <QDir>
-#include <QLineEdit>
-
 using namespace Qt::StringLiterals;
 
 namespace {

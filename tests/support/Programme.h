@@ -1,9 +1,12 @@
 #pragma once
 
+#include "platform/forms/DataControl.h"
 #include "platform/forms/FeuilleFiche.h"
 #include "shell/MDIForm1.h"
+#include "store/Module1.h"
 #include "support/BaseDirecte.h"
 #include "support/Fixtures.h"
+#include "support/PiloteEcran.h"
 
 #include <memory>
 

@@ -2,7 +2,6 @@
 #include "support/Fixtures.h"
 
 #include <QDir>
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 

@@ -1,16 +1,9 @@
 #include "EcransEssai.h"
 
 #include "platform/forms/DBGrid.h"
-#include "platform/forms/DataControl.h"
 #include "platform/forms/LimiteSaisie.h"
 
-#include "support/BaseDirecte.h"
 #include "support/Donnees.h"
-#include <QCheckBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QTabWidget>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;

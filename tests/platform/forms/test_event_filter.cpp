@@ -1,15 +1,12 @@
-#include "platform/errors/VbError.h"
 #include "platform/forms/Feuille.h"
 #include "store/Module1.h"
 #include "support/Fixtures.h"
 
 #include <QApplication>
-#include <QFocusEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QStringList>
 #include <QTest>
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 

@@ -2,20 +2,9 @@
 // handlers of the buttons, the error paths, tab following.
 #include "EcransEssai.h"
 
-#include "platform/forms/DataControl.h"
 #include "platform/forms/FieldRows.h"
 #include "platform/forms/LimiteSaisie.h"
 #include "platform/ui/ErrorBoxes.h"
-#include "store/Module1.h"
-#include "support/PiloteEcran.h"
-
-#include <QCheckBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QTabWidget>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 

@@ -2,16 +2,7 @@
 // empty new row, add form B, leaving a line, deleting, Col and Text.
 #include "EcransEssai.h"
 
-#include "platform/errors/VbError.h"
 #include "platform/forms/DBGrid.h"
-#include "platform/forms/DataControl.h"
-#include "store/Module1.h"
-#include "support/PiloteEcran.h"
-
-#include <QHeaderView>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 

@@ -1,7 +1,6 @@
 // The navigator's arrows as the user reads them: |< < > >|.
 #include "platform/forms/DataControl.h"
 
-#include <QIcon>
 #include <QImage>
 #include <QToolButton>
 #include <gtest/gtest.h>

@@ -1,15 +1,9 @@
 // Screens reached by name, and the focus given from another screen.
-#include "platform/errors/VbError.h"
 #include "platform/forms/Feuille.h"
 #include "platform/forms/Focus.h"
 #include "store/Module1.h"
-#include "support/Fixtures.h"
 #include "support/PiloteEcran.h"
 
-#include <QApplication>
-#include <QLineEdit>
-#include <QTabWidget>
-#include <QTest>
 #include <QVBoxLayout>
 #include <stdexcept>
 

@@ -8,10 +8,7 @@
 #include <QLabel>
 #include <QMdiArea>
 #include <QScreen>
-#include <QSignalSpy>
-#include <QTimer>
 #include <QVBoxLayout>
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 

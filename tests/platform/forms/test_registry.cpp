@@ -9,7 +9,6 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QStringList>
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 

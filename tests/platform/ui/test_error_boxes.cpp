@@ -3,9 +3,7 @@
 #include "support/Fixtures.h"
 
 #include <QCoreApplication>
-#include <QPushButton>
 #include <QStringList>
-#include <QTest>
 #include <QTimer>
 #include <gtest/gtest-spi.h>
 #include <stdexcept>

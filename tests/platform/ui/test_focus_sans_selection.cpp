@@ -1,5 +1,4 @@
 #include <QLineEdit>
-#include <QTableWidget>
 #include <QTest>
 #include <QVBoxLayout>
 #include <QWidget>

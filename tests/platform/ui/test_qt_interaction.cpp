@@ -9,8 +9,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
-#include <functional>
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 

@@ -1,10 +1,9 @@
 // The scripted user is the safety net of every screen test: what it records and answers is used by all
 // of them; here, only that a box, a screen or an answer the test did not foresee makes the test fail.
 #include "platform/forms/Feuille.h"
-#include "support/ScriptedInteraction.h"
+#include "support/Fixtures.h"
 
 #include <gtest/gtest-spi.h>
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
@@ -34,8 +33,6 @@ TEST(ScriptedInteraction, AnUnexpectedModalScreenFailsTheTest) {
     feuille_essai f;
     EXPECT_NONFATAL_FAILURE(ui.showModal(f), "feuille_essai");
 }
-
-#include "support/Fixtures.h"
 
 // Unused answers fail the test at the end of the session.
 TEST(ScriptedSession, UnusedAnswersFailTheTestAtItsEnd) {

@@ -1,10 +1,7 @@
 // Record numbers are counted by converting typed text to numbers and back with leading zeros.
-#include "platform/errors/VbError.h"
 #include "platform/vb/Conversions.h"
 #include "support/Donnees.h"
 #include "support/Fixtures.h"
-
-#include <gtest/gtest.h>
 
 namespace {
 
