@@ -6,7 +6,6 @@
 
 namespace {
 
-using dao::parse_select;
 using dao::translate_statement;
 
 // Statements as the program writes them and as the engine receives them.
@@ -22,22 +21,6 @@ TEST(Dialect, MalformedTextIsASyntaxError) {
         SCOPED_TRACE(wrong);
         EXPECT_THROW(translate_statement(wrong), dao::JetSyntaxError);
     }
-}
-
-TEST(Dialect, SelectsAreReadIntoTableColumnsCriterionAndOrder) {
-    const auto q =
-        parse_select("SELECT * FROM familles ORDER BY nom_responsable_légal DESC, prénom_responsable_légal");
-    EXPECT_EQ(q.table, "familles");
-    EXPECT_TRUE(q.columns.isEmpty());
-    ASSERT_EQ(q.order.size(), 2u);
-    EXPECT_TRUE(q.order[0].descending);
-    EXPECT_FALSE(q.order[1].descending);
-    const auto w = parse_select("SELECT détails FROM situations_familiales WHERE détails LIKE \"a*\"");
-    EXPECT_EQ(w.columns, QStringList{"détails"});
-    EXPECT_EQ(w.where, "détails LIKE 'a*'");
-    EXPECT_EQ(parse_select("[paramètres]").table, "paramètres");
-    EXPECT_THROW(parse_select("SELECT * FROM a, b"), dao::JetSyntaxError);
-    EXPECT_THROW(parse_select("SELECT * FROM a GROUP BY x"), dao::JetSyntaxError);
 }
 
 class Execute : public StoreTest {};

@@ -162,11 +162,8 @@ TEST_F(Compaction, RefusesAnExistingTargetAMissingSourceAndANonBase) {
     EXPECT_EQ(error_of([&] { CompactDatabase(base, base); }), 3204);
     EXPECT_EQ(error_of([&] { CompactDatabase(dossier.file("absent.mdb"), dossier.file("c.mdb")); }), 3024);
     EXPECT_EQ(error_of([&] { CompactDatabase(base, dossier.file("absent/c.mdb")); }), 3044);
-    QFile noise(dossier.file("bruit.mdb"));
-    noise.open(QIODevice::WriteOnly);
-    noise.write(QByteArray(4096, 'z'));
-    noise.close();
-    EXPECT_EQ(error_of([&] { CompactDatabase(dossier.file("bruit.mdb"), dossier.file("c.mdb")); }), 3343);
+    const QString bruit = dossier.write("bruit.mdb", QByteArray(4096, 'z'));
+    EXPECT_EQ(error_of([&] { CompactDatabase(bruit, dossier.file("c.mdb")); }), 3343);
     EXPECT_FALSE(QFile::exists(dossier.file("c.mdb")));
 }
 

@@ -50,18 +50,6 @@ TEST_F(Values, ATextThatIsNoDateIsRefusedAndTheBufferKeepsItsValue) {
     EXPECT_EQ(pupils->field("date_naissance_élève").toString(), "12/05/2018");
 }
 
-TEST_F(Values, ATrueAinéIsWhatTrueSelects) {
-    add("élèves", {{"matricule", "000001"}, {"ainé", true}});
-    add("élèves", {{"matricule", "000002"}, {"ainé", false}});
-    add("élèves", {{"matricule", "000003"}}); // a new row's box is unticked
-    EXPECT_EQ(values("SELECT * FROM élèves WHERE ainé = True", "matricule"), QStringList{"000001"});
-    auto rs = db->OpenRecordset("SELECT * FROM élèves ORDER BY matricule ASC");
-    rs->MoveLast();
-    EXPECT_EQ(rs->field("ainé"), QVariant(false));
-    rs->MoveFirst();
-    EXPECT_EQ(rs->field("ainé"), QVariant(true));
-}
-
 // Columns are found whatever their case; text longer than its column is refused, a memo has no limit.
 TEST_F(Values, TextLongerThanItsColumnIsRefused) {
     EXPECT_EQ(pupils->fieldIndex("NOM_ÉLÈVE"), pupils->fieldIndex("nom_élève"));

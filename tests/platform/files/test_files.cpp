@@ -102,20 +102,6 @@ TEST_F(Files, FileCopyReplacesTheTargetWholeOrWritesNothing) {
     EXPECT_EQ(contentOf(source), QByteArray(200000, 'n'));
 }
 
-TEST_F(Files, MkDirMakesOneFolderAndRmDirRemovesOnlyAnEmptyOne) {
-    MkDir(f("sauvegardes"));
-    EXPECT_TRUE(QFileInfo(f("sauvegardes")).isDir());
-    folder.write("fichier", "x");
-    EXPECT_EQ(error_of([&] { MkDir(f("sauvegardes")); }), 75);
-    EXPECT_EQ(error_of([&] { MkDir(f("fichier")); }), 75);
-    EXPECT_EQ(error_of([&] { MkDir(f("a/b")); }), 76);
-    mkdir("plein/dedans");
-    EXPECT_EQ(error_of([&] { RmDir(f("plein")); }), 75);
-    RmDir(f("plein/dedans"));
-    EXPECT_FALSE(QFileInfo::exists(f("plein/dedans")));
-    EXPECT_EQ(error_of([&] { RmDir(f("absent")); }), 76);
-}
-
 TEST_F(Files, NameRenamesButNeverOverAnExistingFile) {
     const QString old = folder.write("ancien.mdb", "contenu");
     const QString taken = folder.write("pris.mdb", "autre");

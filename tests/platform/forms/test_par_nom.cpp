@@ -11,8 +11,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-int chargements = 0;
-
 // A screen with a field in front and one on the second page of its tabs.
 class écran_nommé : public Feuille {
 public:
@@ -26,7 +24,6 @@ public:
         onglets->addTab(derrière, u"deux"_s);
         disposition->addWidget(onglets);
     }
-    void Form_Load() override { ++chargements; }
     QLineEdit* devant;
     QLineEdit* derrière;
     QTabWidget* onglets;
@@ -36,7 +33,6 @@ class ParNom : public ScriptedTest {
 protected:
     void SetUp() override {
         ScriptedTest::SetUp();
-        chargements = 0;
         module1().feuilles().faireConnaître<écran_nommé>(u"écran_nommé"_s);
     }
 };
@@ -47,22 +43,6 @@ TEST_F(ParNom, AnUnknownNameGivesNothingAndLoadsNothing) {
     EXPECT_EQ(module1().feuilles().parNom(u"feuille_inconnue"_s), nullptr);
     EXPECT_THROW(module1().feuilles().nommée(u"feuille_inconnue"_s), std::logic_error);
     EXPECT_EQ(module1().feuilles().chargées().size(), avant);
-}
-
-TEST_F(ParNom, AKnownNameLoadsTheScreenHiddenOnceAndAgainAfterAnUnload) {
-    Feuilles& feuilles = module1().feuilles();
-    Feuille* f = feuilles.parNom(u"écran_nommé"_s);
-    ASSERT_NE(f, nullptr);
-    EXPECT_EQ(f, feuilles.siChargée<écran_nommé>());
-    EXPECT_FALSE(f->isVisible());
-    EXPECT_EQ(feuilles.parNom(u"écran_nommé"_s), f);
-    EXPECT_EQ(chargements, 1);
-    f->Unload();
-    processDeletions();
-    feuilles.toutDétruire();
-    ASSERT_TRUE(feuilles.connaît(u"écran_nommé"_s)) << "what is known outlives the screens";
-    EXPECT_NE(feuilles.parNom(u"écran_nommé"_s), nullptr);
-    EXPECT_EQ(chargements, 2);
 }
 
 TEST_F(ParNom, TheFocusCannotGoToAHiddenScreenNorToADisabledField) {

@@ -157,31 +157,6 @@ TEST_F(Registry, ChildScreensGoIntoTheMainWindowAreaWhereClosingTheirWindowUnloa
     feuilles().toutDétruire();
 }
 
-TEST_F(Registry, ResetDestroysEveryScreenWithoutTheirEventsAndUnloadingNothingIsHarmless) {
-    QPointer<Feuille> f(&feuilles().get<feuille_options_essai>());
-    module1().réinitialiser();
-    EXPECT_TRUE(f.isNull());
-    EXPECT_TRUE(module1().feuilles().chargées().empty());
-    EXPECT_TRUE(feuilles().unload<feuille_options_essai>());
-    EXPECT_TRUE(journal.isEmpty());
-}
-
-TEST_F(Registry, AScreenDestroyedBehindTheRegistryInOrOutOfTheAreaIsLoadedAfresh) {
-    QMdiArea area;
-    feuilles().setMdiArea(&area);
-    feuilles().get<feuille_options_essai>();
-    feuilles().setMdiArea(nullptr);
-    area.closeAllSubWindows();
-    qDeleteAll(area.subWindowList());
-    EXPECT_FALSE(feuilles().isLoaded<feuille_options_essai>());
-    auto& f = feuilles().get<feuille_options_essai>();
-    f.Check3->setChecked(true);
-    f.deleteLater();
-    processDeletions();
-    EXPECT_FALSE(feuilles().isLoaded<feuille_options_essai>());
-    EXPECT_FALSE(feuilles().get<feuille_options_essai>().Check3->isChecked());
-}
-
 // Every screen is asked first, then the last loaded goes first, until one cancels.
 TEST_F(Registry, UnloadingEverythingAsksEveryScreenFirstThenUnloadsTheLastLoadedFirstUntilOneCancels) {
     auto& options = feuilles().get<feuille_options_essai>();

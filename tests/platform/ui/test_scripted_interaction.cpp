@@ -1,6 +1,5 @@
 // The scripted user is the safety net of every screen test: what it records and answers is used by all
 // of them; here, only that a box, a screen or an answer the test did not foresee makes the test fail.
-#include "platform/forms/Feuille.h"
 #include "support/Fixtures.h"
 
 #include <gtest/gtest-spi.h>
@@ -17,21 +16,6 @@ TEST(ScriptedInteraction, AnUnexpectedBoxFailsTheTestAndIsAnsweredWithItsFirstBu
     QString typed = u"x"_s;
     EXPECT_NONFATAL_FAILURE(typed = ui.InputBox(u"Nom ?"_s), "Nom ?");
     EXPECT_TRUE(typed.isEmpty()) << "an unexpected input box reads as Cancel";
-}
-
-namespace {
-
-class feuille_essai : public Feuille {
-public:
-    feuille_essai() : Feuille(u"feuille_essai"_s, Genre::haut_niveau) {}
-};
-
-} // namespace
-
-TEST(ScriptedInteraction, AnUnexpectedModalScreenFailsTheTest) {
-    ScriptedInteraction ui;
-    feuille_essai f;
-    EXPECT_NONFATAL_FAILURE(ui.showModal(f), "feuille_essai");
 }
 
 // Unused answers fail the test at the end of the session.
