@@ -126,12 +126,6 @@ TEST_F(FichierOptions, FermerLesOptionsParLaFenêtreNÉcritRienEtLesCasesReparte
     EXPECT_EQ(cases(), (std::vector<int>{0, 0, 0, 0}));
 }
 
-TEST(TexteOptions, LectureDesChampsDélimités) {
-    const LectureOptions l = lire_texte_options("  0 \r\n1\n\"a,b\"  ,2\r\"\"\r\n");
-    EXPECT_EQ(l.valeurs, (QStringList{"0", "1", "a,b", "2", ""}));
-    EXPECT_FALSE(l.erreur.has_value());
-}
-
 // A flag that is no number stops the reading with 13, one out of range with 380.
 TEST(TexteOptions, ValeursDesIndicateurs) {
     EXPECT_EQ(indicateur_lu("0"), 0);

@@ -25,15 +25,6 @@ TEST(Dialect, MalformedTextIsASyntaxError) {
 
 class Execute : public StoreTest {};
 
-TEST_F(Execute, ReportsTheRowsItChangedInOneTransaction) {
-    for (int i = 0; i < 3; ++i)
-        add("familles", {{"ville_responsable", QString("Ville %1").arg(i)}});
-    EXPECT_EQ(db->Execute("UPDATE familles SET code_postal_responsable = \"69000\" WHERE ville_responsable "
-                          "LIKE \"Ville [01]\""),
-              2);
-    EXPECT_EQ(db->Execute("DELETE * FROM familles"), 3);
-}
-
 TEST_F(Execute, ErrorsCarryJetNumbers) {
     EXPECT_EQ(error_of([&] { db->Execute("DELETE * FROM inexistante"); }), 3078);
     EXPECT_EQ(error_of([&] { db->Execute("DELETE * FROM villes WHERE inconnue = 1"); }), 3061);
@@ -55,16 +46,6 @@ TEST_F(Execute, AFailedStatementChangesNothing) {
               3022);
     EXPECT_EQ(values("SELECT * FROM familles WHERE code_postal_responsable = '1'", "ville_responsable"),
               QStringList{});
-}
-
-TEST_F(Execute, TransactionsGroupWritesAndRollBackTogether) {
-    db->BeginTrans();
-    add("familles", {{"ville_responsable", "Bron"}});
-    db->Execute("DELETE * FROM niveaux");
-    db->Rollback();
-    EXPECT_EQ(db->OpenRecordset("familles")->RecordCount(), 0);
-    EXPECT_EQ(db->OpenRecordset("niveaux")->RecordCount(), 12);
-    EXPECT_EQ(error_of([&] { db->CommitTrans(); }), 3034);
 }
 
 } // namespace

@@ -79,15 +79,6 @@ TEST_F(Dynaset, ADeletedRowIsAHoleThatMovesSkip) {
     EXPECT_EQ(db->OpenRecordset("élèves")->RecordCount(), 0);
 }
 
-TEST_F(Dynaset, AbsolutePositionCanBeSet) {
-    rs->setAbsolutePosition(2);
-    EXPECT_EQ(current(), "000003");
-    EXPECT_EQ(error_of([&] { rs->setAbsolutePosition(3); }), 3001);
-    EXPECT_EQ(error_of([&] { rs->setAbsolutePosition(-1); }), 3001);
-    EXPECT_EQ(rs->valueAt(1, rs->fieldIndex("matricule")).toString(), "000002");
-    EXPECT_TRUE(rs->valueAt(7, 0).isNull());
-}
-
 // A duplicate matricule is refused and the row stays edited; pupils without matricule may be several and
 // families share a reference.
 TEST_F(Dynaset, OnlyAMatriculeGivenTwiceIsRefused) {
@@ -106,16 +97,6 @@ TEST_F(Dynaset, OnlyAMatriculeGivenTwiceIsRefused) {
     add("familles", {{"référence_famille", "000001"}});
     add("familles", {{"référence_famille", "000001"}});
     EXPECT_EQ(db->OpenRecordset("familles")->RecordCount(), 2);
-}
-
-TEST_F(Dynaset, FindNextGoesOnFromTheCurrentRow) {
-    rs->FindFirst("nom_élève like 'Nom*'");
-    rs->FindNext("nom_élève like 'Nom*'");
-    EXPECT_EQ(current(), "000002");
-    rs->MoveLast();
-    rs->FindNext("nom_élève like 'Nom*'");
-    EXPECT_TRUE(rs->NoMatch());
-    EXPECT_EQ(current(), "000003");
 }
 
 TEST_F(Dynaset, ARecordsetOfAClosedDatabaseIsNoLongerUsableAndSelectedColumnsAreTheOnlyFields) {

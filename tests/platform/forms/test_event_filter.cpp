@@ -47,12 +47,6 @@ protected:
 
 } // namespace
 
-TEST_F(EventFilter, FocusMovesGiveLostFocusThenGotFocus) {
-    f->nom->setFocus();
-    f->prénom->setFocus();
-    EXPECT_EQ(f->journal, (QStringList{"nom_GotFocus", "nom_LostFocus", "prénom_GotFocus"}));
-}
-
 TEST_F(EventFilter, DoubleClickOnAListReachesItsHandlerThroughTheViewport) {
     const QRect second = f->File1->visualItemRect(f->File1->item(1));
     QTest::mouseClick(f->File1->viewport(), Qt::LeftButton, {}, second.center());

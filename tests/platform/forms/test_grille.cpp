@@ -203,17 +203,6 @@ TEST_F(GrilleTest, escape_closes_a_lookup_screen_whose_unload_hides_its_accept_b
     EXPECT_FALSE(module1().feuilles().isLoaded<feuille_grille_essai>());
 }
 
-TEST_F(GrilleTest, a_refresh_on_a_file_gone_shows_the_standard_words_and_leaves_an_empty_grid) {
-    auto& f = ouvrir();
-    f.datPrimaryRS->setDatabaseName(folder.file("disparue.mdb"));
-    ui().expectMsgBox();
-    cliquer(f, "cmdRafraîchir");
-    EXPECT_TRUE(une_boîte(ui(), u"Le logiciel a rencontré l'erreur : 3024"_s));
-    EXPECT_EQ(f.grdDataGrid->model()->rowCount(), 0);
-    EXPECT_TRUE(f.isVisible());
-    EXPECT_EQ(détails().size(), 3);
-}
-
 TEST_F(GrilleTest, tab_past_the_last_cell_leaves_the_grid_and_opens_no_other_row) {
     auto& f = ouvrir();
     cliquer(f, "cmdAjouter");

@@ -49,14 +49,6 @@ TEST_F(ErrorBoxes, TheThreeBoxesByteForByte) {
     }
 }
 
-TEST_F(ErrorBoxes, NumberIsDecimalWithoutPadding) {
-    ui().expectMsgBox(vbOK).expectMsgBox(vbOK);
-    message_erreur_standard(VbError(5));
-    EXPECT_TRUE(ui().lastBox().text.endsWith(u" : 5\n\nArgument ou appel de procédure incorrect"_s));
-    message_erreur_standard(VbError(0, QString()));
-    EXPECT_EQ(ui().lastBox().text, QString::fromUtf8("Le logiciel a rencontré l'erreur : 0\n\n"));
-}
-
 // A trap ends its body at the failure, keeps what was done, shows the box it is named for and then runs
 // its tidying; when nothing fails it is silent and tidies nothing. The silent trap never shows a box.
 TEST_F(ErrorBoxes, TrapEndsTheBodyAtTheFailureShowsItsBoxAndTidiesAfterIt) {
