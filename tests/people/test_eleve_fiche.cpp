@@ -94,7 +94,7 @@ TEST_F(FicheEleveSurBase, AddNumbersOneAboveTheHighestMatriculeInTextOrderWithLe
     }
 }
 
-TEST_F(FicheEleveSurBase, YesGivesTheNewPupilTheSiblingsReferenceAndNothingElseNoGivesNone) {
+TEST_F(FicheEleveSurBase, YesGivesTheNewPupilTheSiblingsReferenceAndNothingElseOtherwiseNone) {
     ajouter_élève(u("000001"), u("DURAND"), u("Paul"), u("000007"));
     ajouter_élève(u("000002"), u("SEUL"));
     sql("UPDATE élèves SET ville_résidence = 'Lyon', nom_contact1 = 'Mamie'");

@@ -115,19 +115,6 @@ TEST_F(FicheEnseignant, ANewTeacherNotYetSavedCanBeAccepted) {
     EXPECT_EQ(classe_dans_le_fichier(élève), u("14|CM2|3"));
 }
 
-TEST_F(FicheEnseignant, AnotherLookupOpenedMeanwhileLeavesTheAcceptToDisableItselfOnly) {
-    feuille_élève& élève = ouvrir_élève();
-    feuille_équipe& équipe = choisir_la_classe(élève);
-    élève.SSTab1->setCurrentIndex(0);
-    QTest::mouseClick(élève.Command7, Qt::LeftButton);
-    ASSERT_EQ(module1().origine_appel, 1);
-    cliquer(équipe, u("bouton_accepter"));
-    EXPECT_TRUE(module1().feuilles().contient(&équipe));
-    EXPECT_FALSE(équipe.bouton_accepter->isEnabled());
-    EXPECT_EQ(classe(élève), u("||"));
-    EXPECT_TRUE(ui().boxes().empty());
-}
-
 TEST_F(FicheEnseignant, OpenedFromThePupilWhileOpenFromTheMenuOnlyEnablesTheButtonAndUnloadDisablesIt) {
     feuille_équipe& depuis_le_menu = ouvrir_équipe();
     feuille_élève& élève = ouvrir_élève();

@@ -180,18 +180,6 @@ TEST_F(Consultations, ALookupLeftOpenAcceptsByTheValueOfTheLastButtonUsed) {
     EXPECT_NE(chargée(u("feuille_adresses")), nullptr) << "the lookup of the second button stays open";
 }
 
-TEST_F(Consultations, ALookupOpenedAgainFromAnotherFieldReturnsToItsFirstRow) {
-    cliquer(ouvrir_équipe(), u("Command9"));
-    FeuilleFiche& villes = ouverte("feuille_villes");
-    cliquer_cellule(*villes.grdDataGrid, 1);
-    ASSERT_EQ(villes.datPrimaryRS->Recordset().AbsolutePosition(), 1);
-    presser(ouvrir_élève(), "Command10");
-    EXPECT_EQ(chargée(u("feuille_villes")), &villes);
-    EXPECT_EQ(villes.datPrimaryRS->Recordset().AbsolutePosition(), 0);
-    EXPECT_EQ(villes.grdDataGrid->currentIndex().row(), 0);
-    EXPECT_EQ(module1().origine_appel, 1);
-}
-
 TEST_F(Consultations, SexeAcceptingByTheLanguagesValueOnlyHidesItsButton) {
     feuille_élève& élève = ouvrir_élève();
     presser(élève, "Command7");

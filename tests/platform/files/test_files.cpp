@@ -101,13 +101,3 @@ TEST_F(Files, FileCopyReplacesTheTargetWholeOrWritesNothing) {
     EXPECT_EQ(contentOf(tenue), "ancien");
     EXPECT_EQ(contentOf(source), QByteArray(200000, 'n'));
 }
-
-TEST_F(Files, NameRenamesButNeverOverAnExistingFile) {
-    const QString old = folder.write("ancien.mdb", "contenu");
-    const QString taken = folder.write("pris.mdb", "autre");
-    EXPECT_EQ(error_of([&] { Name(old, taken); }), 58);
-    EXPECT_EQ(contentOf(taken), "autre");
-    Name(old, f("nouveau.mdb"));
-    EXPECT_EQ(contentOf(f("nouveau.mdb")), "contenu");
-    EXPECT_EQ(error_of([&] { Name(old, f("x.mdb")); }), 53);
-}

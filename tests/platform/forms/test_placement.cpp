@@ -47,16 +47,6 @@ public:
     feuille_placée() : Feuille(u"feuille_placée"_s, Genre::haut_niveau) { resize(400, 300); }
 };
 
-// A screen sized by its layout that places itself as it loads, as every screen does; at start-up the
-// main window's area is still hidden then.
-class feuille_mise_en_page : public Feuille {
-public:
-    feuille_mise_en_page() : Feuille(u"feuille_mise_en_page"_s) {
-        (new QVBoxLayout(this))->addWidget(new QLabel(QString(80, u'x'), this));
-    }
-    void Form_Load() override { centrer_feuille(*this); }
-};
-
 using PlacingAScreen = ScriptedTest;
 
 } // namespace
@@ -73,20 +63,6 @@ TEST_F(PlacingAScreen, CentrerFeuilleMeasuresTheWholeDisplayAndTheHighOneIsHighe
     centrer_feuille_haute(f);
     EXPECT_NEAR(centred.x() - f.x(), 1000 / twips_par_pixel, 1);
     EXPECT_NEAR(centred.y() - f.y(), 1000 / twips_par_pixel, 1);
-}
-
-// A child screen is placed in the main window's area, not clipped to it, by the size it is shown at even
-// when it loaded before the area was shown.
-TEST_F(PlacingAScreen, AChildScreenIsPlacedInTheAreaByTheSizeItIsShownAt) {
-    QMdiArea area;
-    area.resize(300, 200);
-    module1().feuilles().setMdiArea(&area);
-    auto& f = module1().feuilles().get<feuille_mise_en_page>();
-    area.show();
-    f.Show();
-    EXPECT_EQ(f.conteneur().pos(), position_sur_l_écran(f.conteneur().size(), position_centrée));
-    EXPECT_GT(f.conteneur().x() + f.conteneur().width(), area.width());
-    module1().feuilles().toutDétruire();
 }
 
 TEST(Colours, StoredWithBlueInTheHighByteAndShownBehindALabel) {

@@ -23,8 +23,6 @@ public:
     feuille_options_essai() : Feuille(u"feuille_options_essai"_s) {
         Check3 = new QCheckBox(u"ouvrir le dernier fichier utilisé"_s, this);
         Label4 = new QLabel(this);
-        cmdFermer = new QPushButton(u"&Fermer"_s, this);
-        QObject::connect(cmdFermer, &QPushButton::clicked, this, [this] { Unload(); });
         avantDéchargement([] { journal << u"écriture"_s; });
     }
     void Form_Load() override {
@@ -42,7 +40,6 @@ public:
 
     QCheckBox* Check3;
     QLabel* Label4;
-    QPushButton* cmdFermer;
     int loads = 0;
     int refuseQuery = 0;
     int refuseUnload = 0;
@@ -113,20 +110,6 @@ TEST_F(Registry, CancelInQueryUnloadOrFormUnloadKeepsTheScreen) {
     EXPECT_EQ(journal, déchargement);
     processDeletions();
     EXPECT_EQ(&feuilles().get<feuille_options_essai>(), &f);
-}
-
-TEST_F(Registry, AScreenMayUnloadItselfFromItsOwnHandlerOrByClosingItsWindow) {
-    auto& f = feuilles().get<feuille_options_essai>();
-    f.Show();
-    f.cmdFermer->click();
-    EXPECT_FALSE(feuilles().isLoaded<feuille_options_essai>());
-    processDeletions();
-    auto& again = feuilles().get<feuille_options_essai>();
-    again.Show();
-    journal.clear();
-    again.close();
-    EXPECT_EQ(journal, déchargement);
-    EXPECT_FALSE(feuilles().isLoaded<feuille_options_essai>());
 }
 
 TEST_F(Registry, AFormLoadMayTouchOtherScreensAndItself) {
