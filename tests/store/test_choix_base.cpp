@@ -235,8 +235,6 @@ TEST_F(ChoixDeLaBase, UnCodeRefuséQuandUneBaseEstOuverteLaisseSesMenusQuiVontSu
     ASSERT_NE(sexes, nullptr);
     EXPECT_EQ(sexes->datPrimaryRS->DatabaseName(), QDir::toNativeSeparators(refusée));
     EXPECT_EQ(sexes->datPrimaryRS->Recordset().raw().field("détails").toString(), "F");
-    EXPECT_EQ(ui().modals().size(), 1u);
-    EXPECT_EQ(ui().boxes().size(), 1u);
 }
 
 TEST_F(ChoixDeLaBase, ÀLOuvertureAuDémarrageLeBonCodeNeTrouvePasDÉcranPourLeFocus) {

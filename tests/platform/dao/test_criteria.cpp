@@ -55,10 +55,4 @@ TEST_F(Criteria, AnApostropheOrAMalformedCriterionIsASyntaxErrorAndNothingRunsBe
     EXPECT_EQ(db->OpenRecordset("élèves")->RecordCount(), 4);
 }
 
-TEST_F(Criteria, AnUnknownColumnInACriterionIsNamed) {
-    const VbError e = raised_by([&] { pupils->FindFirst("nom_eleve like 'a*'"); });
-    EXPECT_EQ(e.number(), 3070);
-    EXPECT_TRUE(e.description().contains("nom_eleve"));
-}
-
 } // namespace
