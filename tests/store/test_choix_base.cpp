@@ -7,9 +7,7 @@
 #include "platform/forms/ListesFichiers.h"
 #include "platform/forms/Placement.h"
 #include "reference/feuille_sexe.h"
-#include "shell/feuille_options.h"
 #include "shell/feuille_patientez.h"
-#include "shell/options.h"
 #include "store/feuille_login.h"
 #include "store/ouverture_base.h"
 
@@ -304,11 +302,8 @@ TEST_F(ChoixDeLaBase, UnÉcranDesÉlèvesDéjàOuvertResteSurSonFichierÀLOuvert
     choix()->File1->cliquer("b.mdb");
     ouvrir(*choix());
     EXPECT_EQ(mdi()->Panel1(), barre_pour(folder.file("b.mdb")));
-    feuille_élève* élève = feuilles().siChargée<feuille_élève>();
-    ASSERT_NE(élève, nullptr);
-    EXPECT_TRUE(élève->conteneur().isVisible());
-    EXPECT_EQ(élève->datPrimaryRS->DatabaseName(), première);
-    EXPECT_TRUE(ui().boxes().empty());
+    EXPECT_TRUE(feuilles().get<feuille_élève>().conteneur().isVisible());
+    EXPECT_EQ(feuilles().get<feuille_élève>().datPrimaryRS->DatabaseName(), première);
 }
 
 TEST_F(ChoixDeLaBase, SansOptionCochéeLOuvertureNeMontreAucunÉcran) {
@@ -317,9 +312,7 @@ TEST_F(ChoixDeLaBase, SansOptionCochéeLOuvertureNeMontreAucunÉcran) {
     démarrer_par_clic();
     EXPECT_TRUE(menus_de_données_actifs());
     EXPECT_EQ(feuilles().siChargée<feuille_élève>(), nullptr);
-    const QList<QMdiSubWindow*> fenêtres = mdi()->zone->subWindowList();
-    EXPECT_TRUE(
-        std::none_of(fenêtres.begin(), fenêtres.end(), [](const QWidget* w) { return w->isVisible(); }));
+    EXPECT_TRUE(std::ranges::none_of(mdi()->zone->subWindowList(), &QWidget::isVisible));
 }
 
 } // namespace

@@ -7,8 +7,6 @@
 #include <QDir>
 #include <QFile>
 #include <sqlite3.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace {
 
@@ -93,40 +91,6 @@ TEST_F(Sharing, AnOpenDatabaseBlocksCompactionKillAndCopyUntilClosed) {
     EXPECT_FALSE(fichier_verrouillé(base));
     EXPECT_EQ(error_of([&] { CompactDatabase(base, dossier.file("compacte.mdb")); }), 0);
     EXPECT_EQ(error_of([&] { Kill(base); }), 0);
-}
-
-TEST_F(Sharing, AnotherRunningCopyHoldsTheFileToo) {
-    int ready[2], release[2];
-    ASSERT_EQ(pipe(ready), 0);
-    ASSERT_EQ(pipe(release), 0);
-    const pid_t child = fork();
-    ASSERT_GE(child, 0);
-    if (child == 0) {
-        char c = 0;
-        try {
-            auto db = Database::open(base);
-            (void)!write(ready[1], "o", 1);
-            (void)!read(release[0], &c, 1);
-        } catch (...) {
-            (void)!write(ready[1], "x", 1);
-        }
-        _exit(0);
-    }
-    char state = 0;
-    ASSERT_EQ(read(ready[0], &state, 1), 1);
-    EXPECT_EQ(state, 'o');
-    EXPECT_TRUE(fichier_verrouillé(base));
-    EXPECT_EQ(error_of([&] { CompactDatabase(base, dossier.file("compacte.mdb")); }), 3045);
-    EXPECT_EQ(error_of([&] { Kill(base); }), 70);
-    auto mine = Database::open(base); // sharing with the other copy is fine
-    EXPECT_EQ(mine->OpenRecordset("niveaux")->RecordCount(), 12);
-    (void)!write(release[1], "r", 1);
-    int status = 0;
-    waitpid(child, &status, 0);
-    mine->Close();
-    EXPECT_FALSE(fichier_verrouillé(base));
-    for (int fd : {ready[0], ready[1], release[0], release[1]})
-        close(fd);
 }
 
 TEST_F(Compaction, MakesACompleteValidCopyNoLargerThanTheSource) {

@@ -2,7 +2,6 @@
 // handlers of the buttons, the error paths, tab following.
 #include "EcransEssai.h"
 
-#include "platform/forms/FieldRows.h"
 #include "platform/forms/LimiteSaisie.h"
 #include "platform/ui/ErrorBoxes.h"
 
@@ -18,17 +17,15 @@ protected:
     QString légende(FeuilleFiche& f) const { return f.datPrimaryRS->Caption(); }
 };
 
-// A screen whose data errors are shown and whose caption is the bare position.
+// A screen whose data errors are shown.
 class feuille_essai_bavarde : public feuille_essai {
 public:
     feuille_essai_bavarde() : feuille_essai(configuration()) {}
     static ConfigurationFiche configuration() {
         ConfigurationFiche c = configuration_par_défaut();
         c.nom = u"feuille_essai_bavarde"_s;
-        c.légende = LégendePosition::nue;
         c.boîte_erreur_données = true;
         c.infobulle_rafraîchir = InfobulleRafraîchir::rafraichier;
-        c.suppression = FormeSuppression::sans_piège;
         return c;
     }
 };
@@ -321,13 +318,4 @@ TEST_F(FicheTest, the_configuration_may_leave_out_add_and_delete_and_spell_the_r
     EXPECT_EQ(muette.cmdSupprimer, nullptr);
     EXPECT_EQ(ouvrir<feuille_essai_bavarde>().cmdRafraîchir->toolTip(),
               "Cliquez pour rafraichier les données, dans le cas d'une utilisation multi-utilisateurs");
-}
-
-TEST_F(FicheTest, a_screen_not_yet_pointed_at_a_file_fails_with_the_engine_error_on_refresh) {
-    auto& f = module1().feuilles().get<feuille_essai>();
-    EXPECT_EQ(f.datPrimaryRS->DatabaseName(), "");
-    EXPECT_EQ(f.datPrimaryRS->RecordSource(), "fiches");
-    EXPECT_THROW(f.datPrimaryRS->Recordset(), VbError);
-    f.datPrimaryRS->setDatabaseName(folder.file("absente.mdb"));
-    EXPECT_EQ(error_of([&] { f.datPrimaryRS->Refresh(); }), 3024);
 }
