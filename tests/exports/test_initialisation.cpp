@@ -1,6 +1,6 @@
 // The three commands that empty tables: No at any of the three questions deletes nothing, three Yes
 // empty exactly their tables, with the questions and the final box in their words.
-#include "support/BaseEleves.h"
+#include "support/Programme.h"
 
 #include "platform/dao/Database.h"
 #include "shell/commandes.h"
@@ -12,16 +12,16 @@ namespace {
 
 using Box = ScriptedInteraction::Box;
 
-class Initialisation : public ÉcranÉlèveTest {
+class Initialisation : public ProgrammeSurModèle {
 protected:
     void SetUp() override {
-        ÉcranÉlèveTest::SetUp();
+        ProgrammeSurModèle::SetUp();
         // A row in each table the template leaves empty.
         for (const char* ligne : {"élèves|matricule", "familles|référence_famille", "école|nom_école",
                                   "inspection|nom_inspection", "équipe|genre_enseignant",
                                   "paramètres|intitulé_champ_paramétrable1", "adresses|détails",
                                   "assurances|détails", "hôpitaux|nom", "médecins|nom"})
-            ajouter_ligne(base, u(ligne).section(u'|', 0, 0), u(ligne).section(u'|', 1) + u("=x"));
+            ajouter_ligne(u(ligne).section(u'|', 0, 0), u(ligne).section(u'|', 1) + u("=x"));
     }
     std::map<std::string, qsizetype> lignes() const {
         std::map<std::string, qsizetype> compte;

@@ -1,7 +1,7 @@
 // The gateway export on a small school: the file byte for byte against one written by hand, the
 // appending, the stop at a pupil whose family is gone, the empty table, the refusals, and the two
 // screens where the export leaves them.
-#include "support/BaseEleves.h"
+#include "support/Programme.h"
 
 #include "exports/familles_passerelle.h"
 #include "people/feuille_eleve.h"
@@ -21,12 +21,12 @@ namespace {
 
 using Box = ScriptedInteraction::Box;
 
-class Passerelle : public ÉcranÉlèveTest {
+class Passerelle : public ProgrammeSurModèle {
 protected:
     QString fichier() const { return folder.file(u("NORVANEX.EXP")); }
     void école() {
         for (const QStringList& ligne : table_de_données(u("passerelle_base.tsv")))
-            ajouter_ligne(base, ligne[0], QString(ligne[1]).replace(u("\\n"), u("\n")));
+            ajouter_ligne(ligne[0], QString(ligne[1]).replace(u("\\n"), u("\n")));
     }
     // The folder typed, then the answers to the boxes that follow.
     void exporter(const QString& dossier, std::initializer_list<int> réponses) {
@@ -45,7 +45,7 @@ protected:
 
 TEST_F(Passerelle, EachPupilByHandRulesThenASecondExportAppendsTheSameAgain) {
     école();
-    ouvrir();
+    ouvrir_élève();
     const QByteArray attendu = contentOf(u(NORVANE_TEST_DATA "/passerelle_attendue.exp"));
     const size_t pointeurs = ui().pointerHistory().size();
     exporter(folder.path(), {vbOK, vbOK});
@@ -80,10 +80,10 @@ TEST_F(Passerelle, EachPupilByHandRulesThenASecondExportAppendsTheSameAgain) {
 }
 
 TEST_F(Passerelle, AFamilyGoneStopsAfterTwelveLinesAndTheFileStaysOpenForTheRun) {
-    ajouter_famille(base, u("référence_famille=000001|nom_responsable_légal=A"));
-    ajouter_élève(base, u("000001"), u("UN"), {}, u("000001"));
-    ajouter_élève(base, u("000002"), u("DEUX"), {}, u("999999"));
-    ajouter_élève(base, u("000003"), u("TROIS"));
+    ajouter_famille(u("référence_famille=000001|nom_responsable_légal=A"));
+    ajouter_élève(u("000001"), u("UN"), {}, u("000001"));
+    ajouter_élève(u("000002"), u("DEUX"), {}, u("999999"));
+    ajouter_élève(u("000003"), u("TROIS"));
     exporter(folder.path(), {vbOK});
     EXPECT_EQ(ui().lastBox().text, texte_erreur(ErrorBoxKind::standard, VbError(3021)));
     EXPECT_EQ(ui().pointerHistory().back(), vbDefault);
@@ -111,7 +111,7 @@ TEST_F(Passerelle, AnEmptyTableGivesAnEmptyFileAndSuccessAnEmptyPathNothing) {
 // The family of a reference is the one the family screen's search finds, odd references included.
 TEST_F(Passerelle, AReferenceFindsTheFamilyTheScreensSearchFinds) {
     for (const char* référence : {"000002", "ab1", "00000１", "x*", "000001", "A B"})
-        ajouter_famille(base, u("référence_famille=") + u(référence));
+        ajouter_famille(u("référence_famille=") + u(référence));
     const auto fichier = Database::open(base);
     FamillesPasserelle familles(*fichier);
     for (const char* cherchée :

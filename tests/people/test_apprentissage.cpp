@@ -1,7 +1,7 @@
 // The learning of lookup values, brought to life by enabling its fields: the new row and its word, the
 // lookup pointed back at its whole table, case and wildcards as the engine's LIKE has them, the quote
 // failing into the box; the language and the class with their own departures.
-#include "support/BaseEleves.h"
+#include "support/Programme.h"
 
 #include "people/feuille_eleve.h"
 #include "people/feuille_famille.h"
@@ -20,7 +20,7 @@ namespace {
 
 using Box = ScriptedInteraction::Box;
 
-class Apprentissage : public ÉcranÉlèveTest {
+class Apprentissage : public ProgrammeSurModèle {
 protected:
     // The field enabled, given a text, then left for the list of orders.
     void saisir_et_quitter(Feuille& écran, const QString& nom, const QString& texte) {
@@ -42,7 +42,8 @@ TEST_F(Apprentissage, EachStandardFieldAddsAnUnknownTextOnceWithItsWord) {
     for (qsizetype i = 0; i < table.size(); ++i) {
         const QStringList& r = table[i];
         SCOPED_TRACE(r[1].toStdString());
-        Feuille& écran = r[0] == u("feuille_élève") ? static_cast<Feuille&>(ouvrir()) : ouvrir_familles();
+        Feuille& écran =
+            r[0] == u("feuille_élève") ? static_cast<Feuille&>(ouvrir_élève()) : ouvrir_familles();
         const QStringList avant = détails(r[2]);
         const QString nouveau = u("Nv") + QString::number(i);
         ui().expectMsgBox();
@@ -67,7 +68,7 @@ TEST_F(Apprentissage, EachStandardFieldAddsAnUnknownTextOnceWithItsWord) {
 }
 
 TEST_F(Apprentissage, TheLanguageAddsAtEveryExitAndTheClassTeachesTheFamilySituationInSilence) {
-    feuille_élève& élève = ouvrir();
+    feuille_élève& élève = ouvrir_élève();
     const QStringList langues = détails(u("langues_vivantes"));
     const QString situation =
         u("La situation familiale saisie n'existait pas dans la table 'situations_familiales'.");
@@ -77,7 +78,7 @@ TEST_F(Apprentissage, TheLanguageAddsAtEveryExitAndTheClassTeachesTheFamilySitua
     EXPECT_EQ(détails(u("langues_vivantes")), langues + QStringList(2, u("Occitan")));
     EXPECT_TRUE(ui().lastBox().text.startsWith(situation));
 
-    ajouter_famille(base, u("référence_famille=000001|situation_familiale=Recomposée"));
+    ajouter_famille(u("référence_famille=000001|situation_familiale=Recomposée"));
     ouvrir_familles();
     exécuter_commande(*mdi, u("menuparamètresindex17"));
     const QStringList situations = détails(u("situations_familiales"));

@@ -1,6 +1,6 @@
 // The family screen on a work base: its fields as described, the numbering of new families, the
 // searches, the address copies, the blinking consent, and the ways between a pupil and its family.
-#include "support/BaseEleves.h"
+#include "support/Programme.h"
 
 #include "people/feuille_choix_famille.h"
 #include "people/feuille_eleve.h"
@@ -30,12 +30,12 @@ using Box = ScriptedInteraction::Box;
 const QString erreur = u("Le logiciel a rencontré l'erreur : ");
 const QString pas_liée = u("La fiche de l'élève n'est pas encore liée à la fiche des parents.");
 
-class FicheFamille : public ÉcranÉlèveTest {
+class FicheFamille : public ProgrammeSurModèle {
 protected:
     // Families known by their reference, each named "NOM" and the reference.
     void familles(std::initializer_list<const char*> références) {
         for (const char* r : références)
-            ajouter_famille(base, u("référence_famille=%1|nom_responsable_légal=NOM%1").arg(u(r)));
+            ajouter_famille(u("référence_famille=%1|nom_responsable_légal=NOM%1").arg(u(r)));
     }
     QStringList colonne(const char* nom) const { return colonne_du_fichier(base, u("familles"), u(nom)); }
     bool devant(Feuille& f) const { return mdi->zone->activeSubWindow() == &f.conteneur(); }
@@ -56,7 +56,7 @@ TEST_F(FicheFamille, EveryFieldIsBoundWithItsCaptionLimitHelpTabAndLookupState) 
     QStringList valeurs;
     for (qsizetype i = 0; i < table.size(); ++i)
         valeurs << table[i][2] + u'=' + QString::number(i);
-    ajouter_famille(base, valeurs.join(u'|'));
+    ajouter_famille(valeurs.join(u'|'));
     feuille_famille& f = ouvrir_familles();
     QWidget* précédent = nullptr;
     for (qsizetype i = 0; i < table.size(); ++i) {
@@ -95,8 +95,8 @@ TEST_F(FicheFamille, EveryFieldIsBoundWithItsCaptionLimitHelpTabAndLookupState) 
 
 TEST_F(FicheFamille, EachEntryOfTheListGivesItsOrderFromTheFirstFamily) {
     for (const char* ligne : {"000001|ÉTIENNE", "000002|EMERY", "000003|ZOLA"})
-        ajouter_famille(base, u("référence_famille=%1|nom_responsable_légal=%2")
-                                  .arg(u(ligne).section(u'|', 0, 0), u(ligne).section(u'|', 1)));
+        ajouter_famille(u("référence_famille=%1|nom_responsable_légal=%2")
+                            .arg(u(ligne).section(u'|', 0, 0), u(ligne).section(u'|', 1)));
     feuille_famille& f = ouvrir_familles();
     const char* premières[] = {"000002", "000003", "000001", "000003"};
     for (int i = 0; i < 4; ++i) {
@@ -158,9 +158,9 @@ TEST_F(FicheFamille, ANewFamilyIsNumberedFromTheHighestReferenceInTextOrder) {
 }
 
 TEST_F(FicheFamille, TheThreeSearchesFindTheFirstMatchOfTheOrderWithWildcardsAccentsAndCase) {
-    ajouter_famille(base, u("référence_famille=000001|nom_responsable_légal=DURAND"));
-    ajouter_famille(base, u("référence_famille=000002|nom_responsable_légal=DUPONT|nom_conjoint=DUPRÉ"));
-    ajouter_famille(base, u("référence_famille=000003|nom_responsable_légal=ÉMERY"));
+    ajouter_famille(u("référence_famille=000001|nom_responsable_légal=DURAND"));
+    ajouter_famille(u("référence_famille=000002|nom_responsable_légal=DUPONT|nom_conjoint=DUPRÉ"));
+    ajouter_famille(u("référence_famille=000003|nom_responsable_légal=ÉMERY"));
     feuille_famille& f = ouvrir_familles();
     struct Cas {
         const char *bouton, *réponse, *trouvée;
@@ -190,9 +190,9 @@ TEST_F(FicheFamille, TheThreeSearchesFindTheFirstMatchOfTheOrderWithWildcardsAcc
 }
 
 TEST_F(FicheFamille, Parent1sAddressBecomesParent2sEvenWhenEmpty) {
-    ajouter_famille(base, u("référence_famille=000001|numéro_responsable=3|adresse_responsable=rue d'Arc|"
-                            "code_postal_responsable=69100|ville_responsable=Villeurbanne|"
-                            "adresse2_conjoint=bât. B|téléphone_professionnel1_conjoint=0400"));
+    ajouter_famille(u("référence_famille=000001|numéro_responsable=3|adresse_responsable=rue d'Arc|"
+                      "code_postal_responsable=69100|ville_responsable=Villeurbanne|"
+                      "adresse2_conjoint=bât. B|téléphone_professionnel1_conjoint=0400"));
     feuille_famille& f = ouvrir_familles();
     cliquer(f, u("Command16"));
     EXPECT_EQ(QStringList({f.Text8->text(), f.Text7->text(), f.Text6->text(), f.Text10->text(),
@@ -209,10 +209,10 @@ TEST_F(FicheFamille, Parent1sAddressBecomesParent2sEvenWhenEmpty) {
 // closed, empty and Yes then a double click on a row of the picker.
 TEST_F(FicheFamille, ParentsLeadsToTheFamilyOrSaysItIsMissingOrLinksOrStartsOne) {
     familles({"000001", "000003"});
-    ajouter_élève(base, u("000001"), u("B"), {}, u("000003"));
-    ajouter_élève(base, u("000002"), u("A"), {}, u("000009"));
-    ajouter_élève(base, u("000003"), u("SEUL"));
-    feuille_élève& élève = ouvrir();
+    ajouter_élève(u("000001"), u("B"), {}, u("000003"));
+    ajouter_élève(u("000002"), u("A"), {}, u("000009"));
+    ajouter_élève(u("000003"), u("SEUL"));
+    feuille_élève& élève = ouvrir_élève();
     montrer_active(élève);
     cliquer(élève, u("Command4"));
     EXPECT_TRUE(famille().isVisible() && devant(famille()));
@@ -255,11 +255,10 @@ TEST_F(FicheFamille, ParentsLeadsToTheFamilyOrSaysItIsMissingOrLinksOrStartsOne)
 }
 
 TEST_F(FicheFamille, ThePupilsResidenceCopiesTheFamilyAddressByExactReference) {
-    ajouter_famille(base,
-                    u("référence_famille=000001|numéro_responsable=7|adresse_responsable=rue Haute|"
+    ajouter_famille(u("référence_famille=000001|numéro_responsable=7|adresse_responsable=rue Haute|"
                       "adresse2_responsable=bât. A|code_postal_responsable=69003|ville_responsable=Lyon"));
-    ajouter_élève(base, u("000001"), u("A"), {}, u("00000*"));
-    feuille_élève& élève = ouvrir();
+    ajouter_élève(u("000001"), u("A"), {}, u("00000*"));
+    feuille_élève& élève = ouvrir_élève();
     élève.téléphone1_résidence->setText(u("0102"));
     oui_non(élève, "Command16", vbNo);
     EXPECT_EQ(ui().lastBox(), Box::titled(pas_liée, vbYesNo + vbQuestion));
@@ -278,10 +277,10 @@ TEST_F(FicheFamille, ThePupilsResidenceCopiesTheFamilyAddressByExactReference) {
 // alone; a family without any offers to start one, with its reference and no matricule.
 TEST_F(FicheFamille, FromPupilToFamilyAndBackToItsChildrenAlone) {
     familles({"000001", "000002", "000003"});
-    ajouter_élève(base, u("000001"), u("AÎNÉ"), {}, u("000002"));
-    ajouter_élève(base, u("000002"), u("AUTRE"), {}, u("000001"));
-    ajouter_élève(base, u("000003"), u("CADET"));
-    feuille_élève& élève = ouvrir();
+    ajouter_élève(u("000001"), u("AÎNÉ"), {}, u("000002"));
+    ajouter_élève(u("000002"), u("AUTRE"), {}, u("000001"));
+    ajouter_élève(u("000003"), u("CADET"));
+    feuille_élève& élève = ouvrir_élève();
     montrer_active(élève);
     cliquer(*élève.datPrimaryRS, u("dernier"));
     oui_non(élève, "Command4", vbYes);

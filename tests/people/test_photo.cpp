@@ -1,7 +1,7 @@
 // The pupil's photo: the picture follows the record, a missing file leaves the frame empty and a file
 // that is no image says so; the picker's three steps (a change of folder clears the choice, a click
 // makes it, "&Accepter" gives it to the pupil).
-#include "support/BaseEleves.h"
+#include "support/Programme.h"
 
 #include "generator/Portraits.h"
 #include "people/feuille_choix_photo.h"
@@ -18,7 +18,7 @@
 
 namespace {
 
-class Photo : public ÉcranÉlèveTest {
+class Photo : public ProgrammeSurModèle {
 protected:
     QString image(const char* nom) {
         const QString chemin = folder.file(u(nom));
@@ -26,7 +26,7 @@ protected:
         return chemin;
     }
     void élève_avec_photo(const char* matricule, const QString& chemin) {
-        ajouter_élève(base, u(matricule));
+        ajouter_élève(u(matricule));
         exécuter_par_le_moteur(
             base,
             u("UPDATE élèves SET chemin_photo = '%1' WHERE matricule = '%2'").arg(chemin, u(matricule)));
@@ -38,7 +38,7 @@ TEST_F(Photo, ThePictureFollowsTheRecordAndAFileThatIsNoImageSaysSo) {
     élève_avec_photo("000001", image("a.jpg"));
     élève_avec_photo("000002", folder.file(u("partie.jpg")));
     élève_avec_photo("000003", folder.write(u("faux.jpg"), "pas une image"));
-    feuille_élève& f = ouvrir();
+    feuille_élève& f = ouvrir_élève();
     EXPECT_TRUE(montrée(*f.photo));
     cliquer(*f.datPrimaryRS, u("suivant"));
     EXPECT_FALSE(montrée(*f.photo));
@@ -51,11 +51,11 @@ TEST_F(Photo, ThePictureFollowsTheRecordAndAFileThatIsNoImageSaysSo) {
 }
 
 TEST_F(Photo, ThePickerClearsOnAFolderChangeSetsOnAClickAndGivesOnAccept) {
-    ajouter_élève(base, u("000001"));
+    ajouter_élève(u("000001"));
     const QString b = image("B.JPG");
     image("c.gif.png");
     QDir(folder.path()).mkdir(u("sous"));
-    feuille_élève& f = ouvrir();
+    feuille_élève& f = ouvrir_élève();
     cliquer(f, u("Command14"));
     auto* choix = module1().feuilles().siChargée<feuille_choix_photo>();
     ASSERT_NE(choix, nullptr);

@@ -1,6 +1,6 @@
 // The one-row sheets: the school's and the inspection's fields as described, kept in the file across a
 // closing; the captions of the pupil's free fields, which the pupil screen takes when pointed again.
-#include "Consultations.h"
+#include "support/Programme.h"
 
 #include "people/feuille_eleve.h"
 #include "platform/forms/LimiteSaisie.h"
@@ -17,7 +17,13 @@
 
 namespace {
 
-class FeuillesUniques : public ConsultationsTest {};
+class FeuillesUniques : public ProgrammeSurModèle {
+protected:
+    void SetUp() override {
+        ProgrammeSurModèle::SetUp();
+        remplir_consultations();
+    }
+};
 
 // Where the Tab key goes from a control: the next one in the chain that takes the focus by Tab.
 QWidget* suivant(QWidget* w) {

@@ -2,20 +2,12 @@
 // is part of the program and whose lookup is a grid screen, the caller's button opens the lookup, a
 // pick lands in the caller's fields in the table's order, the lookup closes, the focus and the tab
 // follow, and the caller's row carries the values into the file.
-#include "Consultations.h"
-
 #include "platform/forms/DBGrid.h"
-#include "platform/forms/DataControl.h"
-#include "store/Module1.h"
 #include "support/Donnees.h"
-#include "support/PiloteEcran.h"
+#include "support/Programme.h"
 
-#include <QApplication>
-#include <QLineEdit>
 #include <QMdiSubWindow>
-#include <QPushButton>
-#include <QTabWidget>
-#include <QTest>
+#include <map>
 
 namespace {
 
@@ -34,29 +26,14 @@ struct Cas {
     QString focus; // empty for none
 };
 
+// The calling screens built so far: their menu command and their table.
+const std::map<QString, std::pair<const char*, const char*>> appelants = {
+    {u("feuille_élève"), {"menuenfantsindex1", "élèves"}},
+    {u("feuille_équipe"), {"menuparamètresindex3", "équipe"}},
+};
+
 void PrintTo(const Cas& c, std::ostream* os) {
     *os << (c.consultation + u' ' + QString::number(c.origine_appel) + u' ' + c.bouton).toStdString();
-}
-
-// The calling screens built so far: their menu command and their table.
-struct Appelant {
-    const char* nom;
-    const char* menu;
-    const char* table;
-};
-const Appelant appelants[] = {
-    {"feuille_élève", "menuenfantsindex1", "élèves"},
-    {"feuille_équipe", "menuparamètresindex3", "équipe"},
-    {"feuille_famille", "menuenfantsindex2", "familles"},
-    {"feuille_école", "menuparamètresindex2", "école"},
-    {"feuille_inspection", "menuparamètresindex1", "inspection"},
-};
-
-const Appelant* appelant_nommé(const QString& nom) {
-    for (const Appelant& a : appelants)
-        if (nom == u(a.nom))
-            return &a;
-    return nullptr;
 }
 
 std::vector<Cas> cas_jouables() {
@@ -65,7 +42,7 @@ std::vector<Cas> cas_jouables() {
         à_grille << écran[1];
     std::vector<Cas> cas;
     for (const QStringList& r : table_de_données(u("retours.tsv"))) {
-        if (!à_grille.contains(r[0]) || !appelant_nommé(r[2]))
+        if (!à_grille.contains(r[0]) || !appelants.contains(r[2]))
             continue;
         std::vector<Cible> cibles;
         for (const QString& c : r[4].split(u' ')) {
@@ -78,17 +55,6 @@ std::vector<Cas> cas_jouables() {
     return cas;
 }
 
-std::string nom_du_cas(const ::testing::TestParamInfo<Cas>& info) {
-    // Test names take ASCII letters only: the accents are dropped from their letters.
-    const QString nom =
-        info.param.consultation + u'_' + QString::number(info.param.origine_appel) + u'_' + info.param.bouton;
-    std::string propre;
-    for (const QChar c : nom.normalized(QString::NormalizationForm_D))
-        if ((c.isLetterOrNumber() && c.unicode() < 128) || c == u'_')
-            propre += static_cast<char>(c.unicode());
-    return propre;
-}
-
 int page_de(QTabWidget& onglets, QWidget& w) {
     for (int page = 0; page < onglets.count(); ++page)
         if (onglets.widget(page)->isAncestorOf(&w))
@@ -96,12 +62,18 @@ int page_de(QTabWidget& onglets, QWidget& w) {
     return -1;
 }
 
-class RetourDUnChoix : public ConsultationsTest, public ::testing::WithParamInterface<Cas> {};
+class RetourDUnChoix : public ProgrammeSurModèle, public ::testing::WithParamInterface<Cas> {
+protected:
+    void SetUp() override {
+        ProgrammeSurModèle::SetUp();
+        remplir_consultations();
+    }
+};
 
 TEST_P(RetourDUnChoix, LandsInTheCallersFieldsInOrderClosesTheLookupAndSetsFocusAndTab) {
     const Cas& r = GetParam();
-    const Appelant& comment = *appelant_nommé(r.appelant);
-    menu(comment.menu);
+    const auto& [commande, table] = appelants.at(r.appelant);
+    menu(commande);
     ASSERT_NE(chargée(r.appelant), nullptr);
     Feuille& appelant = *chargée(r.appelant);
     auto* bouton = appelant.findChild<QPushButton*>(r.bouton);
@@ -148,25 +120,22 @@ TEST_P(RetourDUnChoix, LandsInTheCallersFieldsInOrderClosesTheLookupAndSetsFocus
         auto* champ_focus = appelant.findChild<QLineEdit*>(r.focus);
         ASSERT_NE(champ_focus, nullptr);
         EXPECT_EQ(QApplication::focusWidget(), champ_focus);
-        if (onglets) {
+        if (onglets)
             EXPECT_EQ(onglets->currentIndex(), page_de(*onglets, *champ_focus));
-        }
     } else {
         // The focus comes back to the caller where the user left it: on the button pressed.
         EXPECT_EQ(QApplication::focusWidget(), bouton);
-        if (onglets) {
+        if (onglets)
             EXPECT_EQ(onglets->currentIndex(), page_avant);
-        }
     }
     EXPECT_TRUE(ui().boxes().empty());
 
     cliquer(appelant, u("cmdMettreàjour"));
     for (qsizetype i = 0; i < attendues.size(); ++i)
-        EXPECT_EQ(colonne_du_fichier(base, u(comment.table), r.cibles[i].colonne_fichier).value(0),
-                  attendues[i])
+        EXPECT_EQ(colonne_du_fichier(base, u(table), r.cibles[i].colonne_fichier).value(0), attendues[i])
             << r.cibles[i].colonne_fichier.toStdString();
 }
 
-INSTANTIATE_TEST_SUITE_P(TableDesRetours, RetourDUnChoix, ::testing::ValuesIn(cas_jouables()), nom_du_cas);
+INSTANTIATE_TEST_SUITE_P(TableDesRetours, RetourDUnChoix, ::testing::ValuesIn(cas_jouables()));
 
 } // namespace

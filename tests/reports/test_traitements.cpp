@@ -12,7 +12,7 @@
 #include "shell/feuille_options.h"
 #include "shell/options.h"
 #include "store/Module1.h"
-#include "support/BasesDeTest.h"
+#include "support/BaseDirecte.h"
 #include "support/Donnees.h"
 #include "support/PiloteEcran.h"
 

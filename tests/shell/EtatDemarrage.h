@@ -5,8 +5,9 @@
 #include "shell/feuille_accueil.h"
 #include "store/Module1.h"
 #include "store/feuille_choix_base.h"
-#include "support/BasesDeTest.h"
+#include "support/BaseDirecte.h"
 #include "support/Fixtures.h"
+#include "support/PiloteEcran.h"
 
 #include <QAction>
 #include <QFile>

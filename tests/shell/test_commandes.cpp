@@ -3,10 +3,7 @@
 #include "platform/dao/Recordset.h"
 #include "platform/forms/DataControl.h"
 #include "reference/feuille_sexe.h"
-
-#include <QMdiArea>
 #include <QMdiSubWindow>
-#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 

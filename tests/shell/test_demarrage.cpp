@@ -2,32 +2,12 @@
 
 #include "shell/feuille_options.h"
 
-#include <QCheckBox>
 #include <QDir>
-#include <QMdiArea>
 #include <QTimer>
-#include <QWindow>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// What a user can see and what lands on disk once the start has settled.
-struct ÉtatAprèsDémarrage {
-    QByteArray options;
-    QString base_en_cours, chemin_application, label4, panneau1;
-    bool accueil_chargée, mdi_visible, choix_visible, menus_inactifs;
-
-    bool operator==(const ÉtatAprèsDémarrage&) const = default;
-};
-
-void PrintTo(const ÉtatAprèsDémarrage& é, std::ostream* os) {
-    *os << "{options=" << é.options.toStdString() << " base=" << é.base_en_cours.toStdString()
-        << " chemin=" << é.chemin_application.toStdString() << " Label4=" << é.label4.toStdString()
-        << " panneau1=" << é.panneau1.toStdString() << " accueil=" << é.accueil_chargée
-        << " mdi=" << é.mdi_visible << " choix=" << é.choix_visible << " menus_inactifs=" << é.menus_inactifs
-        << "}";
-}
 
 class DémarrageDuProgramme : public Démarrage {
 protected:
@@ -38,17 +18,18 @@ protected:
         processDeletions();
         module1().chemin_application.clear();
     }
-    ÉtatAprèsDémarrage état() const {
-        Module1& m = module1();
-        return {options_ini(),
-                m.base_en_cours,
-                m.chemin_application,
-                choix() ? choix()->Label4->text() : u"(déchargé)"_s,
-                mdi() ? mdi()->Panel1() : QString(),
-                feuilles().siChargée<feuille_accueil>() != nullptr,
-                mdi() != nullptr && mdi()->isVisible(),
-                choix_à_l_écran(),
-                mdi() != nullptr && menus_de_données_inactifs()};
+    // What a user can see and what lands on disk once the start has settled.
+    QString état() const {
+        return QStringList{QString::fromLatin1(options_ini()),
+                           module1().base_en_cours,
+                           module1().chemin_application,
+                           choix() ? choix()->Label4->text() : u"(déchargé)"_s,
+                           mdi() ? mdi()->Panel1() : QString(),
+                           feuilles().siChargée<feuille_accueil>() ? u"accueil"_s : QString(),
+                           mdi() && mdi()->isVisible() ? u"fenêtre"_s : QString(),
+                           choix_à_l_écran() ? u"choix"_s : QString(),
+                           mdi() && menus_de_données_inactifs() ? u"menus inactifs"_s : QString()}
+            .join(u'|');
     }
 };
 
@@ -67,10 +48,9 @@ TEST_F(DémarrageDuProgramme, LeMessageClignoteEntreJaunePâleEtBleu) {
 
 TEST_F(DémarrageDuProgramme, PremierLancementDansUnDossierVideParClicOuParTouche) {
     démarrer_par_clic();
-    const ÉtatAprèsDémarrage par_clic = état();
-    EXPECT_EQ(par_clic, (ÉtatAprèsDémarrage{"0\r\n0\r\n0\r\n0\r\n\"\"\r\n", "",
-                                            QDir::toNativeSeparators(folder.path()) + QDir::separator(), "",
-                                            "", false, true, true, true}));
+    const QString par_clic = état();
+    EXPECT_EQ(par_clic, u"0\r\n0\r\n0\r\n0\r\n\"\"\r\n||"_s + QDir::toNativeSeparators(folder.path()) +
+                            QDir::separator() + u"||||fenêtre|choix|menus inactifs"_s);
     EXPECT_TRUE(ui().boxes().empty());
     redémarrer();
     QFile::remove(folder.file("options.ini"));
@@ -83,9 +63,10 @@ TEST_F(DémarrageDuProgramme, LaBaseRetenueEstOuverteSansLeChoixParClicOuParTouc
     const QByteArray texte = "0\r\n0\r\n1\r\n0\r\n" + ligne_de_base(base);
     préparer_options(texte);
     démarrer_par_clic();
-    const ÉtatAprèsDémarrage par_clic = état();
-    EXPECT_EQ(par_clic.panneau1, "Base de données en cours : " + base);
-    EXPECT_FALSE(par_clic.menus_inactifs);
+    const QString par_clic = état();
+    EXPECT_TRUE(par_clic.contains(u"|Base de données en cours : "_s + base + u"||fenêtre||"_s))
+        << par_clic.toStdString();
+    EXPECT_TRUE(par_clic.endsWith(u"||"_s)) << "menus active";
     redémarrer();
     démarrer_par_touche();
     EXPECT_EQ(état(), par_clic);
@@ -101,10 +82,7 @@ TEST_F(DémarrageDuProgramme, LeSplashAttendQuUnClicSurLeFondNuOuUneToucheSansCa
     const QPoint fond(3, 3); // the margin around Frame1
     ASSERT_EQ(splash.childAt(fond), nullptr);
     QTest::mouseClick(&splash, Qt::LeftButton, {}, fond);
-    processDeletions();
-    EXPECT_NE(feuilles().siChargée<feuille_accueil>(), nullptr);
-    EXPECT_EQ(mdi(), nullptr);
-    QTest::keyClick(&accueil(), Qt::Key_Shift);
+    QTest::keyClick(&splash, Qt::Key_Shift);
     processDeletions();
     EXPECT_NE(feuilles().siChargée<feuille_accueil>(), nullptr);
     EXPECT_EQ(mdi(), nullptr);
@@ -118,29 +96,20 @@ TEST_F(DémarrageDuProgramme, FermerLeSplashParLeGestionnaireDeFenêtresFaitComm
     EXPECT_TRUE(mdi() && mdi()->isVisible());
 }
 
-TEST_F(DémarrageDuProgramme, LeMessageClignoteEncoreDerrièreLaBoîteDuCode) {
+// Behind the code box, brought up by a key, the message still blinks; an assistive tool clicks the splash
+// meanwhile, which does not unload it twice.
+TEST_F(DémarrageDuProgramme, DerrièreLaBoîteDuCodeLeSplashClignoteEtUnClicNeLeDéchargePasDeuxFois) {
     préparer_options("0\r\n0\r\n1\r\n0\r\n" + ligne_de_base(créer_base_de_test(folder.file("a.mdb"), "X")));
     bool clignote = false;
     ui().expectModal([&](Feuille& login) {
-        const feuille_accueil* splash = feuilles().siChargée<feuille_accueil>();
-        clignote = splash && splash->isVisible() && splash->Timer1->isActive();
-        login.Unload();
-    });
-    ui().expectMsgBox(vbOK); // the code refused
-    démarrer_par_clic();
-    EXPECT_TRUE(clignote);
-}
-
-// An assistive tool clicks the splash while the code box, brought up by a key, waits.
-TEST_F(DémarrageDuProgramme, UnClicSurLeSplashPendantLaBoîteDuCodeNeLeDéchargePasDeuxFois) {
-    préparer_options("0\r\n0\r\n1\r\n0\r\n" + ligne_de_base(créer_base_de_test(folder.file("a.mdb"), "X")));
-    ui().expectModal([&](Feuille& login) {
+        clignote = accueil().isVisible() && accueil().Timer1->isActive();
         QTest::mouseClick(accueil().Image1, Qt::LeftButton);
         processDeletions();
         login.Unload();
     });
     ui().expectMsgBox(vbOK); // the code refused
     démarrer_par_touche();
+    EXPECT_TRUE(clignote);
     EXPECT_TRUE(feuilles().siChargée<feuille_accueil>() == nullptr && mdi()->isVisible());
 }
 

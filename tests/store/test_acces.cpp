@@ -7,7 +7,6 @@
 #include "store/feuille_acces.h"
 #include "store/feuille_login.h"
 #include "support/BaseDirecte.h"
-#include "support/BasesDeTest.h"
 
 #include <QLineEdit>
 #include <QPushButton>

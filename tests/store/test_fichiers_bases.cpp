@@ -8,7 +8,6 @@
 #include "store/fichiers_bases.h"
 #include "support/BaseDirecte.h"
 #include "support/Donnees.h"
-#include "support/TemplateBase.h"
 
 #include <QDir>
 #include <QDirIterator>

@@ -7,8 +7,8 @@
 #include "platform/dao/Recordset.h"
 #include "platform/files/Files.h"
 #include "store/fichiers_bases.h"
+#include "support/BaseDirecte.h"
 #include "support/Fixtures.h"
-#include "support/TemplateBase.h"
 
 #include <QDir>
 #include <QFile>

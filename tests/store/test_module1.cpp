@@ -2,8 +2,6 @@
 #include "store/Module1.h"
 #include "support/Fixtures.h"
 
-#include <gtest/gtest.h>
-
 using namespace Qt::StringLiterals;
 
 // The start state: empty paths, 0, the real clock and the real dialogs.

@@ -3,8 +3,8 @@
 #include "platform/dao/Database.h"
 #include "platform/errors/VbError.h"
 #include "support/Fixtures.h"
-#include "support/TemplateBase.h"
 
+#include <QDir>
 #include <QFile>
 #include <gtest/gtest.h>
 #include <sqlite3.h>
@@ -74,10 +74,32 @@ void exécuter_par_le_moteur(const QString& chemin, const QString& sql) {
     }
 }
 
-QString copie_du_modèle(const WorkFolder& dossier) {
-    const QString chemin = dossier.file(u"travail.mdb"_s);
+QString template_path() {
+    return QStringLiteral(NORVANE_TEMPLATE_PATH);
+}
+
+QString copie_du_modèle(const WorkFolder& dossier, const QString& nom) {
+    const QString chemin = dossier.file(nom);
     if (!QFile::copy(template_path(), chemin))
         ADD_FAILURE() << "copie du modèle impossible vers " << chemin.toStdString();
     QFile::setPermissions(chemin, QFile::permissions(chemin) | QFileDevice::WriteOwner);
     return chemin;
+}
+
+QString créer_base_de_test(const QString& chemin, const std::optional<QString>& code,
+                           const QString& en_plus) {
+    QFile::remove(chemin);
+    QString sql = u"CREATE TABLE passe (passe VARCHAR(10));"_s;
+    if (code)
+        sql += u"INSERT INTO passe (passe) VALUES ('%1');"_s.arg(QString(*code).replace(u'\'', u"''"_s));
+    sql_direct(chemin, sql + en_plus);
+    return chemin;
+}
+
+DossierCourant::DossierCourant(const QString& dossier) : ancien_(QDir::currentPath()) {
+    QDir::setCurrent(dossier);
+}
+
+DossierCourant::~DossierCourant() {
+    QDir::setCurrent(ancien_);
 }

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <optional>
 
 // The work file as it lies on disk, read and changed behind the program's back with SQLite itself:
 // what a screen wrote, another user's change, or a test's own change of the schema.
@@ -19,5 +20,24 @@ int écritures_journalisées(const QString& chemin);
 void exécuter_par_le_moteur(const QString& chemin, const QString& sql);
 
 class WorkFolder;
-// A fresh copy of the template base in the work folder, named "travail.mdb".
-QString copie_du_modèle(const WorkFolder& dossier);
+// The template basevide.mdz that this build generated.
+QString template_path();
+// A fresh, writable copy of the template in the work folder.
+QString copie_du_modèle(const WorkFolder& dossier, const QString& nom = QStringLiteral("travail.mdb"));
+
+// A small work database for the opening tests: the table of the access code, and whatever `en_plus`
+// creates. `code` empty gives a row with an empty code; no value gives an empty table.
+QString créer_base_de_test(const QString& chemin, const std::optional<QString>& code = QString(),
+                           const QString& en_plus = QString());
+
+// Makes a folder the process's current one for as long as the object lives.
+class DossierCourant {
+public:
+    explicit DossierCourant(const QString& dossier);
+    ~DossierCourant();
+    DossierCourant(const DossierCourant&) = delete;
+    DossierCourant& operator=(const DossierCourant&) = delete;
+
+private:
+    QString ancien_;
+};

@@ -78,7 +78,3 @@ void WorkFolderTest::SetUp() {
     ScriptedTest::SetUp();
     module1().chemin_application = folder.path() + QDir::separator();
 }
-
-void PrintTo(const QString& text, std::ostream* os) {
-    *os << '"' << text.toStdString() << '"';
-}

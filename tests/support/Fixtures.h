@@ -8,13 +8,14 @@
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
+#include <ostream>
 
-// A text as a failed expectation shows it: readable, not as code units.
-void PrintTo(const QString& text, std::ostream* os);
-
-// A test's texts, written as UTF-8 literals.
+// A test's texts, written as UTF-8 literals, and shown as text when an assertion fails.
 inline QString u(const char* utf8) {
     return QString::fromUtf8(utf8);
+}
+inline void PrintTo(const QString& s, std::ostream* os) {
+    *os << '"' << s.toStdString() << '"';
 }
 
 // For its lifetime: the program in its start state, with the scripted user in place of the dialogs.

@@ -2,34 +2,16 @@
 #include "platform/dao/StoreTestSupport.h"
 
 #include "platform/dao/JetSql.h"
+#include "support/Donnees.h"
 
 namespace {
 
-using dao::parse_select;
 using dao::translate_statement;
 
 // Statements as the program writes them and as the engine receives them.
 TEST(Dialect, JetTextIsTranslatedWordForWord) {
-    const std::pair<const char*, const char*> cas[] = {
-        // double-quoted text is a string, never a column
-        {"SELECT * FROM sexe WHERE détails LIKE \"nom_élève\"",
-         "SELECT * FROM sexe WHERE détails LIKE 'nom_élève'"},
-        {"SELECT * FROM a WHERE b = \"il dit \"\"oui\"\"\"", "SELECT * FROM a WHERE b = 'il dit \"oui\"'"},
-        {"SELECT * FROM a WHERE b = \"l'école\"", "SELECT * FROM a WHERE b = 'l''école'"},
-        // brackets name tables and columns
-        {"select * from [école]", "select * from \"école\""},
-        {"SELECT [nom de \"x\"] FROM t", "SELECT \"nom de \"\"x\"\"\" FROM t"},
-        // DELETE * FROM, and booleans
-        {"DELETE * FROM élèves", "DELETE FROM élèves"},
-        {"delete élèves.* from élèves", "delete from élèves"},
-        {"UPDATE élèves SET ainé = True WHERE ainé = false", "UPDATE élèves SET ainé = 1 WHERE ainé = 0"},
-        // #dates# and & concatenation
-        {"SELECT * FROM t WHERE d < #9/1/2015#", "SELECT * FROM t WHERE d < '2015-09-01'"},
-        {"SELECT a & \"x\" FROM t", "SELECT a || 'x' FROM t"},
-        {"DELETE * FROM villes;", "DELETE FROM villes"},
-    };
-    for (const auto& [jet, moteur] : cas)
-        EXPECT_EQ(translate_statement(jet), moteur);
+    for (const QStringList& c : table_de_données("jet_traductions.tsv"))
+        EXPECT_EQ(translate_statement(c[0]), c[1]);
 }
 
 TEST(Dialect, MalformedTextIsASyntaxError) {
@@ -41,32 +23,7 @@ TEST(Dialect, MalformedTextIsASyntaxError) {
     }
 }
 
-TEST(Dialect, SelectsAreReadIntoTableColumnsCriterionAndOrder) {
-    const auto q =
-        parse_select("SELECT * FROM familles ORDER BY nom_responsable_légal DESC, prénom_responsable_légal");
-    EXPECT_EQ(q.table, "familles");
-    EXPECT_TRUE(q.columns.isEmpty());
-    ASSERT_EQ(q.order.size(), 2u);
-    EXPECT_TRUE(q.order[0].descending);
-    EXPECT_FALSE(q.order[1].descending);
-    const auto w = parse_select("SELECT détails FROM situations_familiales WHERE détails LIKE \"a*\"");
-    EXPECT_EQ(w.columns, QStringList{"détails"});
-    EXPECT_EQ(w.where, "détails LIKE 'a*'");
-    EXPECT_EQ(parse_select("[paramètres]").table, "paramètres");
-    EXPECT_THROW(parse_select("SELECT * FROM a, b"), dao::JetSyntaxError);
-    EXPECT_THROW(parse_select("SELECT * FROM a GROUP BY x"), dao::JetSyntaxError);
-}
-
 class Execute : public StoreTest {};
-
-TEST_F(Execute, ReportsTheRowsItChangedInOneTransaction) {
-    for (int i = 0; i < 3; ++i)
-        add("familles", {{"ville_responsable", QString("Ville %1").arg(i)}});
-    EXPECT_EQ(db->Execute("UPDATE familles SET code_postal_responsable = \"69000\" WHERE ville_responsable "
-                          "LIKE \"Ville [01]\""),
-              2);
-    EXPECT_EQ(db->Execute("DELETE * FROM familles"), 3);
-}
 
 TEST_F(Execute, ErrorsCarryJetNumbers) {
     EXPECT_EQ(error_of([&] { db->Execute("DELETE * FROM inexistante"); }), 3078);
@@ -89,16 +46,6 @@ TEST_F(Execute, AFailedStatementChangesNothing) {
               3022);
     EXPECT_EQ(values("SELECT * FROM familles WHERE code_postal_responsable = '1'", "ville_responsable"),
               QStringList{});
-}
-
-TEST_F(Execute, TransactionsGroupWritesAndRollBackTogether) {
-    db->BeginTrans();
-    add("familles", {{"ville_responsable", "Bron"}});
-    db->Execute("DELETE * FROM niveaux");
-    db->Rollback();
-    EXPECT_EQ(db->OpenRecordset("familles")->RecordCount(), 0);
-    EXPECT_EQ(db->OpenRecordset("niveaux")->RecordCount(), 12);
-    EXPECT_EQ(error_of([&] { db->CommitTrans(); }), 3034);
 }
 
 } // namespace

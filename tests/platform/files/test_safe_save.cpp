@@ -1,9 +1,7 @@
 #include "platform/files/SafeSave.h"
-#include "support/FailingDevice.h"
 #include "support/Fixtures.h"
 
 #include <QDir>
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
@@ -30,12 +28,6 @@ TEST(SafeSave, AFolderThatIsNotThereIsRefusedWithNothingWritten) {
     const QString target = folder.file(u"absent/liste.rtf"_s);
     EXPECT_NE(error_of([&] { saveWhole(target, [](QIODevice& out) { writeAll(out, "x"); }); }), 0);
     EXPECT_EQ(contentOf(target), "<absent>");
-}
-
-TEST(SafeSave, AShortWriteIsAnErrorNotASilentTruncation) {
-    FailingDevice device(4);
-    EXPECT_EQ(error_of([&] { writeAll(device, "abcdefgh"); }), 75);
-    EXPECT_EQ(device.written(), "abcd");
 }
 
 } // namespace

@@ -1,31 +1,17 @@
 #include "EcransEssai.h"
 
 #include "platform/forms/DBGrid.h"
-#include "platform/forms/DataControl.h"
 #include "platform/forms/LimiteSaisie.h"
 
-#include "support/BaseDirecte.h"
-#include <QCheckBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QTabWidget>
+#include "support/Donnees.h"
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
 QString créer_base_essai(const WorkFolder& dossier) {
     const QString chemin = dossier.file(u"essai.mdb"_s);
-    sql_direct(chemin, QStringLiteral(R"(
-        CREATE TABLE fiches (nom TEXT(30), naissance DATE, actif BOOLEAN, notes MEMO, libellé TEXT(20));
-        INSERT INTO fiches VALUES ('Alpha', '2015-02-01', 1, 'première', 'un');
-        INSERT INTO fiches VALUES ('Bravo', '2016-03-02', 0, 'deuxième', 'deux');
-        INSERT INTO fiches VALUES ('Charlie', NULL, 1, NULL, 'trois');
-        CREATE TABLE valeurs (code TEXT(5), détails TEXT(50));
-        INSERT INTO valeurs VALUES ('A', 'Ananas');
-        INSERT INTO valeurs VALUES ('B', 'Banane');
-        INSERT INTO valeurs VALUES ('C', 'Cerise');
-    )"));
+    for (const QStringList& instruction : table_de_données(u"essai_lignes.tsv"_s))
+        sql_direct(chemin, instruction[0]);
     journaliser_écritures(chemin, {u"fiches"_s, u"valeurs"_s});
     return chemin;
 }

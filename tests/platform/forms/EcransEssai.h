@@ -9,7 +9,6 @@
 
 #include <QString>
 #include <QStringList>
-#include <QVariant>
 #include <vector>
 
 class QCheckBox;
@@ -18,8 +17,7 @@ class QLineEdit;
 class QPlainTextEdit;
 class QTabWidget;
 
-// A work file made for these tests: `fiches` (text, date, boolean, memo, label) with three rows,
-// `valeurs` for the grid with three rows, and a log of every UPDATE and INSERT that reaches the file.
+// The work file of tests/data/essai_lignes.tsv, with a log of every UPDATE and INSERT that reaches it.
 QString créer_base_essai(const WorkFolder& dossier);
 
 // A screen of bound boxes over `fiches`, recording the Validate actions it receives.

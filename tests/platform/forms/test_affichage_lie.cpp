@@ -2,14 +2,6 @@
 // given up still shows the stored row again, though that row's value is the one it showed before.
 #include "EcransEssai.h"
 
-#include "support/BaseDirecte.h"
-
-#include <QCheckBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QTest>
-
 using namespace Qt::StringLiterals;
 
 TEST_F(ÉcransEssaiTest, an_edit_given_up_by_rafraichir_leaves_every_box_showing_the_stored_row) {

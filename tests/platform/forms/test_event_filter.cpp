@@ -1,15 +1,12 @@
-#include "platform/errors/VbError.h"
 #include "platform/forms/Feuille.h"
 #include "store/Module1.h"
 #include "support/Fixtures.h"
 
 #include <QApplication>
-#include <QFocusEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QStringList>
 #include <QTest>
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
@@ -28,7 +25,6 @@ public:
         surGotFocus(nom, [this] { journal << u"nom_GotFocus"_s; });
         surLostFocus(nom, [this] { journal << u"nom_LostFocus"_s; });
         surGotFocus(prénom, [this] { journal << u"prénom_GotFocus"_s; });
-        surDblClick(nom, [this] { journal << u"nom_DblClick"_s; });
         surDblClick(File1, [this] { journal << u"File1_DblClick "_s + File1->currentItem()->text(); });
     }
     QLineEdit* nom;
@@ -50,19 +46,6 @@ protected:
 };
 
 } // namespace
-
-TEST_F(EventFilter, FocusMovesGiveLostFocusThenGotFocus) {
-    f->nom->setFocus();
-    f->prénom->setFocus();
-    EXPECT_EQ(f->journal, (QStringList{"nom_GotFocus", "nom_LostFocus", "prénom_GotFocus"}));
-}
-
-TEST_F(EventFilter, DoubleClickOnATextBoxWithAHandlerOnly) {
-    QTest::mouseDClick(f->prénom, Qt::LeftButton);
-    EXPECT_TRUE(f->journal.filter(u"DblClick"_s).isEmpty());
-    QTest::mouseDClick(f->nom, Qt::LeftButton);
-    EXPECT_TRUE(f->journal.contains(u"nom_DblClick"_s));
-}
 
 TEST_F(EventFilter, DoubleClickOnAListReachesItsHandlerThroughTheViewport) {
     const QRect second = f->File1->visualItemRect(f->File1->item(1));

@@ -2,20 +2,8 @@
 // handlers of the buttons, the error paths, tab following.
 #include "EcransEssai.h"
 
-#include "platform/forms/DataControl.h"
-#include "platform/forms/FieldRows.h"
 #include "platform/forms/LimiteSaisie.h"
 #include "platform/ui/ErrorBoxes.h"
-#include "store/Module1.h"
-#include "support/PiloteEcran.h"
-
-#include <QCheckBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QTabWidget>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -29,39 +17,35 @@ protected:
     QString légende(FeuilleFiche& f) const { return f.datPrimaryRS->Caption(); }
 };
 
-// A screen whose data errors are shown and whose caption is the bare position.
+// A screen whose data errors are shown.
 class feuille_essai_bavarde : public feuille_essai {
 public:
     feuille_essai_bavarde() : feuille_essai(configuration()) {}
     static ConfigurationFiche configuration() {
         ConfigurationFiche c = configuration_par_défaut();
         c.nom = u"feuille_essai_bavarde"_s;
-        c.légende = LégendePosition::nue;
         c.boîte_erreur_données = true;
         c.infobulle_rafraîchir = InfobulleRafraîchir::rafraichier;
-        c.suppression = FormeSuppression::sans_piège;
         return c;
     }
 };
 
-// A screen with no position caption, no add and no delete.
+// A screen with no add and no delete.
 class feuille_essai_muette : public feuille_essai {
 public:
     feuille_essai_muette() : feuille_essai(configuration()) {}
     static ConfigurationFiche configuration() {
         ConfigurationFiche c = configuration_par_défaut();
         c.nom = u"feuille_essai_muette"_s;
-        c.légende = LégendePosition::aucune;
         c.ajout = FormeAjout::aucune;
         c.suppression = FormeSuppression::aucune;
-        c.infobulle_rafraîchir = InfobulleRafraîchir::rafraichir;
         return c;
     }
 };
 
 } // namespace
 
-TEST_F(FicheTest, the_current_row_fills_every_kind_of_bound_control) {
+TEST_F(FicheTest, every_kind_of_bound_control_shows_the_current_row_and_writes_back_to_it) {
     auto& f = ouvrir();
     EXPECT_EQ(f.nom->text(), "Alpha");
     EXPECT_EQ(f.naissance->text(), "01/02/2015");
@@ -70,63 +54,8 @@ TEST_F(FicheTest, the_current_row_fills_every_kind_of_bound_control) {
     EXPECT_EQ(f.libellé->text(), "un");
     EXPECT_EQ(f.naissance_affichée->text(), "01/02/2015");
     EXPECT_EQ(légende(f), "Fiche: 1");
-    EXPECT_EQ(ui().mousePointer(), vbDefault);
     EXPECT_FALSE(f.datPrimaryRS->DataChanged());
-
-    cliquer(*f.datPrimaryRS, "dernier");
-    EXPECT_EQ(f.nom->text(), "Charlie");
-    EXPECT_EQ(f.naissance->text(), "") << "an empty date shows as an empty box";
-    EXPECT_EQ(f.notes->toPlainText(), "");
-}
-
-TEST_F(FicheTest, the_navigator_arrows_move_and_stop_at_both_ends) {
-    auto& f = ouvrir();
-    cliquer(*f.datPrimaryRS, "précédent");
-    EXPECT_EQ(légende(f), "Fiche: 1");
-    cliquer(*f.datPrimaryRS, "suivant");
-    EXPECT_EQ(f.nom->text(), "Bravo");
-    EXPECT_EQ(légende(f), "Fiche: 2");
-    cliquer(*f.datPrimaryRS, "dernier");
-    cliquer(*f.datPrimaryRS, "suivant");
-    EXPECT_EQ(f.nom->text(), "Charlie");
-    EXPECT_EQ(légende(f), "Fiche: 3");
-    cliquer(*f.datPrimaryRS, "premier");
-    EXPECT_EQ(f.nom->text(), "Alpha");
-    EXPECT_TRUE(ui().boxes().empty());
-}
-
-TEST_F(FicheTest, typing_then_moving_writes_the_row_and_an_unchanged_row_is_never_rewritten) {
-    auto& f = ouvrir();
-    cliquer(*f.datPrimaryRS, "suivant");
-    cliquer(*f.datPrimaryRS, "premier");
-    cliquer(f, "cmdMettreàjour");
-    cliquer(f, "cmdRafraîchir");
-    EXPECT_EQ(écritures_journalisées(base), 0);
-
-    f.nom->selectAll();
-    taper(f.nom, "Alfred");
-    cliquer(*f.datPrimaryRS, "suivant");
-    EXPECT_EQ(noms(), (QStringList{"Alfred", "Bravo", "Charlie"}));
-    EXPECT_EQ(écritures_journalisées(base), 1);
-    EXPECT_EQ(f.nom->text(), "Bravo");
-}
-
-TEST_F(FicheTest, a_write_by_code_into_a_bound_box_is_an_edit_which_valider_writes_in_place) {
-    auto& f = ouvrir();
-    f.nom->setText("Par le code");
-    f.notes->setPlainText("note écrite");
-    f.libellé->setText("étiquette");
-    EXPECT_TRUE(f.datPrimaryRS->DataChanged());
-    cliquer(f, "cmdMettreàjour");
-    EXPECT_EQ(légende(f), "Fiche: 1");
-    EXPECT_FALSE(f.datPrimaryRS->DataChanged());
-    EXPECT_EQ(noms().first(), "Par le code");
-    EXPECT_EQ(colonne_du_fichier(base, "fiches", "notes").first(), "note écrite");
-    EXPECT_EQ(colonne_du_fichier(base, "fiches", "libellé").first(), "étiquette");
-}
-
-TEST_F(FicheTest, a_check_box_writes_a_boolean_and_a_date_is_typed_as_jj_mm_aaaa) {
-    auto& f = ouvrir();
+    // A check box writes a boolean and a date is typed as JJ/MM/AAAA.
     f.actif->setFocus();
     QTest::keyClick(f.actif, Qt::Key_Space);
     EXPECT_FALSE(f.actif->isChecked());
@@ -140,6 +69,45 @@ TEST_F(FicheTest, a_check_box_writes_a_boolean_and_a_date_is_typed_as_jj_mm_aaaa
     EXPECT_EQ(f.naissance->text(), "25/12/2016");
     EXPECT_EQ(f.naissance_affichée->text(), "25/12/2016")
         << "a label showing the same column is no edit of its own";
+    f.libellé->setText("étiquette"); // a label the code writes is an edit of its own
+    EXPECT_TRUE(f.datPrimaryRS->DataChanged());
+    cliquer(f, "cmdMettreàjour");
+    EXPECT_EQ(colonne_du_fichier(base, "fiches", "libellé").first(), "étiquette");
+    cliquer(*f.datPrimaryRS, "dernier");
+    EXPECT_EQ(f.nom->text(), "Charlie");
+    EXPECT_EQ(f.naissance->text(), "") << "an empty date shows as an empty box";
+    EXPECT_EQ(f.notes->toPlainText(), "");
+}
+
+TEST_F(FicheTest, the_navigator_arrows_move_and_stop_at_both_ends) {
+    auto& f = ouvrir();
+    for (const auto& [flèche, nom, position] : {std::tuple{"précédent", "Alpha", "Fiche: 1"},
+                                                {"suivant", "Bravo", "Fiche: 2"},
+                                                {"dernier", "Charlie", "Fiche: 3"},
+                                                {"suivant", "Charlie", "Fiche: 3"},
+                                                {"premier", "Alpha", "Fiche: 1"}}) {
+        cliquer(*f.datPrimaryRS, flèche);
+        EXPECT_EQ(f.nom->text() + u' ' + légende(f), QString(nom) + u' ' + position) << flèche;
+    }
+    EXPECT_TRUE(ui().boxes().empty());
+}
+
+TEST_F(FicheTest, typing_then_moving_writes_the_row_and_an_unchanged_row_is_never_rewritten) {
+    auto& f = ouvrir();
+    cliquer(*f.datPrimaryRS, "suivant");
+    cliquer(f, "cmdMettreàjour");
+    EXPECT_EQ(légende(f), "Fiche: 2") << "Valider on an unchanged row keeps its place";
+    EXPECT_EQ(f.nom->text(), "Bravo");
+    cliquer(*f.datPrimaryRS, "premier");
+    cliquer(f, "cmdRafraîchir");
+    EXPECT_EQ(écritures_journalisées(base), 0);
+
+    f.nom->selectAll();
+    taper(f.nom, "Alfred");
+    cliquer(*f.datPrimaryRS, "suivant");
+    EXPECT_EQ(noms(), (QStringList{"Alfred", "Bravo", "Charlie"}));
+    EXPECT_EQ(écritures_journalisées(base), 1);
+    EXPECT_EQ(f.nom->text(), "Bravo");
 }
 
 TEST_F(FicheTest, validate_receives_the_action_codes_and_the_pointer_cycles) {
@@ -159,24 +127,13 @@ TEST_F(FicheTest, validate_receives_the_action_codes_and_the_pointer_cycles) {
                                            vbDataActionBookmark, vbDataActionAddNew, vbDataActionClose,
                                            vbDataActionDelete, vbDataActionMoveNext}));
     // Every action puts up the hourglass and every Reposition takes it away.
-    const auto& historique = ui().pointerHistory();
-    ASSERT_GE(historique.size(), 2u);
-    EXPECT_EQ(historique.back(), vbDefault);
-    EXPECT_NE(std::find(historique.begin(), historique.end(), vbHourglass), historique.end());
+    EXPECT_NE(std::ranges::find(ui().pointerHistory(), vbHourglass), ui().pointerHistory().end());
+    EXPECT_EQ(ui().mousePointer(), vbDefault);
 
     f.actions.clear();
     cliquer(f, "cmdFermer");
     EXPECT_EQ(f.actions, std::vector<int>{vbDataActionUnload});
     EXPECT_EQ(ui().mousePointer(), vbDefault) << "Form_Unload puts the pointer back after the final Validate";
-}
-
-TEST_F(FicheTest, valider_on_an_unchanged_row_keeps_position_and_caption) {
-    auto& f = ouvrir();
-    cliquer(*f.datPrimaryRS, "suivant");
-    cliquer(f, "cmdMettreàjour");
-    EXPECT_EQ(légende(f), "Fiche: 2");
-    EXPECT_EQ(f.nom->text(), "Bravo");
-    EXPECT_TRUE(ui().boxes().empty());
 }
 
 TEST_F(FicheTest, ajouter_shows_an_empty_row_numbered_0_which_valider_adds_only_once_typed_into) {
@@ -186,7 +143,6 @@ TEST_F(FicheTest, ajouter_shows_an_empty_row_numbered_0_which_valider_adds_only_
     EXPECT_EQ(f.nom->text(), "");
     EXPECT_FALSE(f.actif->isChecked());
     cliquer(*f.datPrimaryRS, "premier");
-    EXPECT_EQ(noms().size(), 3);
     EXPECT_EQ(écritures_journalisées(base), 0);
 
     cliquer(f, "cmdAjouter");
@@ -206,7 +162,6 @@ TEST_F(FicheTest, closing_with_an_edited_or_new_row_writes_it_without_a_question
     processDeletions();
     EXPECT_FALSE(module1().feuilles().isLoaded<feuille_essai>());
     EXPECT_EQ(noms(), (QStringList{"Alpha", "Bertrand", "Charlie"}));
-    EXPECT_TRUE(ui().boxes().empty());
 
     auto& g = ouvrir();
     cliquer(g, "cmdAjouter");
@@ -238,10 +193,8 @@ TEST_F(FicheTest, refresh_goes_back_to_the_first_record_and_sees_other_users_row
     sql_direct(base, "INSERT INTO fiches (nom) VALUES ('Foxtrot')");
     cliquer(f, "cmdRafraîchir");
     EXPECT_EQ(légende(f), "Fiche: 1");
-    EXPECT_EQ(f.nom->text(), "Alpha");
     cliquer(*f.datPrimaryRS, "dernier");
     EXPECT_EQ(f.nom->text(), "Foxtrot");
-
     cliquer(*f.datPrimaryRS, "premier");
     f.nom->setText("Alphonse");
     cliquer(f, "cmdRafraîchir");
@@ -249,7 +202,7 @@ TEST_F(FicheTest, refresh_goes_back_to_the_first_record_and_sees_other_users_row
     EXPECT_EQ(f.nom->text(), "Alphonse");
 }
 
-TEST_F(FicheTest, deleting_lands_on_the_next_row_or_on_the_new_last_one) {
+TEST_F(FicheTest, deleting_lands_on_the_next_row_or_the_new_last_and_the_only_row_shows_3021) {
     auto& f = ouvrir();
     cliquer(f, "cmdSupprimer");
     EXPECT_EQ(f.nom->text(), "Bravo");
@@ -257,39 +210,30 @@ TEST_F(FicheTest, deleting_lands_on_the_next_row_or_on_the_new_last_one) {
     cliquer(f, "cmdSupprimer");
     EXPECT_EQ(f.nom->text(), "Bravo");
     EXPECT_EQ(noms(), QStringList{"Bravo"});
-    EXPECT_TRUE(ui().boxes().empty());
-}
-
-TEST_F(FicheTest, deleting_the_only_row_shows_3021_and_leaves_the_screen_open_on_no_record) {
-    sql_direct(base, "DELETE FROM fiches WHERE nom <> 'Alpha'");
-    auto& f = ouvrir();
+    ASSERT_TRUE(ui().boxes().empty());
     ui().expectMsgBox();
     cliquer(f, "cmdSupprimer");
-    EXPECT_EQ(ui().lastBox().text, texte_erreur(ErrorBoxKind::standard, VbError(3021)));
-    EXPECT_EQ(ui().lastBox().buttons, vbExclamation + vbOKOnly);
-    EXPECT_EQ(ui().lastBox().title, "Norvane v2");
+    EXPECT_EQ(ui().lastBox(),
+              ScriptedInteraction::Box::titled(texte_erreur(ErrorBoxKind::standard, VbError(3021)),
+                                               vbExclamation + vbOKOnly));
     EXPECT_TRUE(noms().isEmpty());
-    EXPECT_TRUE(module1().feuilles().isLoaded<feuille_essai>());
     EXPECT_TRUE(f.isVisible());
     EXPECT_EQ(ui().mousePointer(), vbDefault);
 }
 
 TEST_F(FicheTest, supprimer_on_a_new_unsaved_row_shows_3021_deletes_nothing_and_the_row_can_be_saved) {
     sql_direct(base, "DELETE FROM fiches");
-    for (const bool vide : {true, false}) {
-        auto& f = ouvrir();
-        cliquer(f, "cmdAjouter");
-        taper(f.nom, vide ? "Delta" : "Echo");
-        ui().expectMsgBox();
-        cliquer(f, "cmdSupprimer");
-        EXPECT_EQ(ui().lastBox().text, texte_erreur(ErrorBoxKind::standard, VbError(3021)));
-        EXPECT_EQ(noms().size(), vide ? 0 : 1) << "nothing is deleted";
-        cliquer(f, "cmdMettreàjour");
-        EXPECT_EQ(noms(), vide ? QStringList{"Delta"} : QStringList({"Delta", "Echo"}));
-    }
+    auto& f = ouvrir();
+    cliquer(f, "cmdAjouter");
+    taper(f.nom, "Delta");
+    ui().expectMsgBox();
+    cliquer(f, "cmdSupprimer");
+    EXPECT_EQ(ui().lastBox().text, texte_erreur(ErrorBoxKind::standard, VbError(3021)));
+    cliquer(f, "cmdMettreàjour");
+    EXPECT_EQ(noms(), QStringList{"Delta"});
 }
 
-TEST_F(FicheTest, a_refused_save_shows_the_box_and_keeps_the_edit_on_screen) {
+TEST_F(FicheTest, a_refused_save_or_close_shows_the_box_and_keeps_the_edit_on_screen) {
     auto& f = ouvrir();
     f.naissance->selectAll();
     taper(f.naissance, "31/02/2015");
@@ -299,24 +243,30 @@ TEST_F(FicheTest, a_refused_save_shows_the_box_and_keeps_the_edit_on_screen) {
     EXPECT_EQ(f.naissance->text(), "31/02/2015");
     EXPECT_TRUE(f.datPrimaryRS->DataChanged());
     EXPECT_EQ(colonne_du_fichier(base, "fiches", "naissance").first(), "2015-02-01");
-    EXPECT_EQ(ui().mousePointer(), vbDefault);
-
+    // Fermer too is refused: the screen stays open with its edit.
+    ui().expectMsgBox();
+    cliquer(f, "cmdFermer");
+    processDeletions();
+    ASSERT_TRUE(module1().feuilles().isLoaded<feuille_essai>());
+    EXPECT_EQ(ui().lastBox().text, texte_erreur(ErrorBoxKind::standard, VbError(3421)));
+    EXPECT_EQ(f.naissance->text(), "31/02/2015");
     // Mended, the same edit goes through.
     f.naissance->setText("28/02/2015");
-    cliquer(f, "cmdMettreàjour");
+    cliquer(f, "cmdFermer");
+    processDeletions();
+    EXPECT_FALSE(module1().feuilles().isLoaded<feuille_essai>());
     EXPECT_EQ(colonne_du_fichier(base, "fiches", "naissance").first(), "2015-02-28");
 }
 
-TEST_F(FicheTest, a_failed_write_on_an_arrow_goes_silently_to_the_error_event_and_stays_on_the_row) {
-    auto& f = ouvrir();
-    f.naissance->setText("pas une date");
-    cliquer(*f.datPrimaryRS, "suivant");
-    EXPECT_TRUE(ui().boxes().empty()) << "this screen's Error handler clears the response without a box";
-    EXPECT_EQ(f.nom->text(), "Alpha");
-    EXPECT_EQ(f.naissance->text(), "pas une date");
-}
+// A failed write on an arrow goes to the Error event and the screen stays on the row; that handler
+// shows a box on some screens, on others it clears the response without one.
+TEST_F(FicheTest, a_failed_write_on_an_arrow_goes_to_the_error_event_and_stays_on_the_row) {
+    auto& silencieuse = ouvrir();
+    silencieuse.naissance->setText("pas une date");
+    cliquer(*silencieuse.datPrimaryRS, "suivant");
+    EXPECT_TRUE(ui().boxes().empty());
+    EXPECT_EQ(silencieuse.naissance->text(), "pas une date");
 
-TEST_F(FicheTest, the_error_event_box_names_the_error_on_screens_that_show_it) {
     auto& f = ouvrir<feuille_essai_bavarde>();
     f.naissance->setText("pas une date");
     ui().expectMsgBox();
@@ -360,70 +310,12 @@ TEST_F(FicheTest, a_row_another_user_changed_or_deleted_since_it_was_shown_is_re
     EXPECT_EQ(noms(), (QStringList{"Bruno", "Charlie"}));
 }
 
-TEST_F(FicheTest, a_handler_without_trap_fails_up_to_the_standard_words_and_the_screen_goes_on) {
-    sql_direct(base, "DELETE FROM fiches");
-    auto& f = ouvrir<feuille_essai_bavarde>();
-    EXPECT_EQ(légende(f), "0") << "the bare caption of a set with no row";
-    ui().expectMsgBox();
-    cliquer(f, "cmdSupprimer");
-    EXPECT_EQ(ui().lastBox().text, texte_erreur(ErrorBoxKind::standard, VbError(3021)));
-    EXPECT_TRUE(f.isVisible());
-    EXPECT_EQ(ui().mousePointer(), vbDefault);
-}
-
-TEST_F(FicheTest,
-       the_configuration_chooses_the_refresh_tooltip_the_add_and_delete_buttons_and_the_position_caption) {
-    const QString suite = " les données, dans le cas d'une utilisation multi-utilisateurs";
-    EXPECT_EQ(ouvrir().cmdRafraîchir->toolTip(), "Cliquez pour rafraîchir" + suite);
-    EXPECT_EQ(ouvrir<feuille_essai_muette>().cmdRafraîchir->toolTip(), "Cliquez pour rafraichir" + suite);
-    EXPECT_EQ(ouvrir<feuille_essai_bavarde>().cmdRafraîchir->toolTip(), "Cliquez pour rafraichier" + suite);
-    EXPECT_NE(ouvrir().cmdAjouter, nullptr);
+// Refresh tooltips, positions and the frame's buttons the real screens use are played by their tables;
+// here the forms no screen uses yet.
+TEST_F(FicheTest, the_configuration_may_leave_out_add_and_delete_and_spell_the_refresh_tooltip_otherwise) {
     auto& muette = ouvrir<feuille_essai_muette>();
     EXPECT_EQ(muette.cmdAjouter, nullptr);
     EXPECT_EQ(muette.cmdSupprimer, nullptr);
-
-    // The position caption: bare, or a blank.
-    auto& nue = ouvrir<feuille_essai_bavarde>();
-    cliquer(*nue.datPrimaryRS, "suivant");
-    EXPECT_EQ(légende(nue), "2");
-    cliquer(*muette.datPrimaryRS, "suivant");
-    EXPECT_EQ(légende(muette), " ");
-    EXPECT_EQ(muette.nom->text(), "Bravo");
-}
-
-TEST_F(FicheTest, a_screen_not_yet_pointed_at_a_file_fails_with_the_engine_error_on_refresh) {
-    auto& f = module1().feuilles().get<feuille_essai>();
-    EXPECT_EQ(f.datPrimaryRS->DatabaseName(), "");
-    EXPECT_EQ(f.datPrimaryRS->RecordSource(), "fiches");
-    EXPECT_THROW(f.datPrimaryRS->Recordset(), VbError);
-    f.datPrimaryRS->setDatabaseName(folder.file("absente.mdb"));
-    EXPECT_EQ(error_of([&] { f.datPrimaryRS->Refresh(); }), 3024);
-}
-
-TEST_F(FicheTest, a_field_taking_the_focus_brings_its_tab_forward) {
-    auto& f = ouvrir();
-    followPages(f, *f.SSTab1);
-    f.notes->setFocus(Qt::TabFocusReason);
-    EXPECT_EQ(f.SSTab1->currentIndex(), 1);
-    f.naissance->setFocus(Qt::TabFocusReason);
-    EXPECT_EQ(f.SSTab1->currentIndex(), 0);
-    EXPECT_TRUE(f.naissance->hasFocus());
-}
-
-TEST_F(FicheTest, a_last_row_the_engine_refuses_keeps_the_screen_open_with_its_edit) {
-    auto& f = ouvrir();
-    f.naissance->setText("pas une date");
-    ui().expectMsgBox();
-    cliquer(f, "cmdFermer");
-    processDeletions();
-    ASSERT_TRUE(module1().feuilles().isLoaded<feuille_essai>());
-    EXPECT_EQ(ui().lastBox().text, texte_erreur(ErrorBoxKind::standard, VbError(3421)));
-    EXPECT_EQ(f.naissance->text(), "pas une date");
-    EXPECT_EQ(ui().mousePointer(), vbDefault);
-
-    f.naissance->setText("02/02/2015");
-    cliquer(f, "cmdFermer");
-    processDeletions();
-    EXPECT_FALSE(module1().feuilles().isLoaded<feuille_essai>());
-    EXPECT_EQ(colonne_du_fichier(base, "fiches", "naissance").first(), "2015-02-02");
+    EXPECT_EQ(ouvrir<feuille_essai_bavarde>().cmdRafraîchir->toolTip(),
+              "Cliquez pour rafraichier les données, dans le cas d'une utilisation multi-utilisateurs");
 }

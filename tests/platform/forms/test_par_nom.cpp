@@ -1,23 +1,15 @@
 // Screens reached by name, and the focus given from another screen.
-#include "platform/errors/VbError.h"
 #include "platform/forms/Feuille.h"
 #include "platform/forms/Focus.h"
 #include "store/Module1.h"
-#include "support/Fixtures.h"
 #include "support/PiloteEcran.h"
 
-#include <QApplication>
-#include <QLineEdit>
-#include <QTabWidget>
-#include <QTest>
 #include <QVBoxLayout>
 #include <stdexcept>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-int chargements = 0;
 
 // A screen with a field in front and one on the second page of its tabs.
 class écran_nommé : public Feuille {
@@ -32,7 +24,6 @@ public:
         onglets->addTab(derrière, u"deux"_s);
         disposition->addWidget(onglets);
     }
-    void Form_Load() override { ++chargements; }
     QLineEdit* devant;
     QLineEdit* derrière;
     QTabWidget* onglets;
@@ -42,7 +33,6 @@ class ParNom : public ScriptedTest {
 protected:
     void SetUp() override {
         ScriptedTest::SetUp();
-        chargements = 0;
         module1().feuilles().faireConnaître<écran_nommé>(u"écran_nommé"_s);
     }
 };
@@ -55,37 +45,12 @@ TEST_F(ParNom, AnUnknownNameGivesNothingAndLoadsNothing) {
     EXPECT_EQ(module1().feuilles().chargées().size(), avant);
 }
 
-TEST_F(ParNom, AKnownNameLoadsTheScreenHiddenOnceAndAgainAfterAnUnload) {
-    Feuilles& feuilles = module1().feuilles();
-    Feuille* f = feuilles.parNom(u"écran_nommé"_s);
-    ASSERT_NE(f, nullptr);
-    EXPECT_EQ(f, feuilles.siChargée<écran_nommé>());
-    EXPECT_FALSE(f->isVisible());
-    EXPECT_EQ(feuilles.parNom(u"écran_nommé"_s), f);
-    EXPECT_EQ(chargements, 1);
-    f->Unload();
-    processDeletions();
-    feuilles.toutDétruire();
-    ASSERT_TRUE(feuilles.connaît(u"écran_nommé"_s)) << "what is known outlives the screens";
-    EXPECT_NE(feuilles.parNom(u"écran_nommé"_s), nullptr);
-    EXPECT_EQ(chargements, 2);
-}
-
 TEST_F(ParNom, TheFocusCannotGoToAHiddenScreenNorToADisabledField) {
     auto& f = module1().feuilles().get<écran_nommé>();
     EXPECT_EQ(error_of([&] { SetFocus(*f.devant); }), 5) << "a hidden screen";
     montrer_active(f);
     f.devant->setEnabled(false);
     EXPECT_EQ(error_of([&] { SetFocus(*f.devant); }), 5) << "a disabled field";
-}
-
-TEST_F(ParNom, TheFocusBringsTheFieldsPageForward) {
-    auto& f = module1().feuilles().get<écran_nommé>();
-    montrer_active(f);
-    ASSERT_EQ(f.onglets->currentIndex(), 0);
-    SetFocus(*f.derrière);
-    EXPECT_EQ(f.onglets->currentIndex(), 1);
-    EXPECT_EQ(QApplication::focusWidget(), f.derrière);
 }
 
 } // namespace

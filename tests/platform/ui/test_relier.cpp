@@ -22,14 +22,4 @@ TEST_F(Relier, UnÉchecDuHandlerMontreLaBoîteStandardLàEtNeRemontePasDansQt) {
     EXPECT_TRUE(une_boîte(ui(), "Le logiciel a rencontré l'erreur : 53\n\nFichier introuvable"));
 }
 
-TEST_F(Relier, LeHandlerPrendMoinsDArgumentsQueLeSignalOuEstUneMéthodeDuReceveur) {
-    QLineEdit zone;
-    int appels = 0;
-    relier(&zone, &QLineEdit::textChanged, &zone, [&] { ++appels; });
-    relier(&zone, &QLineEdit::textChanged, &zone, &QLineEdit::selectAll);
-    zone.setText(u"abc"_s);
-    EXPECT_EQ(appels, 1);
-    EXPECT_EQ(zone.selectedText(), "abc");
-}
-
 } // namespace

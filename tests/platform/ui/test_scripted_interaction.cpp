@@ -1,10 +1,8 @@
 // The scripted user is the safety net of every screen test: what it records and answers is used by all
 // of them; here, only that a box, a screen or an answer the test did not foresee makes the test fail.
-#include "platform/forms/Feuille.h"
-#include "support/ScriptedInteraction.h"
+#include "support/Fixtures.h"
 
 #include <gtest/gtest-spi.h>
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
@@ -20,38 +18,12 @@ TEST(ScriptedInteraction, AnUnexpectedBoxFailsTheTestAndIsAnsweredWithItsFirstBu
     EXPECT_TRUE(typed.isEmpty()) << "an unexpected input box reads as Cancel";
 }
 
-TEST(ScriptedInteraction, AnswersNeverAskedForFailTheTest) {
-    EXPECT_NONFATAL_FAILURE(
-        {
-            ScriptedInteraction ui;
-            ui.expectMsgBox(vbOK).expectInputBox(u"x"_s);
-        },
-        "2 réponse(s)");
-}
-
-namespace {
-
-class feuille_essai : public Feuille {
-public:
-    feuille_essai() : Feuille(u"feuille_essai"_s, Genre::haut_niveau) {}
-};
-
-} // namespace
-
-TEST(ScriptedInteraction, AnUnexpectedModalScreenFailsTheTest) {
-    ScriptedInteraction ui;
-    feuille_essai f;
-    EXPECT_NONFATAL_FAILURE(ui.showModal(f), "feuille_essai");
-}
-
-#include "support/Fixtures.h"
-
-
+// Unused answers fail the test at the end of the session.
 TEST(ScriptedSession, UnusedAnswersFailTheTestAtItsEnd) {
     EXPECT_NONFATAL_FAILURE(
         {
             ScriptedSession session;
-            session.ui().expectMsgBox(vbOK);
+            session.ui().expectMsgBox(vbOK).expectInputBox(u"x"_s);
         },
-        "jamais demandée");
+        "2 réponse(s) préparée(s) jamais demandée(s)");
 }
