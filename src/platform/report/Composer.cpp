@@ -254,18 +254,34 @@ private:
         return c.wrap ? QString(text).replace(u"\\n"_s, u"\n"_s) : text;
     }
 
+    // A cell of the sheet: a field alone keeps its kind (a date a date, a number a number), anything
+    // else is the text the page shows.
     QVariant cell(const Column& c, const Template& t, int row, const Template::Counters& counters) const {
-        const QString shown = t.render(row, counters);
-        if (t.isSoleNumber())
-            return QVariant(qlonglong(shown.toLongLong()));
         const int column = t.soleColumn();
-        if (column >= 0 && data_->typeOf(column) == FieldType::Date && !shown.isEmpty()) {
-            const QDate d = QDate::fromString(shown, u"dd/MM/yyyy"_s);
-            return d.isValid() ? QVariant(d) : QVariant(shown);
+        if (column < 0) {
+            const QString shown = t.render(row, counters);
+            if (t.isSoleNumber())
+                return QVariant(qlonglong(shown.toLongLong()));
+            return c.wrap ? QString(shown).replace(u"\\n"_s, u" "_s) : shown;
         }
-        if (column >= 0 && data_->typeOf(column) == FieldType::Number && !shown.isEmpty())
-            return QVariant(shown.toLongLong());
-        return c.wrap ? QString(shown).replace(u"\\n"_s, u" "_s) : shown;
+        const QStringView value = data_->value(row, column);
+        if (value.isEmpty())
+            return QVariant();
+        if (data_->typeOf(column) == FieldType::Date) {
+            const QDate d = shownDate(value);
+            if (d.isValid())
+                return d;
+        } else if (data_->typeOf(column) == FieldType::Number) {
+            return value.toLongLong();
+        }
+        return value.toString();
+    }
+
+    // JJ/MM/AAAA, as the rows show a date; an invalid date for anything else.
+    static QDate shownDate(QStringView v) {
+        if (v.size() != 10 || v[2] != u'/' || v[5] != u'/')
+            return {};
+        return QDate(v.mid(6, 4).toInt(), v.mid(3, 2).toInt(), v.mid(0, 2).toInt());
     }
 
     void makeBlocks() {

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "platform/dao/Connection.h"
 #include "platform/dao/Recordset.h"
 #include "platform/report/Layout.h"
 
 #include <QDate>
 #include <QString>
+#include <QStringDecoder>
 #include <QStringList>
 #include <map>
 #include <vector>
@@ -37,6 +39,8 @@ public:
     const QDate& reference() const { return reference_; }
 
 private:
+    void append(const dao::Statement& statement, int column, QStringDecoder& utf8);
+
     std::vector<QString> columns_; // "table.column", as the layout writes them
     std::vector<FieldType> types_;
     // Every value of every row, one after the other, and where each starts: one allocation, not one a

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QByteArray>
+#include <vector>
+
 #include "platform/report/RenderedReport.h"
 
 class QIODevice;
@@ -19,5 +22,6 @@ void writeRtf(const RenderedReport& report, QIODevice& device);
 // them the rows go on in the next sheet, under the same headings.
 void writeXls(const RenderedReport& report, QIODevice& device);
 
-// The compound file (the container of the format above) holding one stream named `streamName`.
-void writeCompoundFile(QIODevice& device, const QString& streamName, const QByteArray& stream);
+// The compound file (the container of the format above) holding one stream named `streamName`, given
+// in pieces.
+void writeCompoundFile(QIODevice& device, const QString& streamName, const std::vector<QByteArray>& stream);

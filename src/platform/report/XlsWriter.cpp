@@ -178,7 +178,10 @@ constexpr int cell_xf = 15, date_xf = 16, heading_xf = 17;
 // One sheet's cells as they are added, row by row, and its columns' widths.
 class SheetCells {
 public:
-    explicit SheetCells(SharedStrings& strings) : strings_(strings), widths_(max_columns, 8) {}
+    SheetCells(SharedStrings& strings, int rows, size_t columns)
+        : strings_(strings), widths_(max_columns, 8) {
+        cells_.reserve(static_cast<qsizetype>(std::min<size_t>(rows * columns * 12, 512u << 20)));
+    }
 
     void add(int row, const SheetRow& cells, bool heading) {
         ++rows_;
@@ -217,25 +220,23 @@ public:
         }
     }
 
-    // The sheet's records; the index's pointer to the default width is set once the sheet's place
-    // in the stream is known.
-    QByteArray finish(quint32 at) const {
-        Bytes worksheet;
-        record(worksheet, 0x0809, bof(0x0010));
-        const qsizetype indexAt = worksheet.size() + 4;
-        record(worksheet, 0x020B, Bytes().u32(0).u32(0).u32(static_cast<quint32>(rows_)).u32(0));
-        const qsizetype defaultWidthAt = worksheet.size();
-        record(worksheet, 0x0055, Bytes().u16(8));
+    // The sheet's records, in three pieces around its cells, which are not copied; the index's pointer
+    // to the default width is set once the sheet's place in the stream is known.
+    std::vector<QByteArray> finish(quint32 at) const {
+        Bytes head;
+        record(head, 0x0809, bof(0x0010));
+        const qsizetype indexAt = head.size() + 4;
+        record(head, 0x020B, Bytes().u32(0).u32(0).u32(static_cast<quint32>(rows_)).u32(0));
+        const qsizetype defaultWidthAt = head.size();
+        record(head, 0x0055, Bytes().u16(8));
         for (int c = 0; c < columns_; ++c)
-            record(worksheet, 0x007D, Bytes().u16(c).u16(c).u16(widths_[c] * 256).u16(cell_xf).u16(0).u16(0));
-        record(worksheet, 0x0200,
-               Bytes().u32(0).u32(static_cast<quint32>(rows_)).u16(0).u16(columns_).u16(0));
-        worksheet.raw(cells_);
-        record(worksheet, 0x023E, Bytes().u16(0x06B6).u16(0).u16(0).u32(0x40).u16(0).u16(0).u32(0));
-        record(worksheet, 0x000A, Bytes());
-        QByteArray bytes = worksheet.data();
-        qToLittleEndian(static_cast<quint32>(at + defaultWidthAt), bytes.data() + indexAt + 12);
-        return bytes;
+            record(head, 0x007D, Bytes().u16(c).u16(c).u16(widths_[c] * 256).u16(cell_xf).u16(0).u16(0));
+        record(head, 0x0200, Bytes().u32(0).u32(static_cast<quint32>(rows_)).u16(0).u16(columns_).u16(0));
+        qToLittleEndian(static_cast<quint32>(at + defaultWidthAt), head.data().data() + indexAt + 12);
+        Bytes tail;
+        record(tail, 0x023E, Bytes().u16(0x06B6).u16(0).u16(0).u32(0x40).u16(0).u16(0).u32(0));
+        record(tail, 0x000A, Bytes());
+        return {head.data(), cells_, tail.data()};
     }
 
 private:
@@ -267,8 +268,9 @@ QString sheetName(const QString& title, int number) {
     return name.left(31 - suffix.size()) + suffix;
 }
 
-// The workbook: one sheet, or as many as the rows need, each with the headings on its first row.
-QByteArray workbook(const RenderedReport& report) {
+// The workbook: one sheet, or as many as the rows need, each with the headings on its first row; the
+// stream in pieces, written one after the other.
+std::vector<QByteArray> workbook(const RenderedReport& report) {
     const int rows = report.sheetRowCount();
     const SheetRow headings = rows > 0 ? report.sheetRow(0) : SheetRow();
     constexpr int per_sheet = max_rows - 1;
@@ -277,7 +279,7 @@ QByteArray workbook(const RenderedReport& report) {
     SharedStrings strings;
     std::vector<SheetCells> parts;
     for (int s = 0; s < sheets; ++s) {
-        SheetCells& part = parts.emplace_back(strings);
+        SheetCells& part = parts.emplace_back(strings, std::min(rows, per_sheet + 1), headings.size());
         if (rows > 0)
             part.add(0, headings, true);
         const int first = 1 + s * per_sheet, last = std::min(rows, first + per_sheet);
@@ -313,11 +315,14 @@ QByteArray workbook(const RenderedReport& report) {
     strings.write(globals);
     record(globals, 0x000A, Bytes());
 
-    QByteArray book = std::move(globals.data());
+    std::vector<QByteArray> book{globals.data()};
+    qsizetype at = globals.size();
     for (int s = 0; s < sheets; ++s) {
-        const auto at = static_cast<quint32>(book.size());
-        qToLittleEndian(at, book.data() + positionsAt[s]);
-        book += parts[s].finish(at);
+        qToLittleEndian(static_cast<quint32>(at), book.front().data() + positionsAt[s]);
+        for (QByteArray& piece : parts[s].finish(static_cast<quint32>(at))) {
+            at += piece.size();
+            book.push_back(std::move(piece));
+        }
     }
     return book;
 }
@@ -339,9 +344,12 @@ QByteArray directoryEntry(const QString& name, int type, quint32 child, quint32 
 
 } // namespace
 
-void writeCompoundFile(QIODevice& device, const QString& streamName, const QByteArray& content) {
+void writeCompoundFile(QIODevice& device, const QString& streamName, const std::vector<QByteArray>& pieces) {
+    qsizetype length = 0;
+    for (const QByteArray& piece : pieces)
+        length += piece.size();
     // Streams under 4096 bytes would go to the small-stream area; padding keeps the one stream whole.
-    const qsizetype size = std::max<qsizetype>(content.size(), 4096);
+    const qsizetype size = std::max<qsizetype>(length, 4096);
     const quint32 streamSectors = static_cast<quint32>((size + sector - 1) / sector);
     quint32 fatSectors = 1, difatSectors = 0;
     for (;;) {
@@ -373,8 +381,9 @@ void writeCompoundFile(QIODevice& device, const QString& streamName, const QByte
     for (quint32 i = 0; i < 109; ++i)
         header.u32(i < fatSectors ? firstFat + i : free_sector);
     writeAll(device, header.data());
-    writeAll(device, content);
-    writeAll(device, QByteArray(static_cast<qsizetype>(streamSectors) * sector - content.size(), '\0'));
+    for (const QByteArray& piece : pieces)
+        writeAll(device, piece);
+    writeAll(device, QByteArray(static_cast<qsizetype>(streamSectors) * sector - length, '\0'));
 
     Bytes tables;
     for (quint32 v : fat)
