@@ -154,7 +154,14 @@ public:
         ReportPage page;
         addBands(page, index, blocks_.empty() ? -1 : blocks_[pages_[index]].row);
         if (blocks_.empty()) {
-            page.elements.push_back(text(QRectF(body_.left(), body_.top(), body_.width(), row_ + 2),
+            // What the list is about still heads it, when it can be told without a row.
+            double y = body_.top();
+            if (groupHeight_ > 0 && !groupHeader_.readsRows()) {
+                page.elements.push_back(text(QRectF(body_.left(), y, body_.width(), groupHeight_ - 1),
+                                             groupHeader_.render(-1), font(layout_.fontSize + 2, true)));
+                y += groupHeight_;
+            }
+            page.elements.push_back(text(QRectF(body_.left(), y, body_.width(), row_ + 2),
                                          u"Aucune fiche ne répond à la demande."_s, font(0, false, true)));
             return page;
         }

@@ -186,6 +186,12 @@ int Template::soleColumn() const {
                : -1;
 }
 
+bool Template::readsRows() const {
+    return std::any_of(segments_.begin(), segments_.end(), [](const Segment& s) {
+        return s.kind == Kind::Column || s.kind == Kind::Number || s.kind == Kind::Count;
+    });
+}
+
 bool Template::isSoleNumber() const {
     return segments_.size() == 1 &&
            (segments_.front().kind == Kind::Number || segments_.front().kind == Kind::Count ||

@@ -35,6 +35,8 @@ public:
     // The one column this text shows whole, or -1: a spreadsheet cell takes that column's kind.
     int soleColumn() const;
     bool isSoleNumber() const; // {numéro}, {nombre} or {total} alone
+    // Whether it reads a row: without one it says all it has to say (a reference date, a title).
+    bool readsRows() const;
 
     // The "table.column" names a text uses, "table.column|âge" for an age.
     static QStringList fieldsOf(const QString& text);
