@@ -9,6 +9,7 @@
 #include <QFontMetricsF>
 #include <QHash>
 #include <QImage>
+#include <QImageReader>
 #include <QLocale>
 #include <algorithm>
 #include <cmath>
@@ -717,6 +718,9 @@ public:
             case SheetElement::Kind::Field:
                 addField(page, e, captions_[i].render(row), contents_[i].render(row), origin);
                 break;
+            case SheetElement::Kind::Image:
+                addImage(page, e.rect.translated(origin), contents_[i].render(row));
+                break;
             }
         }
         return page;
@@ -739,6 +743,30 @@ public:
     }
 
 private:
+    // The picture a path names, in a thin frame; the frame alone, to take a photo glued by hand, when
+    // there is none or the file cannot be read.
+    void addImage(ReportPage& page, const QRectF& r, const QString& path) const {
+        page.elements.push_back(BoxElement{r, 0.2});
+        QImageReader reader;
+        if (!path.isEmpty())
+            reader.setFileName(path);
+        reader.setAutoTransform(true);
+        const QSize size = path.isEmpty() ? QSize() : reader.size();
+        if (size.isValid()) {
+            // Read at the size of its print at 300 dots an inch, no larger: a camera's photo is huge.
+            const QSize wanted = size.scaled(
+                QSize(qRound(r.width() / 25.4 * 300), qRound(r.height() / 25.4 * 300)), Qt::KeepAspectRatio);
+            if (wanted.width() < size.width())
+                reader.setScaledSize(wanted);
+            const QImage image = reader.read();
+            if (!image.isNull()) {
+                page.elements.push_back(ImageElement{r.adjusted(0.4, 0.4, -0.4, -0.4), image});
+                return;
+            }
+        }
+        page.elements.push_back(text(r, u"Photo"_s, font(0, false, true), Qt::AlignHCenter));
+    }
+
     // A caption, then the value on a dotted line, or the dotted line alone to be filled by hand. A
     // field whose caption and value both come out empty (a free field the school does not use) is
     // left out.

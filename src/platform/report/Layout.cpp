@@ -314,6 +314,9 @@ void apply(Layout& l, const QString& section, const QString& key, const QString&
             const std::vector<double> v = numbers(value, 4);
             e.kind = SheetElement::Kind::Line;
             e.line = QLineF(v[0], v[1], v[2], v[3]);
+        } else if (key == u"image") {
+            const QStringList p = pieces(value, 2, 2);
+            e = {SheetElement::Kind::Image, rectangle(p[0]), {}, {}, {}, p[1]};
         } else if (key == u"champ") {
             const QStringList p = pieces(value, 2, 3);
             const std::vector<double> v = numbers(p[0], 3);

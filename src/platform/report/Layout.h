@@ -32,13 +32,13 @@ struct LayoutColumn {
 
 // A drawn element of a record sheet, placed from the top-left corner of the area inside the margins.
 struct SheetElement {
-    enum class Kind { Text, Box, Line, Field };
+    enum class Kind { Text, Box, Line, Field, Image };
     Kind kind = Kind::Text;
     QRectF rect; // Text, Box, Field (a field's height is its line's)
     QLineF line; // Line
     TextStyle style;
     QString caption; // Field: printed before the line to fill
-    QString content; // Text, Field: a text with {fields}
+    QString content; // Text, Field: a text with {fields}; Image: the picture file's path
 };
 
 struct SortKey {

@@ -160,6 +160,13 @@ void paintChart(QPainter& painter, const ChartElement& c, const QRectF& target, 
     scene.render(&painter, target, scene.sceneRect(), Qt::KeepAspectRatio);
 }
 
+void paintImage(QPainter& painter, const ImageElement& picture, const QRectF& target) {
+    QSizeF size = QSizeF(picture.image.size()).scaled(target.size(), Qt::KeepAspectRatio);
+    const QRectF placed(target.center() - QPointF(size.width() / 2, size.height() / 2), size);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, true);
+    painter.drawImage(placed, picture.image);
+}
+
 void paintPage(QPainter& painter, const ReportPage& page, double k, double pointScale) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, true);
@@ -182,6 +189,8 @@ void paintPage(QPainter& painter, const ReportPage& page, double k, double point
             drawText(painter, *t, k, pointScale);
         } else if (const auto* chart = std::get_if<ChartElement>(&element)) {
             paintChart(painter, *chart, toDevice(chart->rect, k), pointScale);
+        } else if (const auto* picture = std::get_if<ImageElement>(&element)) {
+            paintImage(painter, *picture, toDevice(picture->rect, k));
         }
     }
     painter.restore();

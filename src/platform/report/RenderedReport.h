@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QImage>
 #include <QLineF>
 #include <QPageLayout>
 #include <QRectF>
@@ -51,7 +52,13 @@ struct ChartElement {
     FontSpec font;
 };
 
-using PageElement = std::variant<TextElement, LineElement, BoxElement, ChartElement>;
+// A picture scaled into its box, its proportions kept, centred.
+struct ImageElement {
+    QRectF rect;
+    QImage image;
+};
+
+using PageElement = std::variant<TextElement, LineElement, BoxElement, ChartElement, ImageElement>;
 
 struct ReportPage {
     std::vector<PageElement> elements;

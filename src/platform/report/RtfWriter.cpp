@@ -87,6 +87,8 @@ private:
                 shapes += shape(1, b->rect.topLeft(), b->rect.bottomRight(), b->width, b->fill, false);
             else if (const auto* c = std::get_if<ChartElement>(&e))
                 frames += picture(*c);
+            else if (const auto* i = std::get_if<ImageElement>(&e))
+                frames += picture(*i);
         }
         QByteArray out =
             "\\pard\\plain" + QByteArray(index > 0 ? "\\pagebb" : "") + "\\fs2 " + shapes + "\\par\n";
@@ -161,7 +163,8 @@ private:
     }
 
     // A chart as a picture at 200 dots an inch, in a frame where the page has it.
-    static QByteArray picture(const ChartElement& c) {
+    // A chart or a picture as drawn into its box, embedded as PNG.
+    template <class Element> static QByteArray picture(const Element& c) {
         const double dotsPerMm = 200 / 25.4;
         QImage image(QSize(std::lround(c.rect.width() * dotsPerMm), std::lround(c.rect.height() * dotsPerMm)),
                      QImage::Format_RGB32);
@@ -170,7 +173,11 @@ private:
         image.fill(Qt::white);
         {
             QPainter painter(&image);
-            paintChart(painter, c, QRectF(QPointF(0, 0), QSizeF(image.size())), 1.0);
+            const QRectF all(QPointF(0, 0), QSizeF(image.size()));
+            if constexpr (std::is_same_v<Element, ChartElement>)
+                paintChart(painter, c, all, 1.0);
+            else
+                paintImage(painter, c, all);
         }
         QByteArray png;
         QBuffer buffer(&png);
