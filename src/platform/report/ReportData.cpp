@@ -11,6 +11,7 @@
 #include <QStringDecoder>
 #include <algorithm>
 #include <cstdio>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -44,11 +45,13 @@ VbError unknownField(const Layout& layout, const QString& field) {
         u"Le fichier de mise en page « %1 » nomme un champ inconnu : %2"_s.arg(layout.path, field));
 }
 
+} // namespace
+
 // Fields of the query's tables by their written name, checked against the file's schema; a table joined
 // under another name is read under that name.
-class Schema {
+class ReportSchema {
 public:
-    Schema(dao::Connection& connection, const Layout& layout, const QDate& reference)
+    ReportSchema(dao::Connection& connection, const Layout& layout, const QDate& reference)
         : connection_(connection), layout_(layout), reference_(reference) {
         if (!layout.table.isEmpty())
             actual_[layout.table] = connection.table(layout.table).name; // 3078 when the file has none
@@ -103,6 +106,8 @@ private:
     std::map<QString, QString> actual_;
 };
 
+namespace {
+
 QString shown(const QVariant& stored, FieldType type) {
     if (stored.isNull())
         return {};
@@ -135,7 +140,7 @@ QString orderTerm(const QString& column, FieldType type, const SortKey& key) {
 }
 
 // The SQL of a value of a [lignes] line: its field, or its text.
-Resolved rowSetValue(const Schema& schema, const QString& part) {
+Resolved rowSetValue(const ReportSchema& schema, const QString& part) {
     if (part.startsWith(u'{'))
         return schema.require(part.mid(1, part.size() - 2).trimmed());
     return {literal(part), FieldType::Text};
@@ -184,12 +189,43 @@ QString ReportData::sideValue(const QString& field) const {
     return it == side_.end() ? QString() : it->second;
 }
 
+namespace {
+
+// The tables of the query: the main one, and each joined table through the first of its rows that
+// holds the same value, so that a join never adds a row.
+QString fromClause(const ReportSchema& schema, const Layout& layout) {
+    QString from = schema.quotedTable(layout.table) + u" AS "_s + dao::quote_name(layout.table);
+    for (const TableLink& link : layout.links) {
+        const QString real = schema.quotedTable(link.alias);
+        const QString key = dao::quote_name(link.right.section(u'.', 1));
+        from += u" LEFT JOIN (SELECT * FROM %1 WHERE rowid IN (SELECT MIN(rowid) FROM %1 GROUP BY %2)) AS %3 "
+                "ON %4 = %5"_s.arg(real, key, dao::quote_name(link.alias), schema.require(link.right).sql,
+                                   schema.require(link.left).sql);
+    }
+    return from;
+}
+
+// The terms of the query's order, over its columns c0, c1...; then the main table's order, then the
+// order of the lines of [lignes].
+QString orderBy(const Layout& layout, const ReportData& data) {
+    QStringList order;
+    for (const SortKey& key : layout.sort) {
+        const int column = data.columnOf(key.field);
+        if (column < 0)
+            throw unknownField(layout, key.field);
+        order << orderTerm(u"c%1"_s.arg(column), data.typeOf(column), key);
+    }
+    return (order << u"r_"_s << u"v_"_s).join(u", "_s);
+}
+
+} // namespace
+
 ReportData ReportData::load(const Layout& layout, const QString& databasePath, const QString& selection,
                             const QStringList& fields, const QDate& today) {
     ReportData data;
     data.reference_ = layout.reference(today);
     const auto connection = dao::Connection::open(databasePath, dao::Connection::Access::Shared);
-    const Schema schema(*connection, layout, data.reference_);
+    const ReportSchema schema(*connection, layout, data.reference_);
 
     QStringList wanted = fields;
     for (const QString& f : {layout.group, layout.unique, layout.countField})
@@ -200,56 +236,14 @@ ReportData ReportData::load(const Layout& layout, const QString& databasePath, c
     // One SELECT a line of [lignes] (a single one without): the same columns, each line's own values.
     const std::vector<QStringList> lines =
         layout.rowSet.lines.empty() ? std::vector<QStringList>{QStringList()} : layout.rowSet.lines;
-    std::vector<QStringList> selects(lines.size());
-    for (const QString& f : wanted) {
-        const QString table = f.section(u'.', 0, 0);
-        if (table == row_set_table) {
-            const qsizetype index = layout.rowSet.names.indexOf(f.section(u'.', 1));
-            if (index < 0)
-                throw unknownField(layout, f);
-            std::optional<FieldType> type;
-            for (size_t k = 0; k < lines.size(); ++k) {
-                const Resolved r = rowSetValue(schema, lines[k][index]);
-                selects[k] << r.sql;
-                if (!type && lines[k][index].startsWith(u'{'))
-                    type = r.type;
-            }
-            data.columns_.push_back(f);
-            data.types_.push_back(type.value_or(FieldType::Text));
-        } else if (schema.inQuery(table)) {
-            const Resolved r = schema.require(f);
-            data.columns_.push_back(f);
-            data.types_.push_back(r.type);
-            for (QStringList& s : selects)
-                s << r.sql;
-        } else {
-            data.side_[f] = QString();
-        }
-    }
-    // The school's sheet and its kin: one row, read once.
-    for (auto& [field, value] : data.side_) {
-        const dao::TableInfo& info = connection->table(field.section(u'.', 0, 0));
-        const int index = info.indexOf(field.section(u'.', 1));
-        if (index < 0)
-            throw unknownField(layout, field);
-        dao::Statement first = connection->prepare(u"SELECT %1 FROM %2 LIMIT 1"_s.arg(
-            dao::quote_name(info.columns[index].name), dao::quote_name(info.name)));
-        if (first.step())
-            value = shown(first.column(0), info.columns[index].type);
-    }
+    const std::vector<QStringList> selects = data.columnsOf(schema, layout, lines, wanted);
+    data.readSideFields(*connection, layout);
     if (layout.table.isEmpty())
         return data;
 
     const SqlCondition chosen = schema.condition(selection);
     const SqlCondition own = schema.condition(layout.filter);
-    QString from = schema.quotedTable(layout.table) + u" AS "_s + dao::quote_name(layout.table);
-    for (const TableLink& link : layout.links) {
-        const QString real = schema.quotedTable(link.alias);
-        const QString key = dao::quote_name(link.right.section(u'.', 1));
-        from += u" LEFT JOIN (SELECT * FROM %1 WHERE rowid IN (SELECT MIN(rowid) FROM %1 GROUP BY %2)) AS %3 "
-                "ON %4 = %5"_s.arg(real, key, dao::quote_name(link.alias), schema.require(link.right).sql,
-                                   schema.require(link.left).sql);
-    }
+    const QString from = fromClause(schema, layout);
     QStringList variants;
     QVariantList values;
     for (size_t k = 0; k < lines.size(); ++k) {
@@ -274,31 +268,73 @@ ReportData ReportData::load(const Layout& layout, const QString& databasePath, c
             sql += u" GROUP BY "_s + schema.require(layout.unique).sql;
         variants << sql;
     }
-    QStringList order;
-    for (const SortKey& key : layout.sort) {
-        const int column = data.columnOf(key.field);
-        if (column < 0)
-            throw unknownField(layout, key.field);
-        order << orderTerm(u"c%1"_s.arg(column), data.types_[column], key);
-    }
-    order << u"r_"_s << u"v_"_s;
-    const QString sql =
-        u"SELECT * FROM (%1) ORDER BY %2"_s.arg(variants.join(u" UNION ALL "_s), order.join(u", "_s));
-
-    dao::Statement statement = connection->prepare(sql);
+    dao::Statement statement = connection->prepare(
+        u"SELECT * FROM (%1) ORDER BY %2"_s.arg(variants.join(u" UNION ALL "_s), orderBy(layout, data)));
     for (qsizetype i = 0; i < values.size(); ++i)
         statement.bind(static_cast<int>(i + 1), values[i]);
-    const int width = data.columnCount();
-    data.starts_.push_back(0);
+    data.readRows(statement);
+    return data;
+}
+
+// The columns of the query, each line's SQL for each; a field of a table outside the query is set
+// aside, to be read from that table's first row.
+std::vector<QStringList> ReportData::columnsOf(const ReportSchema& schema, const Layout& layout,
+                                               const std::vector<QStringList>& lines,
+                                               const QStringList& wanted) {
+    std::vector<QStringList> selects(lines.size());
+    for (const QString& f : wanted) {
+        const QString table = f.section(u'.', 0, 0);
+        if (table == row_set_table) {
+            const qsizetype index = layout.rowSet.names.indexOf(f.section(u'.', 1));
+            if (index < 0)
+                throw unknownField(layout, f);
+            std::optional<FieldType> type;
+            for (size_t k = 0; k < lines.size(); ++k) {
+                const Resolved r = rowSetValue(schema, lines[k][index]);
+                selects[k] << r.sql;
+                if (!type && lines[k][index].startsWith(u'{'))
+                    type = r.type;
+            }
+            columns_.push_back(f);
+            types_.push_back(type.value_or(FieldType::Text));
+        } else if (schema.inQuery(table)) {
+            const Resolved r = schema.require(f);
+            columns_.push_back(f);
+            types_.push_back(r.type);
+            for (QStringList& s : selects)
+                s << r.sql;
+        } else {
+            side_[f] = QString();
+        }
+    }
+    return selects;
+}
+
+// The school's sheet and its kin: one row, read once.
+void ReportData::readSideFields(dao::Connection& connection, const Layout& layout) {
+    for (auto& [field, value] : side_) {
+        const dao::TableInfo& info = connection.table(field.section(u'.', 0, 0));
+        const int index = info.indexOf(field.section(u'.', 1));
+        if (index < 0)
+            throw unknownField(layout, field);
+        dao::Statement first = connection.prepare(u"SELECT %1 FROM %2 LIMIT 1"_s.arg(
+            dao::quote_name(info.columns[index].name), dao::quote_name(info.name)));
+        if (first.step())
+            value = shown(first.column(0), info.columns[index].type);
+    }
+}
+
+void ReportData::readRows(dao::Statement& statement) {
+    const int width = columnCount();
+    starts_.push_back(0);
     QStringDecoder utf8(QStringDecoder::Utf8);
     while (statement.step()) {
         for (int c = 0; c < width; ++c) {
-            data.append(statement, c, utf8);
-            if (data.text_.size() > std::numeric_limits<quint32>::max())
+            append(statement, c, utf8);
+            if (text_.size() > std::numeric_limits<quint32>::max())
                 throw VbError(7); // out of memory
-            data.starts_.push_back(static_cast<quint32>(data.text_.size()));
+            starts_.push_back(static_cast<quint32>(text_.size()));
         }
-        ++data.rows_;
+        ++rows_;
     }
-    return data;
 }

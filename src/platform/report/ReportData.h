@@ -11,6 +11,8 @@
 #include <map>
 #include <vector>
 
+class ReportSchema;
+
 // The rows a report shows: the layout's tables joined, the selection and the layout's filter applied,
 // each row unfolded into the lines of the layout's [lignes], in the layout's order, each value as the
 // page shows it (a date as JJ/MM/AAAA, a yes/no as Oui or Non, nothing as ""). Fields of a table
@@ -39,6 +41,10 @@ public:
     const QDate& reference() const { return reference_; }
 
 private:
+    std::vector<QStringList> columnsOf(const ReportSchema& schema, const Layout& layout,
+                                       const std::vector<QStringList>& lines, const QStringList& wanted);
+    void readSideFields(dao::Connection& connection, const Layout& layout);
+    void readRows(dao::Statement& statement);
     void append(const dao::Statement& statement, int column, QStringDecoder& utf8);
 
     std::vector<QString> columns_; // "table.column", as the layout writes them
