@@ -212,6 +212,11 @@ TEST_F(Etats, past_a_sheet_s_rows_the_workbook_goes_on_in_the_next_sheet) {
     EXPECT_EQ(seconde[1], u"65536"_s);
 }
 
+// A heading a little too wide for its column is set smaller, as on the page, not shortened.
+TEST_F(Etats, rich_text_sets_a_text_smaller_before_it_shortens_it) {
+    EXPECT_TRUE(texte_rtf(fichier(u"registre1"_s, ReportJob::richTextFile)).contains(u"Inscription"_s));
+}
+
 // A device that fills up is never taken for a complete file: each writer raises, so the safe-save
 // writer keeps the former file.
 TEST_F(Etats, a_full_disk_fails_every_writer) {

@@ -113,11 +113,13 @@ private:
         if (!t.wrap) {
             const double width = textWidth(f, shown);
             if (width > t.rect.width()) {
-                f.size *= std::max(0.7, t.rect.width() / width);
-                while (shown.size() > 1 && textWidth(f, shown + u"…"_s) > t.rect.width())
-                    shown.chop(1);
-                if (shown != t.text)
+                f.size *= std::max(0.7, 0.98 * t.rect.width() / width);
+                // Shortened only when even the smaller size does not fit.
+                if (textWidth(f, shown) > t.rect.width()) {
+                    while (shown.size() > 1 && textWidth(f, shown + u"…"_s) > t.rect.width())
+                        shown.chop(1);
                     shown += u"…"_s;
+                }
             }
         }
         // A line of text is centred in its box as the painter centres it.
