@@ -19,6 +19,7 @@
 #include "platform/vb/Conversions.h"
 #include "reference/retours.h"
 #include "reports/feuille_documents.h"
+#include "reports/fiches.h"
 #include "store/Module1.h"
 #include "store/ouvrir_table.h"
 
@@ -229,7 +230,13 @@ QWidget* feuille_élève::construire_boutons() {
     fitButtonToCaption(*Command3);
     rangée->addStretch(1);
     rangée->addWidget(Command3);
+    relier(Command3, &QPushButton::clicked, this, [this] { Command3_Click(); });
     return Frame11;
+}
+
+// The sheet of the pupil as stored, read by the matricule that the screen shows now.
+void feuille_élève::Command3_Click() {
+    imprimer_la_fiche(u"fiche_enfant.rpt"_s, sélection_de_l_élève(matricule->text()));
 }
 
 void feuille_élève::construire_onglets(FieldBuilder& disposition) {

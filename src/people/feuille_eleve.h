@@ -135,6 +135,8 @@ public:
     void matricule_LostFocus();
     void nom_enfant_LostFocus();
     void prénom_enfant_LostFocus();
+    // "&Imprimer": the sheet of the record as stored, in the preview.
+    void Command3_Click();
     // "Parents": from the pupil to its family, to the picker, or to a new family.
     void Command4_Click();
     // The family's address becomes the pupil's residence.

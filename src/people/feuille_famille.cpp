@@ -12,6 +12,7 @@
 #include "platform/ui/Relier.h"
 #include "platform/vb/Conversions.h"
 #include "reference/retours.h"
+#include "reports/fiches.h"
 #include "store/Module1.h"
 #include "store/ouvrir_table.h"
 
@@ -137,7 +138,13 @@ QWidget* feuille_famille::construire_bandeau(FieldBuilder& disposition) {
     rangée->addWidget(Command3);
     rangée->addWidget(Command4);
     lignes->addWidget(Frame1);
+    relier(Command3, &QPushButton::clicked, this, [this] { Command3_Click(); });
     return bandeau;
+}
+
+// The sheet of the family as stored, read by the reference that the screen shows now.
+void feuille_famille::Command3_Click() {
+    imprimer_la_fiche(u"fiche_famille.rpt"_s, sélection_de_la_famille(Text13->text()));
 }
 
 void feuille_famille::construire_onglets(FieldBuilder& disposition) {

@@ -119,6 +119,8 @@ public:
     void Text13_DblClick();
     void nom_responsable_légal_DblClick();
     void nom_conjoint_DblClick();
+    // "&Imprimer": the sheet of the record as stored, in the preview.
+    void Command3_Click();
     // From the family to its children on the pupil screen.
     void Command4_Click();
     // Parent 1's address becomes Parent 2's.

@@ -21,6 +21,7 @@
 #include "reference/feuille_sexe.h"
 #include "reference/feuille_situations_familiales.h"
 #include "reference/feuille_villes.h"
+#include "reports/exportation_tableur.h"
 #include "reports/feuille_documents.h"
 #include "reports/feuille_traitements.h"
 #include "shell/MDIForm1.h"
@@ -55,7 +56,7 @@ const std::vector<LigneDeCommande>& carte_des_commandes() {
         {"menuenfantsindex2", préparer<feuille_famille>(&ouvrir_table_familles, &étapes_en_plus_familles)},
         {"menuenfantsindex1", préparer<feuille_élève>(&ouvrir_table_élèves, &étapes_en_plus_élèves)},
         {"menuexploitationindex3", montrer_devant<feuille_traitements>},
-        {"menuexploitationindex4", {}}, // spreadsheet export
+        {"menuexploitationindex4", [](MDIForm1&) { menuexploitationindex4_Click(); }},
         {"menuparamètresindex1", préparer<feuille_inspection>(ouvrir_table_inspection)},
         {"menuparamètresindex2", préparer<feuille_école>(ouvrir_table_école)},
         {"menuparamètresindex3", préparer<feuille_équipe>(ouvrir_table_équipe)},

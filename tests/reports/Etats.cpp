@@ -63,11 +63,11 @@ QString texte_rtf(const QString& chemin) {
     return document.toPlainText();
 }
 
-QStringList cellules_xls(const QString& chemin) {
+QStringList cellules_xls(const QString& chemin, int feuille) {
     const QString script = uR"(
 import sys, xlrd
 livre = xlrd.open_workbook(sys.argv[1])
-feuille = livre.sheet_by_index(0)
+feuille = livre.sheet_by_index(int(sys.argv[2]))
 for r in range(feuille.nrows):
     cases = []
     for c in feuille.row(r):
@@ -80,5 +80,6 @@ for r in range(feuille.nrows):
             cases.append(str(c.value))
     print('\t'.join(cases))
 )"_s;
-    return sortie_de(u"/usr/bin/python3"_s, {u"-c"_s, script, chemin}).split(u'\n', Qt::SkipEmptyParts);
+    return sortie_de(u"/usr/bin/python3"_s, {u"-c"_s, script, chemin, QString::number(feuille)})
+        .split(u'\n', Qt::SkipEmptyParts);
 }

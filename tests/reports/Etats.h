@@ -21,8 +21,8 @@ protected:
 };
 
 // What the readers of the formats read in a file: pdftotext's text (pages apart by a form feed), the
-// text of a rich-text file, the cells of a workbook's first sheet as tab-separated lines (a date as
-// JJ/MM/AAAA, a number as written); "<illisible: …>" when the reader refuses the file.
+// text of a rich-text file, the cells of a workbook's sheet (the first unless told) as tab-separated
+// lines (a date as JJ/MM/AAAA, a number as written); "<illisible: …>" when the reader refuses the file.
 QString texte_pdf(const QString& chemin);
 QString texte_rtf(const QString& chemin);
-QStringList cellules_xls(const QString& chemin);
+QStringList cellules_xls(const QString& chemin, int feuille = 0);

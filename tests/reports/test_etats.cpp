@@ -3,13 +3,17 @@
 // they must show is read from the base itself.
 #include "Etats.h"
 
+#include "platform/dao/Connection.h"
+#include "platform/files/SafeSave.h"
 #include "platform/forms/Feuilles.h"
 #include "platform/report/PreviewWindow.h"
 #include "platform/report/ReportJob.h"
 #include "platform/report/Writers.h"
+#include "reports/catalogue.h"
 #include "shell/MDIForm1.h"
 #include "store/Module1.h"
 #include "support/BaseDirecte.h"
+#include "support/Donnees.h"
 #include "support/FailingDevice.h"
 
 #include <QApplication>
@@ -136,6 +140,81 @@ TEST_F(Etats, the_blank_sheet_is_one_page_to_fill_with_the_school_s_name) {
         cellules_xls(fichier(u"fiche_vierge"_s, ReportJob::spreadsheetFile)).contains(u"Nom et prénom"_s));
     EXPECT_TRUE(texte_rtf(fichier(u"fiche_vierge"_s, ReportJob::richTextFile))
                     .contains(u"Renseignements médicaux"_s));
+}
+
+// Every layout of the catalogue run to PDF on the demonstration school and read back against its
+// contract, as tests/data/contrats_etats.tsv writes it; no layout of the catalogue goes unchecked.
+TEST_F(Etats, every_catalogue_entry_shows_what_its_contract_says) {
+    module1().horloge().fixer(QDateTime(QDate(2025, 10, 15), QTime(9, 0)));
+    const QList<QStringList> lignes = table_de_données(u"contrats_etats.tsv"_s);
+    const auto connexion = dao::Connection::open(base, dao::Connection::Access::Shared);
+    auto résultats = [&](const QString& sql) {
+        if (sql.isEmpty())
+            return QList<QStringList>{{}};
+        QList<QStringList> rangs;
+        for (dao::Statement requête = connexion->prepare(sql); requête.step();) {
+            rangs << QStringList();
+            for (int c = 0; c < requête.columnCount(); ++c)
+                rangs.back() << requête.column(c).toString();
+        }
+        return rangs;
+    };
+    QSet<QString> couverts;
+    for (const QStringList& l : lignes)
+        if (l[2] == u"préparer")
+            connexion->run(l[4]);
+        else
+            couverts << l[0];
+    for (int liste = 1; liste <= 4; ++liste)
+        for (const EntréeCatalogue& e : catalogue(liste))
+            for (const char* f : {e.fichier, e.fichier_si_non})
+                EXPECT_TRUE(f == nullptr || couverts.contains(QString::fromUtf8(f))) << f;
+    std::map<QStringList, QString> textes;
+    for (const QStringList& l : lignes) {
+        if (l[2] == u"préparer")
+            continue;
+        QString& texte = textes[l.mid(0, 2)];
+        if (texte.isEmpty())
+            texte = texte_pdf(fichier(l[0].chopped(4), ReportJob::pdfFile, l[1]));
+        const QList<QStringList> rangs = résultats(l[4]);
+        EXPECT_FALSE(rangs.isEmpty()) << l.join(u" | "_s).toStdString();
+        for (const QStringList& valeurs : rangs) {
+            QString motif = l[3];
+            for (qsizetype i = valeurs.size(); i > 0; --i)
+                motif.replace(u"%"_s + QString::number(i), QRegularExpression::escape(valeurs[i - 1]));
+            const QRegularExpression attendu(motif, QRegularExpression::CaseInsensitiveOption);
+            if (l[2] == u"pages")
+                EXPECT_EQ(texte.count(u'\f'), motif.toInt()) << l[0].toStdString();
+            else
+                EXPECT_EQ(texte.contains(attendu), l[2] == u"contient")
+                    << l[0].toStdString() << " : " << motif.toStdString();
+        }
+    }
+}
+
+// A sheet holds 65,536 rows: past them the rows go on in the next sheet, under the same headings.
+TEST_F(Etats, past_a_sheet_s_rows_the_workbook_goes_on_in_the_next_sheet) {
+    struct Rangs : RenderedReport {
+        int pageCount() const override { return 1; }
+        ReportPage page(int) const override { return {}; }
+        int sheetRowCount() const override { return 70001; }
+        SheetRow sheetRow(int i) const override {
+            return {i == 0 ? QVariant(u"N°"_s) : QVariant(qlonglong(i))};
+        }
+    } rangs;
+    const QString chemin = folder.file(u"rangs.xls"_s);
+    saveWhole(chemin, [&](QIODevice& d) { writeXls(rangs, d); });
+    const QStringList première = cellules_xls(chemin, 0), seconde = cellules_xls(chemin, 1);
+    ASSERT_EQ(première.size(), 65536);
+    EXPECT_EQ(première.back(), u"65535"_s);
+    ASSERT_EQ(seconde.size(), 70001 - 65535);
+    EXPECT_EQ(seconde[0], u"N°"_s);
+    EXPECT_EQ(seconde[1], u"65536"_s);
+}
+
+// A heading a little too wide for its column is set smaller, as on the page, not shortened.
+TEST_F(Etats, rich_text_sets_a_text_smaller_before_it_shortens_it) {
+    EXPECT_TRUE(texte_rtf(fichier(u"registre1"_s, ReportJob::richTextFile)).contains(u"Inscription"_s));
 }
 
 // A device that fills up is never taken for a complete file: each writer raises, so the safe-save

@@ -125,15 +125,12 @@ TEST_F(FenêtrePrincipale, ChaqueEntréeEstDansLaCarteEtCelleDontLÉcranNExisteP
     MDIForm1& fenêtre = démarrer();
     fenêtre.activer_menus();
     const size_t chargées = feuilles().chargées().size();
-    int sans_commande = 0;
     for (const LigneDeCommande& ligne : carte_des_commandes()) {
         if (ligne.faire)
             continue;
-        ++sans_commande;
         fenêtre.cliquer(QString::fromUtf8(ligne.menu));
         EXPECT_EQ(feuilles().chargées().size(), chargées) << ligne.menu;
     }
-    EXPECT_GT(sans_commande, 0);
     EXPECT_TRUE(ui().boxes().empty());
 
     // No entry of the menus is missing from the map.

@@ -207,6 +207,15 @@ qint64 Statement::columnInt64(int index) const {
     return sqlite3_column_int64(stmt_, index);
 }
 
+bool Statement::columnIsNull(int index) const {
+    return sqlite3_column_type(stmt_, index) == SQLITE_NULL;
+}
+
+QByteArrayView Statement::columnUtf8(int index) const {
+    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(stmt_, index));
+    return QByteArrayView(text, sqlite3_column_bytes(stmt_, index));
+}
+
 // --- Connection
 
 void register_jet_functions(sqlite3* db, const FrenchCollation& collation) {

@@ -44,6 +44,10 @@ public:
     int columnCount() const;
     QVariant column(int index) const; // stored form: QString, qlonglong, double or null
     qint64 columnInt64(int index) const;
+    // A value as the file holds it, for a reader of many rows that converts it itself: null or not,
+    // and its text in UTF-8, valid until the next step.
+    bool columnIsNull(int index) const;
+    QByteArrayView columnUtf8(int index) const;
 
 private:
     const Connection* connection_;

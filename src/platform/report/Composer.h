@@ -3,6 +3,7 @@
 #include "platform/report/Layout.h"
 #include "platform/report/RenderedReport.h"
 
+#include <QDate>
 #include <QString>
 #include <map>
 #include <memory>
@@ -11,8 +12,7 @@
 // returns the pages and the sheet that the destinations receive. `today` is the date the texts print.
 std::unique_ptr<RenderedReport> composeReport(const Layout& layout, const QString& databasePath,
                                               const QString& selection,
-                                              const std::map<QString, QString>& formulas,
-                                              const QString& today);
+                                              const std::map<QString, QString>& formulas, const QDate& today);
 
 // The width a text takes on paper in that font, in millimetres.
 double textWidth(const FontSpec& font, const QString& text);

@@ -60,10 +60,11 @@ std::vector<Token> tokenize(const QString& formula) {
             while (i < n && isNameChar(formula[i]))
                 ++i;
             tokens.push_back({Token::Kind::Word, formula.mid(start, i - start), {}, {}, start});
-        } else if (c == u'<' && i + 1 < n && formula[i + 1] == u'>') {
-            tokens.push_back({Token::Kind::Symbol, u"<>"_s, {}, {}, start});
+        } else if ((c == u'<' || c == u'>') && i + 1 < n &&
+                   (formula[i + 1] == u'=' || (c == u'<' && formula[i + 1] == u'>'))) {
+            tokens.push_back({Token::Kind::Symbol, formula.mid(i, 2), {}, {}, start});
             i += 2;
-        } else if (c == u'=' || c == u'(' || c == u')') {
+        } else if (c == u'=' || c == u'(' || c == u')' || c == u'<' || c == u'>') {
             tokens.push_back({Token::Kind::Symbol, QString(c), {}, {}, start});
             ++i;
         } else {
@@ -82,6 +83,7 @@ struct Piece {
     QVariantList values;
     Kind kind;
     bool isField = false;
+    bool exact = false;
 };
 
 Kind kindOf(FieldType type) {
@@ -175,7 +177,8 @@ private:
     Piece comparison() {
         const qsizetype position = current().position;
         Piece left = operand();
-        if (!isSymbol("=") && !isSymbol("<>"))
+        const bool equality = isSymbol("=") || isSymbol("<>");
+        if (!equality && !isSymbol("<") && !isSymbol("<=") && !isSymbol(">") && !isSymbol(">="))
             return left;
         const QString op = current().text;
         ++index_;
@@ -184,6 +187,8 @@ private:
             throw Refusal(u"une comparaison porte sur un champ"_s, position);
         if (left.kind != right.kind)
             throw Refusal(u"les deux côtés de « %1 » ne sont pas de même nature"_s.arg(op), position);
+        if (!equality && left.kind == Kind::Boolean)
+            throw Refusal(u"« %1 » ne compare pas oui et non"_s.arg(op), position);
         Piece result{u"(%1 %2 %3)"_s.arg(comparable(left), op, comparable(right)), left.values + right.values,
                      Kind::Boolean};
         return result;
@@ -195,7 +200,7 @@ private:
             return p.sql;
         switch (p.kind) {
         case Kind::Text:
-            return u"IFNULL(%1, '') COLLATE FR"_s.arg(p.sql);
+            return u"IFNULL(%1, '') COLLATE %2"_s.arg(p.sql, p.exact ? u"BINARY"_s : u"FR"_s);
         case Kind::Boolean:
             return u"IFNULL(%1, 0)"_s.arg(p.sql);
         default:
@@ -211,12 +216,16 @@ private:
             if (!field)
                 throw Refusal(u"le champ {%1} est inconnu de cet état"_s.arg(t.text), t.position);
             ++index_;
-            return {field->sql, {}, kindOf(field->type), true};
+            return {field->sql, {}, kindOf(field->type), true, field->exact};
         }
         case Token::Kind::Text:
             ++index_;
             return {u"?"_s, {t.text}, Kind::Text};
         case Token::Kind::Word:
+            if (bool whole = false; t.text.toLongLong(&whole), whole && t.text.front().isDigit()) {
+                ++index_;
+                return {u"?"_s, {t.text.toLongLong()}, Kind::Number};
+            }
             if (isWord("True") || isWord("False")) {
                 ++index_;
                 const bool yes = t.text.compare(u"True"_s, Qt::CaseInsensitive) == 0;

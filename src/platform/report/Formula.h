@@ -14,12 +14,15 @@
 //   or         := and { "OR" and }
 //   and        := not { "AND" not }
 //   not        := "NOT" not | comparison
-//   comparison := operand [ ( "=" | "<>" ) operand ]
-//   operand    := "{" table "." column "}" | '"' text '"' | "True" | "False" | "(" or ")"
+//   comparison := operand [ ( "=" | "<>" | "<" | "<=" | ">" | ">=" ) operand ]
+//   operand    := "{" table "." column [ "|" filter ] "}" | '"' text '"' | number | "True" | "False"
+//                 | "(" or ")"
 // Keywords are read in any case. A text runs to the next double quote: it cannot hold one, so a typed
 // value with a double quote in it breaks the formula instead of changing its meaning. A comparison
-// names a field on at least one side and compares values of one kind; a field alone is a condition
-// only when it is a yes/no column.
+// names a field on at least one side and compares values of one kind (an order, not a yes/no); a field
+// alone is a condition only when it is a yes/no column. A filter after the column is the resolver's
+// business (an age in years, a text compared letter for letter); texts otherwise compare as the user
+// reads them, case and accents aside.
 //
 // A named formula, as a letter passes its texts: name "=" '"' text '"'.
 
@@ -27,6 +30,7 @@
 struct FormulaField {
     QString sql; // an expression over quoted names that come from the file's schema
     FieldType type = FieldType::Text;
+    bool exact = false; // a text compared letter for letter
 };
 
 // Finds a field by its table and column as written in the formula; nullopt when the report has no

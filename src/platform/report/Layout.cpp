@@ -90,12 +90,31 @@ bool yesNo(const QString& text) {
     throw LineError{u"oui ou non attendu"_s};
 }
 
+// table.column, or table.column|âge for the age in whole years that a date gives at the reference date.
 QString field(const QString& text) {
     const QString f = text.trimmed();
-    const qsizetype dot = f.indexOf(u'.');
-    if (dot <= 0 || dot == f.size() - 1 || f.contains(u' '))
+    const QString name = f.section(u'|', 0, 0).trimmed();
+    const qsizetype dot = name.indexOf(u'.');
+    if (dot <= 0 || dot == name.size() - 1 || name.contains(u' '))
         throw LineError{u"un champ s'écrit table.colonne"_s};
-    return f;
+    if (f.contains(u'|')) {
+        if (f.section(u'|', 1).trimmed() != u"âge")
+            throw LineError{u"seul |âge peut suivre un champ ici"_s};
+        return name + u"|âge"_s;
+    }
+    return name;
+}
+
+// "aujourd'hui", "JJ/MM" or "JJ/MM/AAAA".
+QString referenceDate(const QString& text) {
+    if (text == u"aujourd'hui" || text == u"aujourd’hui")
+        return u"aujourd'hui"_s;
+    const QStringList parts = text.split(u'/');
+    const bool withYear = parts.size() == 3;
+    const QDate d(withYear ? parts[2].toInt() : 2000, parts.value(1).toInt(), parts.value(0).toInt());
+    if ((parts.size() != 2 && !withYear) || !d.isValid())
+        throw LineError{u"aujourd'hui, JJ/MM ou JJ/MM/AAAA attendu"_s};
+    return text;
 }
 
 QPageSize paper(const QString& name) {
@@ -154,22 +173,36 @@ void apply(Layout& l, const QString& section, const QString& key, const QString&
             l.table = value;
         } else if (key == u"lien") {
             const QStringList sides = value.split(u'=');
-            if (sides.size() != 2)
-                throw LineError{u"un lien s'écrit table.colonne = autre_table.colonne"_s};
-            const QString right = field(sides[1]);
-            l.links.push_back({right.section(u'.', 0, 0), field(sides[0]), right});
+            QStringList right = sides.value(1).simplified().split(u' ');
+            if (sides.size() != 2 || (right.size() != 1 && (right.size() != 3 || right[1] != u"comme")))
+                throw LineError{
+                    u"un lien s'écrit table.colonne = autre_table.colonne, suivi au besoin de comme nom"_s};
+            const QString joined = field(right[0]), table = joined.section(u'.', 0, 0);
+            const QString alias = right.size() == 3 ? right[2] : table;
+            if (l.tables().contains(alias))
+                throw LineError{u"la table %1 est déjà lue : nommez-la autrement (comme nom)"_s.arg(alias)};
+            l.links.push_back({table, alias, field(sides[0]), alias + u'.' + joined.section(u'.', 1)});
         } else if (key == u"tri") {
-            QStringList words = value.simplified().split(u' ');
-            SortKey k{field(words.takeFirst())};
+            const qsizetype according = value.indexOf(u" selon "_s);
+            QStringList words = value.left(according).simplified().split(u' ');
+            SortKey k{field(words.takeFirst()), false, false, {}};
             for (const QString& w : words) {
                 if (w == u"numérique")
                     k.numeric = true;
                 else if (w == u"décroissant")
                     k.descending = true;
                 else
-                    throw LineError{u"« %1 » : numérique ou décroissant attendu"_s.arg(w)};
+                    throw LineError{u"« %1 » : numérique, décroissant ou selon attendu"_s.arg(w)};
             }
+            if (according >= 0)
+                for (const QString& v : value.mid(according + 7).split(u','))
+                    if (!v.trimmed().isEmpty())
+                        k.order << v.trimmed();
             l.sort.push_back(k);
+        } else if (key == u"filtre") {
+            l.filter = value;
+        } else if (key == u"date de référence") {
+            l.referenceDate = referenceDate(value);
         } else if (key == u"groupe") {
             l.group = field(value);
         } else if (key == u"unique") {
@@ -190,7 +223,13 @@ void apply(Layout& l, const QString& section, const QString& key, const QString&
     } else if (section == u"liste") {
         if (key == u"colonne") {
             const QStringList p = pieces(value, 4, 4);
-            l.columns.push_back({p[0], number(p[1]), alignment(p[2]), p[3]});
+            QStringList how = p[2].simplified().split(u' ');
+            const bool wrap = how.removeAll(u"lignes"_s) > 0;
+            l.columns.push_back({p[0], number(p[1]), alignment(how.join(u' ')), wrap, p[3]});
+        } else if (key == u"grille") {
+            l.grid = yesNo(value);
+        } else if (key == u"jours du mois") {
+            l.dayColumnsAt = yesNo(value) ? static_cast<int>(l.columns.size()) : -1;
         } else if (key == u"hauteur de ligne") {
             l.rowHeight = number(value);
         } else if (key == u"en-tête de groupe") {
@@ -207,6 +246,16 @@ void apply(Layout& l, const QString& section, const QString& key, const QString&
             l.countField = field(value);
         } else if (key == u"libellé") {
             l.countHeading = value;
+        } else if (key == u"valeur") {
+            l.valueText = value;
+        } else if (key == u"étiquette") {
+            l.chartText = value;
+        } else if (key == u"sous-titre") {
+            l.subtitle = value;
+        } else if (key == u"ordre") {
+            if (value != u"effectif" && value != u"tri")
+                throw LineError{u"effectif ou tri attendu"_s};
+            l.byCount = value == u"effectif";
         } else if (key == u"vide") {
             l.emptyValue = value;
         } else if (key == u"graphique") {
@@ -232,10 +281,27 @@ void apply(Layout& l, const QString& section, const QString& key, const QString&
             l.labelHeight = number(value);
         else if (key == u"marge intérieure")
             l.labelPadding = number(value);
-        else if (key == u"ligne")
-            l.labelLines << value;
-        else
+        else if (key == u"ligne") {
+            const QStringList p = pieces(value, 1, 2);
+            l.labelStyles.push_back(p.size() == 2 ? std::optional(style(p[0])) : std::nullopt);
+            l.labelLines << p.back();
+        } else
             throw unknown();
+    } else if (section == u"lignes") {
+        if (key == u"valeurs") {
+            l.rowSet.names = pieces(value, 1, 100);
+        } else if (key == u"ligne") {
+            const QStringList p = pieces(value, 1, 100);
+            if (p.size() != l.rowSet.names.size())
+                throw LineError{u"une ligne donne autant de parties que valeurs en nomme"_s};
+            for (const QString& part : p)
+                if (part.contains(u'{') && !(part.startsWith(u'{') && part.endsWith(u'}') &&
+                                             part.count(u'{') == 1 && !part.contains(u'|')))
+                    throw LineError{u"chaque partie est un champ {table.colonne} seul ou un texte"_s};
+            l.rowSet.lines.push_back(p);
+        } else {
+            throw unknown();
+        }
     } else if (section == u"fiche") {
         SheetElement e;
         if (key == u"texte") {
@@ -256,6 +322,9 @@ void apply(Layout& l, const QString& section, const QString& key, const QString&
             const QStringList p = pieces(value, 3, 3);
             e = {SheetElement::Kind::Flow, {}, {}, style(p[1]), {}, p[2]};
             e.spaceAbove = number(p[0]);
+        } else if (key == u"image") {
+            const QStringList p = pieces(value, 2, 2);
+            e = {SheetElement::Kind::Image, rectangle(p[0]), {}, {}, {}, p[1]};
         } else if (key == u"champ") {
             const QStringList p = pieces(value, 2, 3);
             const std::vector<double> v = numbers(p[0], 3);
@@ -280,8 +349,21 @@ QStringList Layout::tables() const {
     if (!table.isEmpty())
         t << table;
     for (const TableLink& link : links)
-        t << link.table;
+        t << link.alias;
     return t;
+}
+
+QDate Layout::reference(const QDate& today) const {
+    const QStringList parts = referenceDate.split(u'/');
+    if (parts.size() == 3)
+        return QDate(parts[2].toInt(), parts[1].toInt(), parts[0].toInt());
+    if (parts.size() != 2)
+        return today;
+    // The school year runs from the first of September: a day of its autumn falls in the year it began.
+    const int start = today.month() >= 9 ? today.year() : today.year() - 1;
+    const int month = parts[1].toInt(), year = month >= 9 ? start : start + 1;
+    const QDate d(year, month, parts[0].toInt());
+    return d.isValid() ? d : QDate(year, month, 28); // the 29th of February of a common year
 }
 
 Layout parseLayout(const QString& text, const QString& path) {
@@ -317,6 +399,8 @@ Layout parseLayout(const QString& text, const QString& path) {
         throw report_error::layoutInvalid(path, last, u"[données] ne nomme aucune table"_s);
     if (l.kind == Layout::Kind::List && l.columns.empty())
         throw report_error::layoutInvalid(path, last, u"[liste] n'a aucune colonne"_s);
+    if (!l.rowSet.names.isEmpty() && l.rowSet.lines.empty())
+        throw report_error::layoutInvalid(path, last, u"[lignes] n'a aucune ligne"_s);
     if (l.kind == Layout::Kind::Statistic && l.countField.isEmpty())
         throw report_error::layoutInvalid(path, last, u"[statistique] ne dit pas quoi compter"_s);
     return l;

@@ -6,6 +6,7 @@
 #include <QChart>
 #include <QFontMetricsF>
 #include <QGraphicsScene>
+#include <QHorizontalBarSeries>
 #include <QPainter>
 #include <QPieSeries>
 #include <QValueAxis>
@@ -38,13 +39,22 @@ void drawText(QPainter& painter, const TextElement& t, double k, double pointSca
     QFont f = fontOf(t.font, pointScale);
     painter.setFont(f);
     if (t.wrap) {
-        painter.drawText(box, static_cast<int>(t.align) | Qt::TextWordWrap, t.text);
+        // Lines that would run out of their box are drawn smaller, down to seven tenths of their size.
+        const int flags = static_cast<int>(t.align) | Qt::TextWordWrap;
+        for (double shrink = 0.95; shrink >= 0.7; shrink -= 0.05) {
+            const QRectF needed = painter.boundingRect(box, flags, t.text);
+            if (needed.height() <= box.height() + 0.5 && needed.width() <= box.width() + 0.5)
+                break;
+            f.setPointSizeF(fontOf(t.font, pointScale).pointSizeF() * shrink);
+            painter.setFont(f);
+        }
+        painter.drawText(box, flags, t.text);
         return;
     }
     QString shown = t.text;
     qreal width = QFontMetricsF(f, painter.device()).horizontalAdvance(shown);
     if (width > box.width()) {
-        const double shrink = std::max(0.7, box.width() / width);
+        const double shrink = std::max(0.7, 0.98 * box.width() / width); // a size is not scaled quite evenly
         f.setPointSizeF(f.pointSizeF() * shrink);
         painter.setFont(f);
         const QFontMetricsF metrics(f, painter.device());
@@ -85,28 +95,49 @@ void paintChart(QPainter& painter, const ChartElement& c, const QRectF& target, 
         chart->addSeries(series);
         chart->legend()->hide();
     } else {
+        // Categories too long to stand under their bars lie along horizontal ones, read from the top.
+        QFont small = base;
+        small.setPointSizeF(base.pointSizeF() * 0.85);
+        const QFontMetricsF metrics(small);
+        double widest = 0;
+        for (const QString& category : c.categories)
+            widest = std::max(widest, metrics.horizontalAdvance(category));
+        const bool horizontal =
+            !c.categories.isEmpty() && widest > 0.6 * (logical.width() - 80) / c.categories.size();
+        QStringList categories = c.categories;
+        // The axis keeps one category a name: a name met again takes invisible spaces to stay apart.
+        for (qsizetype i = 1; i < categories.size(); ++i)
+            while (categories.indexOf(categories[i]) < i)
+                categories[i] += QChar(0x200B);
+        std::vector<double> counts = c.values;
+        if (horizontal) {
+            std::reverse(categories.begin(), categories.end());
+            std::reverse(counts.begin(), counts.end());
+        }
         auto* set = new QBarSet(c.title);
         set->setColor(bar);
         set->setBorderColor(bar.darker(120));
         set->setLabelColor(Qt::black);
         set->setLabelFont(base);
         double top = 0;
-        for (double v : c.values) {
+        for (double v : counts) {
             *set << v;
             top = std::max(top, v);
         }
-        auto* series = new QBarSeries;
+        QAbstractBarSeries* series =
+            horizontal ? static_cast<QAbstractBarSeries*>(new QHorizontalBarSeries) : new QBarSeries;
         series->append(set);
         series->setLabelsVisible(true);
         series->setLabelsPosition(QAbstractBarSeries::LabelsOutsideEnd);
         series->setLabelsPrecision(12);
         series->setBarWidth(0.6);
         chart->addSeries(series);
-        auto* categories = new QBarCategoryAxis;
-        categories->append(c.categories);
-        categories->setLabelsFont(base);
-        chart->addAxis(categories, Qt::AlignBottom);
-        series->attachAxis(categories);
+        auto* axis = new QBarCategoryAxis;
+        axis->append(categories);
+        axis->setLabelsFont(small);
+        axis->setTruncateLabels(!horizontal);
+        chart->addAxis(axis, horizontal ? Qt::AlignLeft : Qt::AlignBottom);
+        series->attachAxis(axis);
         auto* values = new QValueAxis;
         // Whole numbers on the axis, with room above the tallest bar for its label.
         const double step =
@@ -119,7 +150,7 @@ void paintChart(QPainter& painter, const ChartElement& c, const QRectF& target, 
         values->setLabelFormat(u"%d"_s);
         values->setLabelsFont(base);
         values->setGridLineColor(QColor(0xd0, 0xd0, 0xd0));
-        chart->addAxis(values, Qt::AlignLeft);
+        chart->addAxis(values, horizontal ? Qt::AlignBottom : Qt::AlignLeft);
         series->attachAxis(values);
         chart->legend()->hide();
     }
@@ -127,6 +158,13 @@ void paintChart(QPainter& painter, const ChartElement& c, const QRectF& target, 
     scene.setSceneRect(QRectF(QPointF(0, 0), logical));
     (void)pointScale;
     scene.render(&painter, target, scene.sceneRect(), Qt::KeepAspectRatio);
+}
+
+void paintImage(QPainter& painter, const ImageElement& picture, const QRectF& target) {
+    QSizeF size = QSizeF(picture.image.size()).scaled(target.size(), Qt::KeepAspectRatio);
+    const QRectF placed(target.center() - QPointF(size.width() / 2, size.height() / 2), size);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, true);
+    painter.drawImage(placed, picture.image);
 }
 
 void paintPage(QPainter& painter, const ReportPage& page, double k, double pointScale) {
@@ -151,6 +189,8 @@ void paintPage(QPainter& painter, const ReportPage& page, double k, double point
             drawText(painter, *t, k, pointScale);
         } else if (const auto* chart = std::get_if<ChartElement>(&element)) {
             paintChart(painter, *chart, toDevice(chart->rect, k), pointScale);
+        } else if (const auto* picture = std::get_if<ImageElement>(&element)) {
+            paintImage(painter, *picture, toDevice(picture->rect, k));
         }
     }
     painter.restore();

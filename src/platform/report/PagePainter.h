@@ -11,3 +11,4 @@ void paintPage(QPainter& painter, const ReportPage& page, double dotsPerMm, doub
 
 // A chart of counts drawn with Qt Charts into a rectangle of the painter's device.
 void paintChart(QPainter& painter, const ChartElement& chart, const QRectF& target, double pointScale);
+void paintImage(QPainter& painter, const ImageElement& picture, const QRectF& target);

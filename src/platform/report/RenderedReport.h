@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QImage>
 #include <QLineF>
 #include <QPageLayout>
 #include <QRectF>
@@ -51,27 +52,43 @@ struct ChartElement {
     FontSpec font;
 };
 
-using PageElement = std::variant<TextElement, LineElement, BoxElement, ChartElement>;
+// A picture scaled into its box, its proportions kept, centred.
+struct ImageElement {
+    QRectF rect;
+    QImage image;
+};
+
+using PageElement = std::variant<TextElement, LineElement, BoxElement, ChartElement, ImageElement>;
 
 struct ReportPage {
     std::vector<PageElement> elements;
 };
 
-// What a spreadsheet receives: a sheet of rows, each cell a QString, a number (double or qlonglong),
-// a QDate or empty.
+// What a spreadsheet receives: a sheet of rows, the headings first, each cell a QString, a number
+// (double or qlonglong), a QDate or empty.
+using SheetRow = std::vector<QVariant>;
 struct ReportSheet {
     QString name;
-    std::vector<std::vector<QVariant>> rows;
+    std::vector<SheetRow> rows;
 };
 
-// Pages are made when asked for, so that the first one shows before the last is laid out.
+// Pages and rows are made when asked for, so that the first page shows before the last is laid out
+// and a spreadsheet of a hundred thousand rows never stands whole in memory.
 class RenderedReport {
 public:
     virtual ~RenderedReport() = default;
 
     virtual int pageCount() const = 0;
     virtual ReportPage page(int index) const = 0; // 0-based
-    virtual ReportSheet sheet() const = 0;
+    virtual int sheetRowCount() const = 0;        // the headings included
+    virtual SheetRow sheetRow(int index) const = 0;
+    // All the rows at once.
+    ReportSheet sheet() const {
+        ReportSheet s{title, {}};
+        for (int i = 0; i < sheetRowCount(); ++i)
+            s.rows.push_back(sheetRow(i));
+        return s;
+    }
 
     QString title;
     QPageLayout pageLayout;

@@ -12,7 +12,6 @@ inline constexpr int layout_missing = 20504;     // the layout file is not there
 inline constexpr int layout_invalid = 20505;     // the layout file cannot be read
 inline constexpr int formula_refused = 20515;    // a selection or named formula is refused
 inline constexpr int destination_failed = 20520; // the printer, the preview or the file failed
-inline constexpr int too_many_rows = 20525;      // more rows than a spreadsheet sheet holds
 
 inline VbError layoutMissing(const QString& path) {
     return VbError(layout_missing,

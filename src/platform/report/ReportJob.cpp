@@ -51,8 +51,7 @@ std::shared_ptr<RenderedReport> ReportJob::render() const {
     for (const QString& text : formulas_)
         if (const std::optional<NamedFormula> f = parseNamedFormula(text))
             formulas[f->name] = f->value;
-    const QString today = horloge().aujourdhui().toString(u"dd/MM/yyyy"_s);
-    return composeReport(layout, dataFiles_[0], SelectionFormula, formulas, today);
+    return composeReport(layout, dataFiles_[0], SelectionFormula, formulas, horloge().aujourdhui());
 }
 
 void ReportJob::run() {

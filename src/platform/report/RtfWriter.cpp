@@ -87,6 +87,8 @@ private:
                 shapes += shape(1, b->rect.topLeft(), b->rect.bottomRight(), b->width, b->fill, false);
             else if (const auto* c = std::get_if<ChartElement>(&e))
                 frames += picture(*c);
+            else if (const auto* i = std::get_if<ImageElement>(&e))
+                frames += picture(*i);
         }
         QByteArray out =
             "\\pard\\plain" + QByteArray(index > 0 ? "\\pagebb" : "") + "\\fs2 " + shapes + "\\par\n";
@@ -111,11 +113,13 @@ private:
         if (!t.wrap) {
             const double width = textWidth(f, shown);
             if (width > t.rect.width()) {
-                f.size *= std::max(0.7, t.rect.width() / width);
-                while (shown.size() > 1 && textWidth(f, shown + u"…"_s) > t.rect.width())
-                    shown.chop(1);
-                if (shown != t.text)
+                f.size *= std::max(0.7, 0.98 * t.rect.width() / width);
+                // Shortened only when even the smaller size does not fit.
+                if (textWidth(f, shown) > t.rect.width()) {
+                    while (shown.size() > 1 && textWidth(f, shown + u"…"_s) > t.rect.width())
+                        shown.chop(1);
                     shown += u"…"_s;
+                }
             }
         }
         // A line of text is centred in its box as the painter centres it.
@@ -161,7 +165,8 @@ private:
     }
 
     // A chart as a picture at 200 dots an inch, in a frame where the page has it.
-    static QByteArray picture(const ChartElement& c) {
+    // A chart or a picture as drawn into its box, embedded as PNG.
+    template <class Element> static QByteArray picture(const Element& c) {
         const double dotsPerMm = 200 / 25.4;
         QImage image(QSize(std::lround(c.rect.width() * dotsPerMm), std::lround(c.rect.height() * dotsPerMm)),
                      QImage::Format_RGB32);
@@ -170,7 +175,11 @@ private:
         image.fill(Qt::white);
         {
             QPainter painter(&image);
-            paintChart(painter, c, QRectF(QPointF(0, 0), QSizeF(image.size())), 1.0);
+            const QRectF all(QPointF(0, 0), QSizeF(image.size()));
+            if constexpr (std::is_same_v<Element, ChartElement>)
+                paintChart(painter, c, all, 1.0);
+            else
+                paintImage(painter, c, all);
         }
         QByteArray png;
         QBuffer buffer(&png);

@@ -2,6 +2,9 @@
 
 #include "platform/report/ReportErrors.h"
 
+#include <QLocale>
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -32,7 +35,7 @@ QStringList Template::fieldsOf(const QString& text) {
         [&](const QString& place) {
             const QString name = place.section(u'|', 0, 0).trimmed();
             if (name.contains(u'.') && !name.startsWith(u'@'))
-                fields << name;
+                fields << (place.section(u'|', 1).trimmed() == u"âge" ? name + u"|âge"_s : name);
         },
         [](const QString&) {});
     return fields;
@@ -41,7 +44,7 @@ QStringList Template::fieldsOf(const QString& text) {
 Template::Template(const QString& text, const ReportData& data, const std::map<QString, QString>& formulas,
                    const QString& title, const QString& today)
     : data_(&data) {
-    auto literal = [&](const QString& t) {
+    auto append = [&](const QString& t) {
         if (t.isEmpty())
             return;
         if (!segments_.empty() && segments_.back().kind == Kind::Literal)
@@ -49,29 +52,65 @@ Template::Template(const QString& text, const ReportData& data, const std::map<Q
         else
             segments_.push_back({Kind::Literal, t});
     };
+    // A part between brackets that holds a field is left out when its fields are all empty; brackets
+    // around plain text stay as they are.
+    qsizetype open = -1;
+    auto literal = [&](const QString& t) {
+        for (const QChar c : t) {
+            if (c == u'[' && open < 0) {
+                open = static_cast<qsizetype>(segments_.size());
+                segments_.push_back({Kind::Open, {}});
+            } else if (c == u']' && open >= 0) {
+                const bool withField =
+                    std::any_of(segments_.begin() + open, segments_.end(), [](const Segment& s) {
+                        return s.kind == Kind::Column || s.kind == Kind::Fixed;
+                    });
+                if (withField) {
+                    segments_.push_back({Kind::Close, {}});
+                } else {
+                    segments_[open] = {Kind::Literal, u"["_s};
+                    append(u"]"_s);
+                }
+                open = -1;
+            } else {
+                append(QString(c));
+            }
+        }
+    };
     scan(
         text,
         [&](const QString& place) {
-            const QString name = place.section(u'|', 0, 0).trimmed();
             const QString filter = place.section(u'|', 1).trimmed();
-            const bool upper = filter == u"majuscules";
-            if (!filter.isEmpty() && !upper)
+            const bool upper = filter == u"majuscules", age = filter == u"âge";
+            const QString name = place.section(u'|', 0, 0).trimmed() + (age ? u"|âge"_s : QString());
+            if (!filter.isEmpty() && !upper && !age)
                 throw VbError(report_error::layout_invalid,
                               u"Filtre « %1 » inconnu dans {%2}"_s.arg(filter, place));
             auto shown = [&](const QString& v) { return upper ? v.toUpper() : v; };
             if (name.startsWith(u'@')) {
                 const auto it = formulas.find(name.mid(1));
-                literal(it == formulas.end() ? QString() : shown(it->second));
+                append(it == formulas.end() ? QString() : shown(it->second));
             } else if (name.contains(u'.')) {
                 const int column = data.columnOf(name);
                 if (column >= 0)
                     segments_.push_back({Kind::Column, {}, column, upper});
                 else
-                    literal(shown(data.sideValue(name)));
+                    segments_.push_back({Kind::Fixed, shown(data.sideValue(name))});
             } else if (name == u"titre") {
-                literal(shown(title));
+                append(shown(title));
             } else if (name == u"date") {
-                literal(today);
+                append(today);
+            } else if (name == u"date de référence") {
+                append(data.reference().toString(u"dd/MM/yyyy"_s));
+            } else if (name == u"année scolaire") {
+                // The school year of the reference date, which begins on the first of September.
+                const QDate d = data.reference();
+                const int start = d.month() >= 9 ? d.year() : d.year() - 1;
+                append(u"%1-%2"_s.arg(start).arg(start + 1));
+            } else if (name == u"mois") {
+                const QLocale french(QLocale::French);
+                append(shown(french.standaloneMonthName(data.reference().month()) + u' ' +
+                             QString::number(data.reference().year())));
             } else if (name == u"page") {
                 segments_.push_back({Kind::Page, {}, -1, false});
             } else if (name == u"pages") {
@@ -87,20 +126,39 @@ Template::Template(const QString& text, const ReportData& data, const std::map<Q
             }
         },
         literal);
+    if (open >= 0) // never closed: its bracket is text
+        segments_[open] = {Kind::Literal, u"["_s};
 }
 
 QString Template::render(int row, const Counters& c) const {
     if (segments_.size() == 1 && segments_.front().kind == Kind::Literal)
         return segments_.front().text;
     QString out;
+    qsizetype mark = 0;
+    bool filled = false;
     for (const Segment& s : segments_) {
         switch (s.kind) {
         case Kind::Literal:
             out += s.text;
             break;
+        case Kind::Fixed:
+            out += s.text;
+            filled = filled || !s.text.isEmpty();
+            break;
+        case Kind::Open:
+            mark = out.size();
+            filled = false;
+            break;
+        case Kind::Close:
+            if (!filled)
+                out.truncate(mark);
+            break;
         case Kind::Column:
-            if (row >= 0)
-                out += s.upper ? data_->value(row, s.column).toUpper() : data_->value(row, s.column);
+            if (row >= 0) {
+                const QStringView v = data_->value(row, s.column);
+                out += s.upper ? v.toString().toUpper() : v;
+                filled = filled || !v.isEmpty();
+            }
             break;
         case Kind::Page:
             out += QString::number(c.page);
@@ -126,6 +184,12 @@ int Template::soleColumn() const {
     return segments_.size() == 1 && segments_.front().kind == Kind::Column && !segments_.front().upper
                ? segments_.front().column
                : -1;
+}
+
+bool Template::readsRows() const {
+    return std::any_of(segments_.begin(), segments_.end(), [](const Segment& s) {
+        return s.kind == Kind::Column || s.kind == Kind::Number || s.kind == Kind::Count;
+    });
 }
 
 bool Template::isSoleNumber() const {

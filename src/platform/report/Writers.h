@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QByteArray>
+#include <vector>
+
 #include "platform/report/RenderedReport.h"
 
 class QIODevice;
@@ -14,10 +17,11 @@ void writePdf(const RenderedReport& report, QIODevice& device);
 // shapes, a chart as a picture; a word processor shows the same pages.
 void writeRtf(const RenderedReport& report, QIODevice& device);
 
-// A workbook of the spreadsheet format of the 97 to 2003 versions (BIFF8 in a compound file): one
-// sheet of the report's rows, texts as texts, numbers as numbers, dates as dates. A sheet holds 65,536
-// rows; more raise report_error::too_many_rows.
+// A workbook of the spreadsheet format of the 97 to 2003 versions (BIFF8 in a compound file): the
+// report's rows, texts as texts, numbers as numbers, dates as dates. A sheet holds 65,536 rows: past
+// them the rows go on in the next sheet, under the same headings.
 void writeXls(const RenderedReport& report, QIODevice& device);
 
-// The compound file (the container of the format above) holding one stream named `streamName`.
-QByteArray compoundFile(const QString& streamName, const QByteArray& stream);
+// The compound file (the container of the format above) holding one stream named `streamName`, given
+// in pieces.
+void writeCompoundFile(QIODevice& device, const QString& streamName, const std::vector<QByteArray>& stream);

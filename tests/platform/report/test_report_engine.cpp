@@ -92,6 +92,36 @@ TEST(LayoutFile, a_missing_file_or_a_wrong_line_fails_with_its_place) {
     EXPECT_EQ(l.margins, QMarginsF(4, 1, 2, 3.5));
 }
 
+// A family twice in the file does not double its pupils; its parents unfold into a line each when
+// named, in the order of their names.
+TEST_F(PetiteBase, a_join_never_adds_a_row_and_a_row_unfolds_into_its_named_lines) {
+    exécuter_par_le_moteur(base, u"INSERT INTO familles (référence_famille) VALUES ('000001')"_s);
+    EXPECT_EQ(élèves(u""_s), 4);
+    exécuter_par_le_moteur(base,
+                           u"UPDATE familles SET nom_responsable_légal = 'Martin', nom_conjoint = 'Abel'"_s);
+    layout = parseLayout(
+        u"[données]\ntable = élèves\nlien = élèves.référence_famille = familles.référence_famille\n"
+        "unique = familles.référence_famille\ntri = ligne.nom\n[lignes]\nvaleurs = nom | qui\n"
+        "ligne = {familles.nom_responsable_légal} | 1\nligne = {familles.nom_conjoint} | 2\n"
+        "[liste]\ncolonne = N° | 1 | gauche | {ligne.nom}\n"_s,
+        u"essai.rpt"_s);
+    const ReportData lignes = ReportData::load(layout, base, {}, {u"ligne.nom"_s, u"ligne.qui"_s});
+    ASSERT_EQ(lignes.rowCount(), 4);
+    EXPECT_EQ(lignes.value(0, 0), u"Abel"_s);
+    EXPECT_EQ(lignes.value(3, 1), u"1"_s);
+}
+
+TEST(LayoutFile, the_reference_date_falls_in_the_school_year_of_the_day) {
+    Layout l;
+    const QDate octobre(2025, 10, 15), mars(2026, 3, 15);
+    EXPECT_EQ(l.reference(mars), mars);
+    l.referenceDate = u"31/12"_s;
+    EXPECT_EQ(l.reference(octobre), QDate(2025, 12, 31));
+    EXPECT_EQ(l.reference(mars), QDate(2025, 12, 31));
+    l.referenceDate = u"30/06"_s;
+    EXPECT_EQ(l.reference(octobre), QDate(2026, 6, 30));
+}
+
 TEST_F(PetiteBase, a_layout_naming_an_unknown_column_fails_the_run) {
     layout.columns[0].content = u"{élèves.âge_du_capitaine}"_s;
     EXPECT_EQ(error_of([&] { ReportData::load(layout, base, {}, {u"élèves.âge_du_capitaine"_s}); }),
