@@ -18,24 +18,15 @@
 
 using namespace Qt::StringLiterals;
 
-// The labels and help texts that speak of databases are the chooser's, kept here as they are.
 feuille_choix_photo::feuille_choix_photo() : Feuille(u"feuille_choix_photo"_s) {
     setWindowTitle(u"Sélection de la photo de l'enfant"_s);
     auto* grille = new QGridLayout(this);
-    grille->addWidget(légende_de_liste("Lecteurs", this), 0, 0);
-    Drive1 = nommé(new DriveListBox(this), "Drive1",
-                   "Sélectionnez le lecteur sur lequel se trouve la base de données");
-    grille->addWidget(Drive1, 1, 0);
-    grille->addWidget(légende_de_liste("Dossiers", this), 2, 0);
-    Dir1 = nommé(new DirListBox(this), "Dir1", "Sélectionnez le dossier dans l'arborescence");
-    Dir1->setMinimumSize(220, 180);
-    grille->addWidget(Dir1, 3, 0);
-    grille->addWidget(légende_de_liste("Bases de données", this), 0, 1);
-    File1 = nommé(new FileListBox(this), "File1",
-                  "Sélectionnez la base de données sur laquelle vous souhaitez travailler");
+    // The labels and help texts that speak of databases are the chooser's, kept here as they are.
+    const ListesDeFichiers listes = poser_listes(*grille, this, textes_du_choix_de_base);
+    Drive1 = listes.Drive1;
+    Dir1 = listes.Dir1;
+    File1 = listes.File1;
     File1->setPattern(u"*.jpg ; *.gif ; *.bmp"_s);
-    File1->setMinimumSize(200, 180);
-    grille->addWidget(File1, 1, 1, 3, 1);
     apercu = nommé(new QLabel(this), "apercu", "");
     apercu->setFrameShape(QFrame::Box);
     apercu->setFixedSize(en_pixels(1215) + 40, en_pixels(1575) + 50);

@@ -54,23 +54,14 @@ QString feuille_chemin::action_restauration() {
 feuille_chemin::feuille_chemin() : Feuille(u"feuille_chemin"_s) {
     setWindowTitle(u"Choix du chemin d'accès"_s);
     auto* grille = new QGridLayout(this);
-    grille->setContentsMargins(14, 12, 14, 12);
-    grille->setHorizontalSpacing(14);
-    grille->setVerticalSpacing(4);
-
-    grille->addWidget(légende_de_liste("Lecteurs", this), 0, 0);
-    Drive1 = nommé(new DriveListBox(this), "Drive1", "Cliquez pour sélectionner un lecteur");
-    grille->addWidget(Drive1, 1, 0);
-    grille->addWidget(légende_de_liste("Dossiers", this), 2, 0);
-    Dir1 = nommé(new DirListBox(this), "Dir1",
-                 "liste des dossiers du lecteur sélectionné - Cliquez pour ouvrir un dossier");
-    Dir1->setMinimumSize(240, 200);
-    grille->addWidget(Dir1, 3, 0);
-    grille->addWidget(légende_de_liste("Fichiers", this), 0, 1);
-    File1 = nommé(new FileListBox(this), "File1",
-                  "Liste des fichiers se trouvant dans le dossier sélectionné (non modifiable)");
-    File1->setMinimumSize(220, 200);
-    grille->addWidget(File1, 1, 1, 3, 1);
+    const ListesDeFichiers listes = poser_listes(
+        *grille, this,
+        {"Cliquez pour sélectionner un lecteur",
+         "liste des dossiers du lecteur sélectionné - Cliquez pour ouvrir un dossier", "Fichiers",
+         "Liste des fichiers se trouvant dans le dossier sélectionné (non modifiable)"});
+    Drive1 = listes.Drive1;
+    Dir1 = listes.Dir1;
+    File1 = listes.File1;
 
     Label1 = new QLineEdit(this);
     Label1->setObjectName(u"Label1"_s);

@@ -25,25 +25,11 @@ using namespace Qt::StringLiterals;
 feuille_choix_base::feuille_choix_base() : Feuille(u"feuille_choix_base"_s) {
     setWindowTitle(u"Sélection de la base de travail"_s);
     auto* grille = new QGridLayout(this);
-    grille->setContentsMargins(14, 12, 14, 12);
-    grille->setHorizontalSpacing(14);
-    grille->setVerticalSpacing(4);
-
-    grille->addWidget(légende_de_liste("Lecteurs", this), 0, 0);
-    Drive1 = nommé(new DriveListBox(this), "Drive1",
-                   "Sélectionnez le lecteur sur lequel se trouve la base de données");
-    grille->addWidget(Drive1, 1, 0);
-    grille->addWidget(légende_de_liste("Dossiers", this), 2, 0);
-    Dir1 = nommé(new DirListBox(this), "Dir1", "Sélectionnez le dossier dans l'arborescence");
-    Dir1->setMinimumSize(240, 200);
-    grille->addWidget(Dir1, 3, 0);
-
-    grille->addWidget(légende_de_liste("Bases de données", this), 0, 1);
-    File1 = nommé(new FileListBox(this), "File1",
-                  "Sélectionnez la base de données sur laquelle vous souhaitez travailler");
+    const ListesDeFichiers listes = poser_listes(*grille, this, textes_du_choix_de_base);
+    Drive1 = listes.Drive1;
+    Dir1 = listes.Dir1;
+    File1 = listes.File1;
     File1->setPattern(u"*.mdb"_s);
-    File1->setMinimumSize(220, 200);
-    grille->addWidget(File1, 1, 1, 3, 1);
 
     grille->addWidget(légende_de_liste("Base de données sélectionnée", this), 4, 0, 1, 2);
     Label4 = new ÉtiquetteÉlidée(this);
